@@ -1,0 +1,34 @@
+# Compiler settings that all targets share.
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_C_COMPILER_LAUNCHER ${CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()
+
+add_library(quillvane_settings INTERFACE)
+target_include_directories(quillvane_settings INTERFACE ${PROJECT_SOURCE_DIR}/src)
+target_compile_options(quillvane_settings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Werror)
+target_compile_definitions(quillvane_settings INTERFACE QUILLVANE_VERSION="${PROJECT_VERSION}")
+
+if(QUILLVANE_SANITIZE)
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+endif()
+
+if(WIN32)
+  # Single executables that need nothing installed, the UTF-8 text inside them as it stands.
+  add_compile_definitions(UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX _WIN32_WINNT=0x0601)
+  add_link_options(-static)
+endif()
+
+# quillvane_library(NAME FOLDER [LINK libraries...]) makes a static library of the sources of one
+# folder of src/; tests that lie beside the sources are left to the test program.
+function(quillvane_library name folder)
+  cmake_parse_arguments(ARG "" "" "LINK" ${ARGN})
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
+  list(FILTER sources EXCLUDE REGEX "_test\\.cpp$")
+  add_library(${name} STATIC ${sources})
+  target_link_libraries(${name} PUBLIC quillvane_settings ${ARG_LINK})
+endfunction()

@@ -1,0 +1,30 @@
+// Message boxes and dialogs of the system.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace quillvane {
+
+// Styles of message boxes, as Windows numbers them.
+inline constexpr std::uint32_t kBoxYesNo = 4;
+inline constexpr std::uint32_t kBoxIconError = 16;
+inline constexpr std::uint32_t kBoxIconQuestion = 32;
+inline constexpr std::uint32_t kBoxIconWarning = 48;
+inline constexpr std::uint32_t kBoxIconInformation = 64;
+inline constexpr std::uint32_t kBoxSystemModal = 4096;
+
+// As Windows numbers them.
+enum class Answer { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
+
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+
+  // Shows a box and waits for the answer. With kBoxYesNo in `style` it is a question, answered
+  // kYes or kNo; otherwise a message, answered kOk.
+  virtual Answer message_box(const std::string& text, const std::string& title,
+                             std::uint32_t style) = 0;
+};
+
+}  // namespace quillvane

@@ -1,0 +1,127 @@
+// What a walk of one folder and everything below it has read: names, sizes and times, kept
+// compactly. A folder of files is one block of fixed records followed by their names, so that
+// a million files cost little more than their names.
+//
+// Built by a platform's FileSystem::read_tree, read by the walker; the rows of the hit list keep
+// the tree alive and read their texts from it.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <string_view>
+#include <vector>
+
+#include "platform/file_time.h"
+
+namespace quillvane {
+
+// One file as a listing gives it. `name` points into the tree.
+struct ListedFile {
+  std::string_view name;
+  std::uint32_t size_high = 0;  // upper and lower word of the size in bytes
+  std::uint32_t size_low = 0;
+  FileTime created;
+  FileTime accessed;
+  FileTime modified;
+};
+
+// A stock of memory for one reading thread. Blocks live as long as the tree.
+class TreeArena {
+ public:
+  // Room for `bytes`, aligned for any record of the tree.
+  char* allocate(std::size_t bytes) {
+    bytes = (bytes + 7) & ~std::size_t{7};
+    if (bytes > left_) refill(bytes);
+    char* place = next_;
+    next_ += bytes;
+    left_ -= bytes;
+    return place;
+  }
+
+ private:
+  void refill(std::size_t bytes);
+
+  std::vector<std::unique_ptr<char[]>> chunks_;
+  char* next_ = nullptr;
+  std::size_t left_ = 0;
+};
+
+// One folder of the tree: its files that matched the pattern, and all its subfolders, each in the
+// order of the file system. Made in an arena, never moved.
+class ListedFolder {
+ public:
+  // Name without path; empty for the root of the walk.
+  [[nodiscard]] std::string_view name() const { return {name_, name_length_}; }
+
+  [[nodiscard]] const ListedFolder* parent() const { return parent_; }
+  [[nodiscard]] const ListedFolder* first_subfolder() const { return first_subfolder_; }
+  [[nodiscard]] const ListedFolder* next_sibling() const { return next_sibling_; }
+
+  [[nodiscard]] std::uint32_t file_count() const { return file_count_; }
+  [[nodiscard]] ListedFile file(std::uint32_t index) const {
+    const FixedRecord& record = records_[index];
+    return {name_of(index),        record.size_high,       record.size_low,
+            record.created.time(), record.accessed.time(), record.modified.time()};
+  }
+  [[nodiscard]] std::string_view name_of(std::uint32_t index) const {
+    const char* names = reinterpret_cast<const char*>(records_ + file_count_);
+    const std::uint32_t begin = index == 0 ? 0 : records_[index - 1].name_end;
+    return {names + begin, records_[index].name_end - begin};
+  }
+
+  // The building side, for read_tree. All words are 32 bits wide, so that nothing is padded.
+  struct SplitTime {
+    std::uint32_t low;
+    std::uint32_t high;
+
+    static SplitTime of(FileTime time) {
+      const auto ticks = static_cast<std::uint64_t>(time.ticks);
+      return {static_cast<std::uint32_t>(ticks), static_cast<std::uint32_t>(ticks >> 32U)};
+    }
+    [[nodiscard]] FileTime time() const {
+      return {static_cast<std::int64_t>(std::uint64_t{high} << 32U | low)};
+    }
+  };
+  struct FixedRecord {
+    std::uint32_t size_low;
+    std::uint32_t size_high;
+    SplitTime created;
+    SplitTime accessed;
+    SplitTime modified;
+    std::uint32_t name_end;  // offset behind this name in the block's names
+  };
+  static_assert(sizeof(FixedRecord) == 36);
+  static ListedFolder* make(TreeArena& arena, std::string_view name, const ListedFolder* parent);
+  void set_first_subfolder(ListedFolder* folder) { first_subfolder_ = folder; }
+  void set_next_sibling(ListedFolder* folder) { next_sibling_ = folder; }
+  // Takes room for `count` records and `names_length` bytes of names behind them.
+  FixedRecord* allocate_files(TreeArena& arena, std::uint32_t count, std::size_t names_length);
+
+ private:
+  const ListedFolder* parent_ = nullptr;
+  ListedFolder* first_subfolder_ = nullptr;
+  ListedFolder* next_sibling_ = nullptr;
+  FixedRecord* records_ = nullptr;
+  const char* name_ = nullptr;
+  std::uint32_t file_count_ = 0;
+  std::uint32_t name_length_ = 0;
+};
+
+class FolderTree {
+ public:
+  // The folder that the walk began with.
+  [[nodiscard]] const ListedFolder& root() const { return *root_; }
+
+  // The building side. Each reading thread takes an arena of its own.
+  TreeArena& add_arena();
+  void set_root(const ListedFolder* root) { root_ = root; }
+
+ private:
+  std::mutex adding_;
+  std::vector<std::unique_ptr<TreeArena>> arenas_;
+  const ListedFolder* root_ = nullptr;
+};
+
+}  // namespace quillvane

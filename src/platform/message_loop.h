@@ -1,0 +1,34 @@
+// The message loop of the program's one thread, its timers and its clock.
+//
+// Handlers run only inside do_events and wait; they may call do_events again.
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+
+#include "platform/file_time.h"
+
+namespace quillvane {
+
+class MessageLoop {
+ public:
+  using TimerId = int;
+
+  virtual ~MessageLoop() = default;
+
+  // Serves the loop once: the timers that are due and the acts of the user that are waiting.
+  virtual void do_events() = 0;
+
+  // Serves the loop until more than `time` has passed; at least once.
+  virtual void wait(std::chrono::milliseconds time) = 0;
+
+  // Calls `tick` each `interval` until stop_timer. A tick that is late is served once, not made up.
+  virtual TimerId start_timer(std::chrono::milliseconds interval, std::function<void()> tick) = 0;
+  virtual void stop_timer(TimerId timer) = 0;
+
+  // Date and time of the machine, as its clock on the wall shows it (local time).
+  [[nodiscard]] virtual FileTime local_now() const = 0;
+};
+
+}  // namespace quillvane

@@ -1,0 +1,30 @@
+// Everything the program asks of the machine it works on, one object a concern.
+//
+// Two families stand behind it: platform/win32 (this PC) and platform/folder (a Windows machine
+// held in a folder). The calls are narrow on purpose, so that a further layer can stand between
+// the behaviour and the machine.
+#pragma once
+
+#include "platform/dialogs.h"
+#include "platform/drives.h"
+#include "platform/environment.h"
+#include "platform/event_log.h"
+#include "platform/file_system.h"
+#include "platform/message_loop.h"
+#include "platform/registry.h"
+#include "platform/system_info.h"
+
+namespace quillvane {
+
+struct Platform {
+  FileSystem& files;
+  Drives& drives;
+  Registry& registry;
+  Environment& environment;
+  SystemInfo& system;
+  SystemEventLog& event_log;
+  MessageLoop& loop;
+  Dialogs& dialogs;
+};
+
+}  // namespace quillvane

@@ -1,0 +1,78 @@
+// The registry of the machine.
+//
+// Key paths are written with backslashes ("Software\Quillvane"), a trailing one is ignored; case
+// never matters in the names of keys and values. Data are the bytes that RegQueryValueExA gives:
+// texts in the program's code page with the terminators that were stored, numbers in little-endian
+// order. The value with the empty name is the key's default value.
+// No call throws or shows a message: failure is the return value.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillvane {
+
+enum class Hive { kClassesRoot, kCurrentUser, kLocalMachine, kUsers };
+
+// Value types, as Windows numbers them. Other numbers occur and are passed through.
+enum class RegistryType : std::uint32_t {
+  kNone = 0,
+  kSz = 1,
+  kExpandSz = 2,
+  kBinary = 3,
+  kDword = 4,
+  kDwordBigEndian = 5,
+  kLink = 6,
+  kMultiSz = 7,
+  kResourceList = 8,
+  kFullResourceDescriptor = 9,
+  kResourceRequirementsList = 10,
+  kQword = 11,
+};
+
+struct RegistryValue {
+  RegistryType type = RegistryType::kNone;
+  std::string data;
+
+  friend bool operator==(const RegistryValue&, const RegistryValue&) = default;
+};
+
+struct NamedRegistryValue {
+  std::string name;
+  RegistryValue value;
+};
+
+// Which half of the registry a 32-bit program on 64-bit Windows sees. The machine folder has one
+// half only and answers both alike.
+enum class RegistryView { kOwn, k64Bit };
+
+class Registry {
+ public:
+  virtual ~Registry() = default;
+
+  // Names of the keys directly below, in the registry's order; nothing when the key cannot be
+  // opened.
+  [[nodiscard]] virtual std::optional<std::vector<std::string>> sub_keys(
+      Hive hive, const std::string& key) const = 0;
+
+  // Values in the registry's order; nothing when the key cannot be opened.
+  [[nodiscard]] virtual std::optional<std::vector<NamedRegistryValue>> values(
+      Hive hive, const std::string& key) const = 0;
+
+  // One value; nothing when key or value are missing or cannot be read.
+  [[nodiscard]] virtual std::optional<RegistryValue> value(
+      Hive hive, const std::string& key, const std::string& name,
+      RegistryView view = RegistryView::kOwn) const = 0;
+
+  // Makes the key and every missing one above it. True when it is there afterwards.
+  [[nodiscard]] virtual bool create_key(Hive hive, const std::string& key) = 0;
+
+  // Writes a value of an existing key, at one stroke. False when the key is missing or the rights
+  // are.
+  [[nodiscard]] virtual bool set_value(Hive hive, const std::string& key, const std::string& name,
+                                       const RegistryValue& value) = 0;
+};
+
+}  // namespace quillvane

@@ -1,0 +1,45 @@
+// What the machine tells about itself and about the running program.
+#pragma once
+
+#include <string>
+
+namespace quillvane {
+
+// The order in which the system reads and writes the parts of a short date.
+enum class DateOrder { kMonthDayYear, kDayMonthYear, kYearMonthDay };
+
+// A calendar date and time of day.
+struct DateTime {
+  int year = 0;
+  int month = 0;  // 1 to 12
+  int day = 0;    // 1 to 31
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+
+  friend bool operator==(const DateTime&, const DateTime&) = default;
+};
+
+class SystemInfo {
+ public:
+  virtual ~SystemInfo() = default;
+
+  // Folder of the program's executable, which is also its data folder; no backslash at its end.
+  [[nodiscard]] virtual std::string program_folder() const = 0;
+
+  // Whether this is a 32-bit program on 64-bit Windows (IsWow64Process); false on any error.
+  [[nodiscard]] virtual bool is_wow64() const = 0;
+
+  // The system's 8-bit code page, as GetACP answers.
+  [[nodiscard]] virtual int ansi_code_page() const = 0;
+
+  // The sign between whole and fraction of a number, such as ".".
+  [[nodiscard]] virtual std::string decimal_separator() const = 0;
+
+  [[nodiscard]] virtual DateOrder date_order() const = 0;
+
+  // A date and time in the system's format ("3/7/2013 9:05:00 AM"); only the date at midnight.
+  [[nodiscard]] virtual std::string format_date(const DateTime& date) const = 0;
+};
+
+}  // namespace quillvane

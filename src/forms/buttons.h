@@ -1,0 +1,106 @@
+// Controls that are clicked: buttons, labels, pictures, check boxes, options and menu entries.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace quillvane {
+
+// What all clickable controls share: a caption and the Click event.
+class Clickable : public Control {
+ public:
+  using Control::Control;
+
+  [[nodiscard]] const std::string& caption() const { return caption_; }
+  void set_caption(std::string_view caption);
+  [[nodiscard]] const std::string& tool_tip() const { return tool_tip_; }
+  void set_tool_tip(std::string_view text) { tool_tip_ = text; }
+
+  // The user's click. Does nothing while the control is disabled.
+  virtual void click();
+
+  // Besides the common ones: Caption, and Text with the same content.
+  [[nodiscard]] std::optional<PropertyValue> property(std::string_view name) const override;
+
+  std::function<void()> on_click;
+
+ private:
+  std::string caption_;
+  std::string tool_tip_;
+};
+
+class Button : public Clickable {
+ public:
+  using Clickable::Clickable;
+};
+
+class Label : public Clickable {
+ public:
+  using Clickable::Clickable;
+};
+
+// A picture; what it shows is the view's.
+class Picture : public Clickable {
+ public:
+  using Clickable::Clickable;
+};
+
+// A box with a tick. A click turns the tick over and then runs on_click.
+class CheckBox : public Clickable {
+ public:
+  using Clickable::Clickable;
+
+  [[nodiscard]] bool checked() const { return checked_; }
+  // Sets the tick; runs on_click when it changed, as the standard control does.
+  void set_checked(bool checked);
+  void click() override;
+  // Besides the others: Value, 1 or 0.
+  [[nodiscard]] std::optional<PropertyValue> property(std::string_view name) const override;
+
+ private:
+  bool checked_ = false;
+};
+
+// One of a group of choices.
+class OptionButton : public Clickable {
+ public:
+  using Clickable::Clickable;
+
+  [[nodiscard]] bool chosen() const { return chosen_; }
+  // Chooses it, takes the choice from the others of its group, and runs on_click.
+  void choose();
+  void click() override;
+  // The options among which one is chosen; the same list for all of them.
+  void set_group(std::vector<OptionButton*> group) { group_ = std::move(group); }
+  // Besides the others: Value, true or false.
+  [[nodiscard]] std::optional<PropertyValue> property(std::string_view name) const override;
+
+ private:
+  bool chosen_ = false;
+  std::vector<OptionButton*> group_;
+};
+
+class MenuEntry : public Clickable {
+ public:
+  MenuEntry(Window& window, std::string_view name, std::string_view caption)
+      : Clickable(window, name) {
+    set_caption(caption);
+  }
+};
+
+// A popup menu. Entries stand in their order; separators are drawn before the entries named so.
+class Menu : public Control {
+ public:
+  Menu(Window& window, std::string_view name, std::vector<MenuEntry*> entries)
+      : Control(window, name), entries_(std::move(entries)) {}
+
+  [[nodiscard]] const std::vector<MenuEntry*>& entries() const { return entries_; }
+
+ private:
+  std::vector<MenuEntry*> entries_;
+};
+
+}  // namespace quillvane

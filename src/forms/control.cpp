@@ -1,0 +1,58 @@
+#include "forms/control.h"
+
+#include <algorithm>
+
+#include "forms/window.h"
+#include "platform/unicode_case.h"
+
+namespace quillvane {
+
+Control::Control(Window& window, std::string_view name) : window_(window), name_(name) {
+  window_.add_control(*this);
+}
+
+void Control::set_enabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  notify(Change::kEnabled);
+}
+
+void Control::set_visible(bool visible) {
+  if (visible_ == visible) return;
+  visible_ = visible;
+  notify(Change::kVisible);
+}
+
+void Control::set_fore_color(Color color) {
+  if (fore_color_ == color) return;
+  fore_color_ = color;
+  notify(Change::kColor);
+}
+
+void Control::set_back_color(Color color) {
+  if (back_color_ == color) return;
+  back_color_ = color;
+  notify(Change::kColor);
+}
+
+void Control::move(int left, int top) {
+  if (left_ == left && top_ == top) return;
+  left_ = left;
+  top_ = top;
+  notify(Change::kPosition);
+}
+
+std::optional<PropertyValue> Control::property(std::string_view name) const {
+  const std::string key = lower_case(name);
+  if (key == "enabled") return enabled_;
+  if (key == "visible") return visible_;
+  if (key == "forecolor") return std::int64_t{fore_color_};
+  if (key == "backcolor") return std::int64_t{back_color_};
+  if (key == "left") return std::int64_t{left_};
+  if (key == "top") return std::int64_t{top_};
+  return std::nullopt;
+}
+
+void Control::unobserve(const ControlObserver& observer) { std::erase(observers_, &observer); }
+
+}  // namespace quillvane

@@ -1,0 +1,102 @@
+// The base of all control models.
+//
+// A model knows nothing of a screen. Setting a property tells its observers; a view observes and
+// draws. Acts of the user arrive as calls on the model, so that a script and a mouse take the same
+// way in.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace quillvane {
+
+class Control;
+class Window;
+
+// What changed in a control.
+enum class Change {
+  kText,
+  kCaption,
+  kEnabled,
+  kVisible,
+  kValue,
+  kColor,
+  kPosition,
+  kItems,      // rows, nodes or entries were added, removed or rewritten
+  kItemState,  // ticks or selection of items
+  kRefresh,    // the program asks for a redraw
+};
+
+class ControlObserver {
+ public:
+  virtual ~ControlObserver() = default;
+  virtual void changed(Control& control, Change what) = 0;
+};
+
+// The value of a property or of a window's field, as scripts read it.
+using PropertyValue = std::variant<bool, std::int64_t, double, std::string>;
+
+// 0x00BBGGRR, as Windows writes colours.
+using Color = std::uint32_t;
+
+class Control {
+ public:
+  // Adds itself to the window under `name`; the window must outlive it.
+  Control(Window& window, std::string_view name);
+  virtual ~Control() = default;
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+  // As the window's code calls it; elements of a control array have their index: "Label12(0)".
+  [[nodiscard]] const std::string& name() const { return name_; }
+  [[nodiscard]] Window& window() const { return window_; }
+
+  [[nodiscard]] bool enabled() const { return enabled_; }
+  void set_enabled(bool enabled);
+  [[nodiscard]] bool visible() const { return visible_; }
+  void set_visible(bool visible);
+  void show() { set_visible(true); }
+  void hide() { set_visible(false); }
+  [[nodiscard]] Color fore_color() const { return fore_color_; }
+  void set_fore_color(Color color);
+  [[nodiscard]] Color back_color() const { return back_color_; }
+  void set_back_color(Color color);
+
+  // Place in the window, in twips (a fifteenth of a pixel at 96 dpi).
+  [[nodiscard]] int left() const { return left_; }
+  [[nodiscard]] int top() const { return top_; }
+  void move(int left, int top);
+  void move_to(const Control& other) { move(other.left(), other.top()); }
+
+  void refresh() { notify(Change::kRefresh); }
+
+  // A property by its name without regard to case ("text", "Enabled"); nothing when this kind of
+  // control has none of that name.
+  [[nodiscard]] virtual std::optional<PropertyValue> property(std::string_view name) const;
+
+  // `observer` must outlive the control or be removed before.
+  void observe(ControlObserver& observer) { observers_.push_back(&observer); }
+  void unobserve(const ControlObserver& observer);
+
+ protected:
+  void notify(Change what) {
+    for (ControlObserver* observer : observers_) observer->changed(*this, what);
+  }
+
+ private:
+  Window& window_;
+  std::string name_;
+  std::vector<ControlObserver*> observers_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  Color fore_color_ = 0;
+  Color back_color_ = 0;
+  int left_ = 0;
+  int top_ = 0;
+};
+
+}  // namespace quillvane

@@ -1,0 +1,26 @@
+#include "forms/list_box.h"
+
+#include "platform/unicode_case.h"
+
+namespace quillvane {
+
+std::string ListBox::item(int index) const {
+  return index >= 0 && index < count() ? items_[static_cast<std::size_t>(index)] : std::string();
+}
+
+void ListBox::add(std::string_view text) {
+  items_.emplace_back(text);
+  notify(Change::kItems);
+}
+
+void ListBox::clear() {
+  items_.clear();
+  notify(Change::kItems);
+}
+
+std::optional<PropertyValue> ListBox::property(std::string_view name) const {
+  if (same_name(name, "count")) return std::int64_t{count()};
+  return Control::property(name);
+}
+
+}  // namespace quillvane

@@ -1,0 +1,30 @@
+// A plain list of strings. The windows keep hidden ones as working lists.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/control.h"
+
+namespace quillvane {
+
+class ListBox : public Control {
+ public:
+  using Control::Control;
+
+  [[nodiscard]] int count() const { return static_cast<int>(items_.size()); }
+  // Items count from 0, as in the handlers of the windows; empty when there is no such item.
+  [[nodiscard]] std::string item(int index) const;
+  [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
+  void add(std::string_view text);
+  void clear();
+
+  // Besides the common ones: Count.
+  [[nodiscard]] std::optional<PropertyValue> property(std::string_view name) const override;
+
+ private:
+  std::vector<std::string> items_;
+};
+
+}  // namespace quillvane

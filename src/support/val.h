@@ -1,0 +1,13 @@
+// Reading a number from the head of a text.
+#pragma once
+
+#include <string_view>
+
+namespace quillvane {
+
+// The number that `text` begins with, blanks inside passed over: a sign, digits with a point, an
+// exponent; "&h" begins a hexadecimal and "&o" an octal number. What follows the number is
+// ignored; 0 when there is none. Does not depend on the locale. All settings are read through this.
+[[nodiscard]] double Val(std::string_view text);
+
+}  // namespace quillvane

@@ -1,0 +1,40 @@
+#include "platform/virtual/queued_dialogs.h"
+
+namespace quillvane {
+
+namespace {
+
+// The low four bits of a style tell which buttons a box has.
+bool is_question(std::uint32_t style) { return (style & 0x0FU) == kBoxYesNo; }
+
+}  // namespace
+
+Answer QueuedDialogs::message_box(const std::string& text, const std::string& title,
+                                  std::uint32_t style) {
+  const bool question = is_question(style);
+  Answer given = question ? Answer::kNo : Answer::kOk;
+  if (!answers_.empty()) {
+    given = answers_.front();
+    answers_.pop_front();
+  }
+  boxes_.push_back(
+      {question ? "question" : "message", text, title, style, std::string(answer_name(given))});
+  effects_.add("box", {{"text", text}});
+  return given;
+}
+
+std::string_view answer_name(Answer answer) {
+  switch (answer) {
+    case Answer::kOk:
+      return "ok";
+    case Answer::kCancel:
+      return "cancel";
+    case Answer::kYes:
+      return "yes";
+    case Answer::kNo:
+      return "no";
+  }
+  return "";
+}
+
+}  // namespace quillvane

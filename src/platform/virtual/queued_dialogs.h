@@ -1,0 +1,52 @@
+// Message boxes that nobody sees: each is answered from a queue and kept for whoever asks what
+// was shown.
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/dialogs.h"
+#include "platform/virtual/effect_log.h"
+
+namespace quillvane {
+
+// A box that came up. Texts, so that dialogs which are answered by a path or an input fit in.
+struct ShownBox {
+  std::string kind;  // "message" or "question"
+  std::string text;
+  std::string title;
+  std::uint32_t style = 0;
+  std::string answer;  // "ok", "cancel", "yes" or "no"
+
+  friend bool operator==(const ShownBox&, const ShownBox&) = default;
+};
+
+class QueuedDialogs final : public Dialogs {
+ public:
+  // Each box is an effect too ("box" with its "text"), noted in `effects`.
+  explicit QueuedDialogs(EffectLog& effects) : effects_(effects) {}
+
+  // The answer to the next box that has none yet. It is given as it stands, whatever the buttons.
+  void answer(Answer answer) { answers_.push_back(answer); }
+
+  // With nothing queued a question is answered kNo, a message kOk.
+  Answer message_box(const std::string& text, const std::string& title,
+                     std::uint32_t style) override;
+
+  // The boxes since the last call.
+  [[nodiscard]] std::vector<ShownBox> take_boxes() { return std::exchange(boxes_, {}); }
+
+ private:
+  EffectLog& effects_;
+  std::deque<Answer> answers_;
+  std::vector<ShownBox> boxes_;
+};
+
+// "ok", "cancel", "yes" or "no".
+[[nodiscard]] std::string_view answer_name(Answer answer);
+
+}  // namespace quillvane

@@ -1,0 +1,79 @@
+#include "platform/virtual/queued_dialogs.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quillvane {
+namespace {
+
+constexpr std::uint32_t kConfirmStyle = kBoxYesNo | kBoxIconInformation;
+
+TEST(QueuedDialogs, AMessageIsAnsweredOkWhenNothingIsQueued) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  EXPECT_EQ(dialogs.message_box("Done.", "Quillvane", kBoxIconInformation), Answer::kOk);
+  EXPECT_EQ(dialogs.take_boxes(),
+            (std::vector<ShownBox>{{"message", "Done.", "Quillvane", 64, "ok"}}));
+}
+
+TEST(QueuedDialogs, AQuestionIsAnsweredNoWhenNothingIsQueued) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  EXPECT_EQ(dialogs.message_box("Sure?", "Please Confirm", kConfirmStyle), Answer::kNo);
+  EXPECT_EQ(dialogs.take_boxes(),
+            (std::vector<ShownBox>{{"question", "Sure?", "Please Confirm", 68, "no"}}));
+}
+
+TEST(QueuedDialogs, QueuedAnswersAreGivenInTheirOrderOneABox) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  dialogs.answer(Answer::kYes);
+  dialogs.answer(Answer::kCancel);
+  EXPECT_EQ(dialogs.message_box("1", "", kConfirmStyle), Answer::kYes);
+  EXPECT_EQ(dialogs.message_box("2", "", 0), Answer::kCancel);
+  EXPECT_EQ(dialogs.message_box("3", "", kConfirmStyle), Answer::kNo);
+}
+
+TEST(QueuedDialogs, AnOkQueuedForAQuestionIsGivenAsItStands) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  dialogs.answer(Answer::kOk);
+  EXPECT_EQ(dialogs.message_box("Sure?", "", kConfirmStyle), Answer::kOk);
+  EXPECT_EQ(dialogs.take_boxes().at(0).answer, "ok");
+}
+
+TEST(QueuedDialogs, ASystemModalQuestionIsAQuestion) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  const std::uint32_t style = kBoxYesNo | kBoxIconQuestion | kBoxSystemModal;
+  EXPECT_EQ(dialogs.message_box("Close it?", "confirmation", style), Answer::kNo);
+}
+
+TEST(QueuedDialogs, BoxesAreTakenOnce) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  dialogs.message_box("1", "", 0);
+  EXPECT_EQ(dialogs.take_boxes().size(), 1U);
+  EXPECT_TRUE(dialogs.take_boxes().empty());
+}
+
+TEST(QueuedDialogs, EachBoxIsAnEffect) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  dialogs.message_box("Done.", "Quillvane", 0);
+  dialogs.message_box("Sure?", "", kConfirmStyle);
+  EXPECT_EQ(effects.take(), (std::vector<Effect>{{"box", {{"text", std::string("Done.")}}},
+                                                 {"box", {{"text", std::string("Sure?")}}}}));
+}
+
+TEST(QueuedDialogs, AnswersHaveNames) {
+  EXPECT_EQ(answer_name(Answer::kOk), "ok");
+  EXPECT_EQ(answer_name(Answer::kCancel), "cancel");
+  EXPECT_EQ(answer_name(Answer::kYes), "yes");
+  EXPECT_EQ(answer_name(Answer::kNo), "no");
+}
+
+}  // namespace
+}  // namespace quillvane

@@ -1,0 +1,97 @@
+// A folder of its own for a test, removed with everything in it when the test ends.
+//
+// Names are relative to the folder, with '/' between parts: folder.write("drive_c/Temp/a.tmp").
+// Folders on the way are made. A step that fails fails the test.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <stdlib.h>
+
+#include <cstdint>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace quillvane {
+
+class TempFolder {
+ public:
+  TempFolder() {
+    std::string name = std::filesystem::temp_directory_path() / "quillvane-test-XXXXXX";
+    if (mkdtemp(name.data()) == nullptr) {
+      ADD_FAILURE() << "cannot make a folder like " << name;
+      return;
+    }
+    path_ = name;
+  }
+  ~TempFolder() {
+    std::error_code failed;
+    if (!path_.empty()) std::filesystem::remove_all(path_, failed);
+    EXPECT_FALSE(failed) << path_ << ": " << failed.message();
+  }
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+
+  // Absolute, without a slash at the end.
+  [[nodiscard]] const std::string& path() const { return path_; }
+  [[nodiscard]] std::string path_of(std::string_view name) const {
+    return path_ + "/" + std::string(name);
+  }
+
+  void make_folder(std::string_view name) const {
+    std::error_code failed;
+    std::filesystem::create_directories(path_of(name), failed);
+    EXPECT_FALSE(failed) << name << ": " << failed.message();
+  }
+
+  void write(std::string_view name, std::string_view content = {}) const {
+    make_parent(name);
+    std::ofstream file(path_of(name), std::ios::binary);
+    file.write(content.data(), static_cast<std::streamsize>(content.size()));
+    file.close();
+    EXPECT_TRUE(file.good()) << "cannot write " << name;
+  }
+
+  // A file of this many bytes that takes no room on the disk.
+  void write_sparse(std::string_view name, std::uintmax_t bytes) const {
+    write(name);
+    std::error_code failed;
+    std::filesystem::resize_file(path_of(name), bytes, failed);
+    EXPECT_FALSE(failed) << name << ": " << failed.message();
+  }
+
+  // A symbolic link that holds exactly this target, which need not exist.
+  void make_link(std::string_view name, const std::string& target) const {
+    make_parent(name);
+    std::error_code failed;
+    std::filesystem::create_symlink(target, path_of(name), failed);
+    EXPECT_FALSE(failed) << name << ": " << failed.message();
+  }
+
+  // The content of a file; nothing when it is not there.
+  [[nodiscard]] std::optional<std::string> read(std::string_view name) const {
+    std::ifstream file(path_of(name), std::ios::binary);
+    if (!file) return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(file), {});
+  }
+
+  // Whether a file, folder or link of this name is there; a link need not lead anywhere.
+  [[nodiscard]] bool has(std::string_view name) const {
+    std::error_code failed;
+    return std::filesystem::exists(std::filesystem::symlink_status(path_of(name), failed));
+  }
+
+ private:
+  void make_parent(std::string_view name) const {
+    const auto slash = name.rfind('/');
+    if (slash != std::string_view::npos) make_folder(name.substr(0, slash));
+  }
+
+  std::string path_;
+};
+
+}  // namespace quillvane

@@ -6,9 +6,8 @@ if(NOT WIN32)
   return()
 endif()
 
-set(BUILD_GMOCK ON)
+set(CMAKE_POLICY_DEFAULT_CMP0077 NEW)
 set(INSTALL_GTEST OFF)
-set(gtest_force_shared_crt OFF)
 add_subdirectory(/usr/src/googletest ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL)
 foreach(library gtest gtest_main gmock)
   # Its code and its headers are not ours to warn about.

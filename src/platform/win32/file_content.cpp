@@ -1,0 +1,83 @@
+#include "platform/win32/file_content.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <cwchar>
+
+#include "platform/win32/system_handle.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
+constexpr int kMostAttempts = 100;
+
+// A file made by open_beside.
+struct FileBeside {
+  std::wstring path;
+  FileHandle file;
+};
+
+// Makes a new file in the folder of `path`, under a name that no other file has.
+FileBeside open_beside(const std::wstring& path) {
+  const std::wstring folder = path.substr(0, path.find_last_of(L"\\/") + 1);
+  for (DWORD attempt = 0; attempt < kMostAttempts; ++attempt) {
+    wchar_t name[32];
+    std::swprintf(name, std::size(name), L"~q%lx-%lx.tmp", GetCurrentProcessId(), attempt);
+    FileBeside beside{folder + name, {}};
+    beside.file = FileHandle(CreateFileW(beside.path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
+                                         FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (beside.file.is_valid() || GetLastError() != ERROR_FILE_EXISTS) return beside;
+  }
+  return {};
+}
+
+bool write_all(HANDLE file, std::string_view content) {
+  while (!content.empty()) {
+    const auto wanted = static_cast<DWORD>(std::min(content.size(), kBlockBytes));
+    DWORD written = 0;
+    if (!WriteFile(file, content.data(), wanted, &written, nullptr) || written == 0) return false;
+    content.remove_prefix(written);
+  }
+  return FlushFileBuffers(file) != 0;
+}
+
+}  // namespace
+
+std::optional<std::string> read_whole_file(const std::wstring& path) {
+  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const FileHandle file(CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
+  if (!file.is_valid()) return std::nullopt;
+  std::string content;
+  std::size_t length = 0;
+  for (;;) {
+    content.resize(length + kBlockBytes);
+    DWORD read = 0;
+    if (!ReadFile(file.get(), content.data() + length, static_cast<DWORD>(kBlockBytes), &read,
+                  nullptr)) {
+      return std::nullopt;
+    }
+    length += read;
+    if (read == 0) break;
+  }
+  content.resize(length);
+  return content;
+}
+
+bool replace_whole_file(const std::wstring& path, std::string_view content) {
+  FileBeside beside = open_beside(path);
+  if (!beside.file.is_valid()) return false;
+  const bool is_complete = write_all(beside.file.get(), content);
+  beside.file = FileHandle();
+  if (is_complete && MoveFileExW(beside.path.c_str(), path.c_str(),
+                                 MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+    return true;
+  }
+  DeleteFileW(beside.path.c_str());
+  return false;
+}
+
+}  // namespace quillvane

@@ -1,0 +1,133 @@
+#include "platform/win32/win32_file_system.h"
+
+#include <windows.h>
+
+#include "platform/win32/file_content.h"
+#include "platform/win32/folder_listing.h"
+#include "platform/win32/tree_reader.h"
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win32_path.h"
+#include "platform/win32/windows_time.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr std::uint32_t kSettableAttributes =
+    kAttributeReadOnly | kAttributeHidden | kAttributeSystem | kAttributeArchive;
+
+std::uint64_t joined(DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; }
+
+FolderEntry folder_entry(const WIN32_FIND_DATAW& entry) {
+  return {narrow(entry.cFileName),
+          entry.dwFileAttributes,
+          joined(entry.nFileSizeHigh, entry.nFileSizeLow),
+          file_time(entry.ftCreationTime),
+          file_time(entry.ftLastAccessTime),
+          file_time(entry.ftLastWriteTime)};
+}
+
+// Windows drops blanks and dots at the end of a name, so such a path means another file.
+bool means_another_file(const std::wstring& path) {
+  return path.back() == L'.' || path.back() == L' ';
+}
+
+// What a refused deletion means. A program that runs can be opened for deletion, but not deleted;
+// Windows calls that "access denied" although nothing but the program stands in the way.
+RemoveResult refused(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES ||
+      (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) {
+    return RemoveResult::kDenied;
+  }
+  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const FileHandle file(
+      CreateFileW(path.c_str(), DELETE, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+  return file.is_valid() ? RemoveResult::kInUse : RemoveResult::kDenied;
+}
+
+}  // namespace
+
+std::shared_ptr<const FolderTree> Win32FileSystem::read_tree(const std::string& folder,
+                                                             const std::string& pattern) const {
+  auto prefix = folder_prefix(folder);
+  if (!prefix) return nullptr;
+  auto tree = std::make_shared<FolderTree>();
+  TreeReader reader(pattern, *tree);
+  if (!reader.read(std::move(*prefix))) return nullptr;
+  return tree;
+}
+
+std::vector<FolderEntry> Win32FileSystem::list_folder(const std::string& folder,
+                                                      const std::string& pattern) const {
+  const auto prefix = folder_prefix(folder);
+  // A pattern is for names; with a separator Windows would look in another folder.
+  if (!prefix || pattern.find_first_of(std::string_view("\\/\0", 3)) != std::string::npos)
+    return {};
+  const std::wstring search = *prefix + widen(pattern);
+  if (search.size() >= kPathLimit) return {};
+
+  std::vector<FolderEntry> entries;
+  FolderListing listing(search, FolderListing::ShortNames::kNo);
+  while (const WIN32_FIND_DATAW* entry = listing.next()) entries.push_back(folder_entry(*entry));
+  return entries;
+}
+
+std::optional<std::uint32_t> Win32FileSystem::attributes(const std::string& path) const {
+  const auto wide = openable_path(path);
+  if (!wide) return std::nullopt;
+  const DWORD bits = GetFileAttributesW(wide->c_str());
+  if (bits == INVALID_FILE_ATTRIBUTES) return std::nullopt;
+  return bits;
+}
+
+bool Win32FileSystem::set_attributes(const std::string& path, std::uint32_t bits) {
+  const auto wide = openable_path(path);
+  const DWORD settable = bits & kSettableAttributes;
+  return wide &&
+         SetFileAttributesW(wide->c_str(), settable == 0 ? kAttributeNormal : settable) != 0;
+}
+
+std::optional<std::uint64_t> Win32FileSystem::file_size(const std::string& path) const {
+  const auto wide = openable_path(path);
+  WIN32_FILE_ATTRIBUTE_DATA data;
+  if (!wide || !GetFileAttributesExW(wide->c_str(), GetFileExInfoStandard, &data) ||
+      (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
+    return std::nullopt;
+  }
+  return joined(data.nFileSizeHigh, data.nFileSizeLow);
+}
+
+std::optional<std::string> Win32FileSystem::read_file(const std::string& path) const {
+  const auto wide = openable_path(path);
+  if (!wide) return std::nullopt;
+  return read_whole_file(*wide);
+}
+
+bool Win32FileSystem::write_file(const std::string& path, std::string_view content) {
+  const auto wide = openable_path(path);
+  return wide && replace_whole_file(*wide, content);
+}
+
+RemoveResult Win32FileSystem::remove_file(const std::string& path) {
+  const auto wide = openable_path(path);
+  if (!wide || means_another_file(*wide)) return RemoveResult::kMissing;
+  if (DeleteFileW(wide->c_str())) return RemoveResult::kRemoved;
+  switch (GetLastError()) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_NETPATH:
+    case ERROR_BAD_NET_NAME:
+    case ERROR_NOT_READY:
+      return RemoveResult::kMissing;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+    case ERROR_USER_MAPPED_FILE:
+      return RemoveResult::kInUse;
+    default:
+      return refused(*wide);
+  }
+}
+
+}  // namespace quillvane

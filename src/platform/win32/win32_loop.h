@@ -1,0 +1,48 @@
+// The message loop of a program on this PC, in real time.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "platform/message_loop.h"
+
+namespace quillvane {
+
+// Messages are dispatched and timers are called on the thread that serves the loop. Timers are kept
+// here rather than asked of Windows: those of Windows also run inside the loops of its own message
+// boxes, where the program is in the middle of something else.
+class Win32Loop final : public MessageLoop {
+ public:
+  // Serves the loop at most once per tick of the system's clock (about 16 ms). A walker calls this
+  // once a file; a look at the message queue costs more than all other work on a file, and nothing
+  // becomes due within a tick.
+  void do_events() override;
+  void wait(std::chrono::milliseconds time) override;
+  TimerId start_timer(std::chrono::milliseconds interval, std::function<void()> tick) override;
+  void stop_timer(TimerId timer) override;
+  [[nodiscard]] FileTime local_now() const override;
+
+ private:
+  struct RunningTimer {
+    TimerId id;
+    std::uint64_t interval_ms;
+    std::uint64_t due_ms;
+    std::shared_ptr<const std::function<void()>> tick;  // shared: a tick may stop its own timer
+  };
+
+  void serve();
+  void serve_timers();
+  // The timer that has been due longest; null when none is.
+  [[nodiscard]] RunningTimer* due_timer(std::uint64_t now_ms);
+  [[nodiscard]] std::uint64_t milliseconds_until_due(std::uint64_t now_ms,
+                                                     std::uint64_t end_ms) const;
+
+  std::vector<RunningTimer> timers_;
+  TimerId last_id_ = 0;
+  std::uint64_t served_ms_ = 0;  // the tick of the clock in which the loop was last served
+};
+
+}  // namespace quillvane

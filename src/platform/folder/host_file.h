@@ -1,0 +1,19 @@
+// Whole files of the host computer, by host paths: the files that make up a machine folder, not
+// those on the machine's drives.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <variant>
+
+namespace quillvane {
+
+// The content, or why it could not be read; std::errc::no_such_file_or_directory without the file.
+[[nodiscard]] std::variant<std::string, std::error_code> read_host_file(const std::string& path);
+
+// Makes the file hold exactly `content`: written beside and then put in place, so that a failure
+// at any point leaves the old file whole. Its permissions stay.
+[[nodiscard]] std::error_code replace_host_file(const std::string& path, std::string_view content);
+
+}  // namespace quillvane

@@ -19,6 +19,12 @@ std::optional<PropertyValue> Clickable::property(std::string_view name) const {
   return Control::property(name);
 }
 
+void Button::set_back_over(Color color) {
+  if (back_over_ == color) return;
+  back_over_ = color;
+  notify(Change::kColor);
+}
+
 void CheckBox::set_checked(bool checked) {
   if (checked_ == checked) return;
   checked_ = checked;

@@ -32,9 +32,17 @@ class Clickable : public Control {
   std::string tool_tip_;
 };
 
+// A push button, drawn by the program.
 class Button : public Clickable {
  public:
   using Clickable::Clickable;
+
+  // Background while the mouse is over it.
+  [[nodiscard]] Color back_over() const { return back_over_; }
+  void set_back_over(Color color);
+
+ private:
+  Color back_over_ = 0;
 };
 
 class Label : public Clickable {

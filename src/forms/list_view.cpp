@@ -54,7 +54,10 @@ class ListView::OwnRows final : public RowSource {
 };
 
 ListView::ListView(Window& window, std::string_view name, std::vector<std::string> columns)
-    : Control(window, name), columns_(std::move(columns)), own_(std::make_shared<OwnRows>()) {
+    : Control(window, name),
+      columns_(std::move(columns)),
+      column_widths_(columns_.size()),
+      own_(std::make_shared<OwnRows>()) {
   sources_.push_back(own_);
 }
 
@@ -63,11 +66,25 @@ void ListView::set_column(int column, std::string_view caption) {
   notify(Change::kCaption);
 }
 
+int ListView::column_width(int column) const {
+  return column_widths_.at(static_cast<std::size_t>(column) - 1);
+}
+
+void ListView::set_column_width(int column, int twips) {
+  column_widths_.at(static_cast<std::size_t>(column) - 1) = twips;
+  notify(Change::kPosition);
+}
+
 void ListView::clear() {
   rows_.clear();
   own_ = std::make_shared<OwnRows>();
-  sources_.assign(1, own_);
+  drop_sources();
   notify(Change::kItems);
+}
+
+void ListView::drop_sources() {
+  sources_.assign(1, own_);
+  ++generation_;
 }
 
 int ListView::add(std::string_view text) {
@@ -111,7 +128,7 @@ void ListView::remove(int row) {
   const Row& gone = at(row);
   if (gone.source == 0) own_->release(gone.index);
   rows_.erase(rows_.begin() + (row - 1));
-  if (rows_.empty()) sources_.assign(1, own_);
+  if (rows_.empty()) drop_sources();
   notify(Change::kItems);
 }
 
@@ -126,7 +143,7 @@ void ListView::remove_if(const std::function<bool(int row)>& doomed) {
     }
   }
   rows_ = std::move(kept);
-  if (rows_.empty()) sources_.assign(1, own_);
+  if (rows_.empty()) drop_sources();
   notify(Change::kItems);
 }
 

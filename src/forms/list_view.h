@@ -44,6 +44,9 @@ class ListView : public Control {
   // --- Columns.
   [[nodiscard]] const std::vector<std::string>& columns() const { return columns_; }
   void set_column(int column, std::string_view caption);
+  // In twips; 0: the view decides.
+  [[nodiscard]] int column_width(int column) const;
+  void set_column_width(int column, int twips);
 
   // --- Rows.
   [[nodiscard]] int count() const { return static_cast<int>(rows_.size()); }
@@ -52,9 +55,11 @@ class ListView : public Control {
   // number.
   int add(std::string_view text);
   // Makes rows of `source` addable; the list keeps the source alive while it holds rows of it.
-  // Returns the number to be given to add_from.
+  // Returns the number to be given to add_from; it holds as long as generation() stays.
   std::uint32_t add_source(std::shared_ptr<const RowSource> source);
   void add_from(std::uint32_t source, std::size_t index);
+  // Raised when the list has become empty and has let go of its sources.
+  [[nodiscard]] std::uint64_t generation() const { return generation_; }
   // Appends a row of another list, without its tick.
   void add_copy(const ListView& other, int row);
   void remove(int row);
@@ -120,11 +125,14 @@ class ListView : public Control {
   // Gives the row a store of its own, so that it can be written to.
   std::size_t own_row(int row);
   void sort_rows();
+  void drop_sources();
 
   std::vector<std::string> columns_;
+  std::vector<int> column_widths_;
   std::deque<Row> rows_;
   std::vector<std::shared_ptr<const RowSource>> sources_;  // 0 is the list's own
   std::shared_ptr<OwnRows> own_;
+  std::uint64_t generation_ = 0;
   bool sorted_ = false;
   int sort_key_ = 0;
   bool descending_ = false;

@@ -63,7 +63,6 @@ double Val(std::string_view text) {
     if (c == 'd' || c == 'D') c = 'e';
   }
   double value = 0;
-  if (number.starts_with('.')) number.insert(0, "0");
   std::from_chars(number.data(), number.data() + number.size(), value);
   return negative ? -value : value;
 }

@@ -1,0 +1,185 @@
+#include "categories/windows_categories.h"
+
+#include <span>
+#include <string>
+#include <variant>
+
+#include "categories/category_frame.h"
+#include "core/form7.h"
+#include "platform/unicode_case.h"
+#include "support/registry_values.h"
+#include "support/stored_path.h"
+
+namespace quillvane {
+
+namespace {
+
+enum class Take {
+  kMatching,    // every file that matches
+  kEmptyFiles,  // of those the empty ones
+  kClrFolders,  // the matching files of the direct subfolders whose path holds "clr_"
+};
+
+// A folder, by an environment variable and what follows it, and the files to take from it and
+// below.
+struct Place {
+  const char* base;
+  const char* suffix;
+  const char* pattern;
+  Take take = Take::kMatching;
+};
+
+constexpr Place kSystemTemporary[] = {
+    {"WinDir", "\\Temp", "*.*"},
+    {"USERPROFILE", "\\AppData\\LocalLow\\Microsoft\\CryptnetUrlCache\\Content", "*.*"},
+    {"WinDir",
+     "\\System32\\config\\systemprofile\\AppData\\LocalLow\\Microsoft\\CryptnetUrlCache\\Content",
+     "*.*"},
+    {"WinDir",
+     "\\ServiceProfiles\\LocalService\\AppData\\LocalLow\\Microsoft\\CryptnetUrlCache\\Content",
+     "*.*"},
+    {"WinDir", "\\ServiceProfiles\\LocalService\\AppData\\Local", "~*.dat"},
+    {"WinDir", "\\winsxs\\ManifestCache", "*.*"},
+};
+
+constexpr Place kUserTemporary[] = {{"temp", "", "*.*"}};
+
+// The font caches go with the thumbnails.
+constexpr Place kThumbnails[] = {
+    {"LOCALAPPDATA", "\\Microsoft\\Windows\\Explorer", "*.db"},
+    {"WinDir", "\\ServiceProfiles\\LocalService\\AppData\\Local", "~font*.dat"},
+    {"WinDir", "\\system32", "FNTCACHE.DAT"},
+};
+
+constexpr Place kErrorReports[] = {
+    {"USERPROFILE", "\\AppData\\Local\\Microsoft\\Windows\\WER\\ReportArchive", "*.*"},
+    {"USERPROFILE", "\\AppData\\Local\\Microsoft\\Windows\\WER\\ReportQueue", "*.*"},
+    {"ALLUSERSPROFILE", "\\AppData\\Local\\Microsoft\\Windows\\WER\\ReportArchive", "*.*"},
+    {"ALLUSERSPROFILE", "\\AppData\\Local\\Microsoft\\Windows\\WER\\ReportQueue", "*.*"},
+    {"ALLUSERSPROFILE", "\\Microsoft\\Windows\\WER\\ReportArchive", "*.*"},
+    {"ALLUSERSPROFILE", "\\Microsoft\\Windows\\WER\\ReportQueue", "*.*"},
+};
+
+// Two places stand twice: their files come up and count twice, which is meant so.
+constexpr Place kLogFiles[] = {
+    {"WinDir", "\\system32\\logfiles", "*.log"},
+    {"WinDir", "\\system32\\logfiles", "*.log"},
+    {"WinDir", "\\system32\\logfiles", "*.etl"},
+    {"WinDir", "\\Logs", "*.log"},
+    {"WinDir", "\\SoftwareDistribution", "*.log"},
+    {"WinDir", "\\SoftwareDistribution", "*.jrs"},
+    {"WinDir", "\\SoftwareDistribution", "*.chk"},
+    {"USERPROFILE", "\\AppData\\Roaming\\Microsoft\\Windows", "*.log"},
+    {"USERPROFILE", "\\AppData\\local\\Microsoft\\Windows", "*.log"},
+    {"USERPROFILE", "\\AppData\\local\\Microsoft", "*.log", Take::kClrFolders},
+    {"WinDir", "\\debug", "*.log"},
+    {"WinDir", "\\system32\\logfiles", "*.etl"},
+    {"WinDir", "\\system32\\logfiles\\scm", "*.*"},
+    {"WinDir", "\\security\\logs", "*.*"},
+    {"WinDir", "\\inf", "*.log"},
+    {"WinDir", "\\Microsoft.NET", "*.log"},
+    {"ALLUSERSPROFILE", "\\Microsoft\\Search\\Data\\Applications\\Windows", "*.log"},
+    {"ALLUSERSPROFILE", "\\Microsoft\\Search\\Data\\Applications\\Windows", "*.jrs"},
+    {"ALLUSERSPROFILE", "\\Microsoft\\Search\\Data\\Applications\\Windows", "*.chk"},
+};
+
+constexpr Place kDownloadedPrograms[] = {{"WinDir", "\\Downloaded Program Files", "*.*"}};
+
+constexpr Place kWindowsUpdates[] = {
+    {"WinDir", "\\SoftwareDistribution\\Download", "*.*"},
+    {"WinDir", "\\Installer\\$PatchCache$", "*.*"},
+    {"WinDir", "\\Installer", "*.msi", Take::kEmptyFiles},
+};
+
+constexpr Place kWindowsHistory[] = {
+    {"APPDATA", "\\microsoft\\windows\\recent", "*.lnk"},
+    {"APPDATA", "\\microsoft\\office\\recent", "*.lnk"},
+};
+
+void scan_clr_folders(Form7& form, const std::string& folder, const char* pattern, int node) {
+  for (const FolderEntry& entry : form.platform().files.list_folder(folder, "*.*")) {
+    const std::string path = folder + "\\" + entry.name;
+    if (entry.is_folder() && lower_case(path).find("clr_") != std::string::npos) {
+      form.srch(path, pattern, node);
+    }
+  }
+}
+
+void scan_place(Form7& form, const Place& place, int node) {
+  const std::string folder = form.platform().environment.get(place.base) + place.suffix;
+  switch (place.take) {
+    case Take::kMatching:
+      form.srch(folder, place.pattern, node);
+      break;
+    case Take::kEmptyFiles:
+      form.srch2(folder, place.pattern, node);
+      break;
+    case Take::kClrFolders:
+      scan_clr_folders(form, folder, place.pattern, node);
+      break;
+  }
+}
+
+void scan_places(Form7& form, int node, std::span<const Place> places) {
+  begin_category(form, node);
+  for (const Place& place : places) scan_place(form, place, node);
+  end_category(form, node);
+}
+
+// The size of the memory dump file; nothing when there is none.
+std::optional<std::uint64_t> dump_file_size(const Form7& form) {
+  const Platform& platform = form.platform();
+  const auto value =
+      GetRegistryValue(platform.registry, Hive::kLocalMachine,
+                       "SYSTEM\\CurrentControlSet\\Control\\CrashControl", "DumpFile");
+  if (!value || !std::holds_alternative<std::string>(*value)) return std::nullopt;
+  const std::string path =
+      GetPath(platform.environment, form.program.Is64Bit, std::get<std::string>(*value));
+  return platform.files.file_size(path);
+}
+
+}  // namespace
+
+void systemp(Form7& form) { scan_places(form, 2, kSystemTemporary); }
+void utemp(Form7& form) { scan_places(form, 3, kUserTemporary); }
+void thumb(Form7& form) { scan_places(form, 4, kThumbnails); }
+void errorrep(Form7& form) { scan_places(form, 6, kErrorReports); }
+void logfile(Form7& form) { scan_places(form, 7, kLogFiles); }
+void downloadprog(Form7& form) { scan_places(form, 9, kDownloadedPrograms); }
+void wupdates(Form7& form) { scan_places(form, 10, kWindowsUpdates); }
+void whistory(Form7& form) { scan_places(form, 11, kWindowsHistory); }
+
+// Leaves the running numbers as the category before it left them, so those are added to the group
+// a second time, and the dump file is in no total and in no row: meant so.
+void memdump(Form7& form) {
+  constexpr int kNode = 5;
+  form.Tv1.set_node_color(kNode, kGreen);
+  form.Tv1.refresh();
+  const auto size = dump_file_size(form);
+  const std::string caption = form.Tv1.node(kNode).text;
+  if (size) {
+    form.Tv1.set_text(kNode,
+                      caption + " ( 1 file, " + form.size_text(static_cast<double>(*size)) + " )");
+    form.Tv1.set_node_color(kNode, kDarkRed);
+  } else {
+    form.Tv1.set_text(kNode, caption + " ( 0 files, 0 Byte )");
+    form.Tv1.set_node_color(kNode, 0);
+  }
+  add_to_group(form, kNode);
+}
+
+// The folder of one user on each fixed drive; of all users when no SID is known.
+void recycleb(Form7& form) {
+  constexpr int kNode = 8;
+  begin_category(form, kNode);
+  const Platform& platform = form.platform();
+  for (const std::string& drive : form.Drive1.items()) {
+    const std::string root = drive.substr(0, 1) + ":\\";
+    if (platform.drives.type(root) != DriveType::kFixed) continue;
+    form.srch(root + "$RECYCLE.BIN\\" + GetHiveListSid(platform.registry, platform.files), "*.*",
+              kNode);
+  }
+  end_category(form, kNode);
+}
+
+}  // namespace quillvane

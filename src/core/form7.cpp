@@ -1,0 +1,219 @@
+// The main window's controls: their design-time state, and which event runs what.
+#include "core/form7.h"
+
+#include <cmath>
+#include <utility>
+#include <vector>
+
+namespace quillvane {
+
+namespace {
+
+constexpr std::chrono::milliseconds kQuickRunInterval{500};
+
+std::vector<std::string> hit_columns() { return {"File Name", "Size", "Date"}; }
+
+// Indexes 4, 8, 11 and 15 are separators; the others carry the pictures of the tool bar's list.
+// Buttons 1 to 4 belong to the drive search and are hidden at the start.
+std::vector<ToolbarButton> design_toolbar() {
+  constexpr bool kOff = false;
+  const auto separator = [](bool visible = true) { return ToolbarButton{0, true, true, visible}; };
+  const auto button = [](int image, bool enabled = true, bool visible = true) {
+    return ToolbarButton{image, false, enabled, visible};
+  };
+  return {
+      button(1, true, false),
+      button(2, true, false),
+      button(3, true, false),
+      separator(false),
+      button(4),
+      button(10, kOff),
+      button(5, kOff),
+      separator(),
+      button(6, kOff),
+      button(7, kOff),
+      separator(),
+      button(11),
+      button(12),
+      button(8, kOff),
+      separator(),
+      button(13),
+  };
+}
+
+PropertyValue number_value(double number) {
+  if (number == std::floor(number)) return static_cast<std::int64_t>(number);
+  return number;
+}
+
+}  // namespace
+
+Form7::Form7(Program& owner)
+    : Window("Form7"),
+      program(owner),
+      Text8(*this, "Text8"),
+      Text9(*this, "Text9"),
+      Text13(*this, "Text13"),
+      Text14(*this, "Text14"),
+      Text15(*this, "Text15"),
+      txtfilecont(*this, "txtfilecont"),
+      txtfilesize(*this, "txtfilesize"),
+      Tv1(*this, "Tv1"),
+      view1(*this, "view1", hit_columns()),
+      view5(*this, "view5", hit_columns()),
+      Label11(*this, "Label11"),
+      Shape1(*this, "Shape1"),
+      Shape2(*this, "Shape2"),
+      Gif89a2(*this, "Gif89a2"),
+      Label12_0(*this, "Label12(0)"),
+      Label12_1(*this, "Label12(1)"),
+      Frame2(*this, "Frame2"),
+      Frame4(*this, "Frame4"),
+      Frame6(*this, "Frame6"),
+      Frame8(*this, "Frame8"),
+      Frame80(*this, "Frame80"),
+      cmd_start(*this, "cmd_start"),
+      cmd_clean(*this, "cmd_clean"),
+      cmd_cancel(*this, "cmd_cancel"),
+      cmd_all(*this, "cmd_all"),
+      cmd_non(*this, "cmd_non"),
+      cmd_custom(*this, "cmd_custom"),
+      cmd_ignore(*this, "cmd_ignore"),
+      cmd_report(*this, "cmd_report"),
+      chameleonButton9(*this, "chameleonButton9"),
+      chameleonButton12(*this, "chameleonButton12"),
+      chameleonButton13(*this, "chameleonButton13"),
+      chameleonButton18(*this, "chameleonButton18"),
+      Toolbar1(*this, "Toolbar1"),
+      scf(*this, "scf", "Scan"),
+      stc(*this, "stc", "Start Cleaning"),
+      sc(*this, "sc", {&scf, &stc}),
+      b1(*this, "b1", "Remove Selected File(s)"),
+      b2(*this, "b2", "Remove All Files Listed"),
+      b4(*this, "b4", "Locate Selected File"),
+      b5(*this, "b5", "File Properties"),
+      b7(*this, "b7", "Select All"),
+      b8(*this, "b8", "Select None"),
+      b(*this, "b", {&b1, &b2, &b4, &b5, &b7, &b8}),
+      lbllanguage_0(*this, "lbllanguage(0)"),
+      imglangselect(*this, "imglangselect"),
+      pictrlang(*this, "pictrlang"),
+      Drive1(*this, "Drive1"),
+      View2(*this, "View2", {"Name", "Total", "Free Space", "Status"}),
+      View10(*this, "View10", hit_columns()),
+      View4(*this, "View4", hit_columns()),
+      View1000(*this, "View1000", {"File Description ", "File Type", "Files", "Space Used (Byte)"}),
+      View201(*this, "View201", {"Excluded Files and Folders Location", "Description"}),
+      View202(*this, "View202", {"Included Folders Location", "Description"}),
+      View101(*this, "View101", {"File Description", "File Type"}),
+      List1(*this, "List1"),
+      Timer2(*this, "Timer2", program.platform.loop, kQuickRunInterval) {
+  set_caption(kProgramName);
+  cmd_start.set_caption("Start");
+  cmd_clean.set_caption("Start Cleaning");
+  cmd_cancel.set_caption("Cancel");
+  cmd_all.set_caption("Select All");
+  cmd_non.set_caption("Select None");
+  cmd_custom.set_caption("Custom Search");
+  cmd_ignore.set_caption("Ignore list");
+  cmd_report.set_caption("Create Report");
+  lbllanguage_0.set_caption("English");
+  Toolbar1.set_buttons(design_toolbar());
+  for (Control* hidden : std::initializer_list<Control*>{
+           &Text8, &Text9, &Text13, &Text14, &Text15, &txtfilecont, &txtfilesize, &Gif89a2,
+           &pictrlang, &Drive1, &List1, &Frame4, &Frame6, &Frame8, &Frame80}) {
+    hidden->hide();
+  }
+  enter_state(ButtonState::kFresh);
+  connect_controls();
+  connect_lists();
+  name_fields();
+}
+
+void Form7::connect_controls() {
+  Text9.on_change = [this] { run_suite_command(); };
+  Text14.on_change = [this] { read_mail(); };
+  Text15.on_change = [this] { pending_filter.set_text(Text15.text()); };
+  cmd_start.on_click = [this] { start_button(); };
+  cmd_cancel.on_click = [this] { cancel_button(); };
+  cmd_all.on_click = [this] { show_everything(true); };
+  cmd_non.on_click = [this] { show_everything(false); };
+  chameleonButton9.on_click = [this] { close(); };
+  chameleonButton12.on_click = [this] { minimise(); };
+  chameleonButton13.on_click = [this] { pictrlang.set_visible(!pictrlang.visible()); };
+  Toolbar1.on_button_click = [this](int number) { toolbar_button(number); };
+  scf.on_click = [this] { rescan_node(); };
+  stc.on_click = [this] { clean_node(); };
+  b7.on_click = [this] { view5.check_all(true); };
+  b8.on_click = [this] { view5.check_all(false); };
+}
+
+void Form7::connect_lists() {
+  Tv1.on_node_click = [this](int node) { show_node(node); };
+  Tv1.on_node_check = [this](int node) { node_checked(node); };
+  Tv1.on_right_click = [this] { return &sc; };
+  for (ListView* list : {&view1, &view5}) {
+    list->on_item_click = [this](int row) { row_clicked(row); };
+    list->on_right_click = [this, list] { return list->count() >= 1 ? &b : nullptr; };
+  }
+  view1.on_column_click = [this](int column) { sort_hits(column); };
+  View2.on_item_check = [this](int /*row*/) { drive_ticked(); };
+}
+
+void Form7::name_fields() {
+  const auto text = [this](std::string_view name, const std::string& field) {
+    add_field(name, [&field] { return PropertyValue(field); });
+  };
+  const auto whole = [this](std::string_view name, const int& field) {
+    add_field(name, [&field] { return PropertyValue(std::int64_t{field}); });
+  };
+  const auto number = [this](std::string_view name, const double& field) {
+    add_field(name, [&field] { return number_value(field); });
+  };
+  text("cmdline", cmdline);
+  text("ignorelist", ignorelist.text());
+  text("systempaccess", systempaccess);
+  for (const auto& [name, field] : std::initializer_list<std::pair<std::string_view, const int*>>{
+           {"silentmode", &silentmode},
+           {"cleanmode", &cleanmode},
+           {"suitemode", &suitemode},
+           {"forceclean", &forceclean},
+           {"cancelflag", &cancelflag},
+           {"selnode", &selnode},
+           {"listfocus", &listfocus},
+           {"wizardstep", &wizardstep},
+           {"custnode", &custnode},
+           {"anydrivechecked", &anydrivechecked},
+           {"fontcharset", &fontcharset},
+           {"HiddenRun", &program.HiddenRun},
+       }) {
+    whole(name, *field);
+  }
+  for (const auto& [name, field] :
+       std::initializer_list<std::pair<std::string_view, const double*>>{
+           {"catfiles", &totals.catfiles},
+           {"catsize", &totals.catsize},
+           {"winfiles", &totals.winfiles},
+           {"winsize", &totals.winsize},
+           {"brfiles", &totals.brfiles},
+           {"brsize", &totals.brsize},
+           {"custfiles", &totals.custfiles},
+           {"custsize", &totals.custsize},
+           {"totalfiles", &totals.totalfiles},
+           {"totalsize", &totals.totalsize},
+       }) {
+    number(name, *field);
+  }
+  add_field("CommandLineGiven", [this] { return PropertyValue(program.CommandLineGiven); });
+  add_field("Is64Bit", [this] { return PropertyValue(program.Is64Bit); });
+}
+
+void Form7::resized() {
+  for (Control* view : std::initializer_list<Control*>{&view1, &View2, &View10, &View4, &View1000,
+                                                       &View201, &View101, &view5, &Tv1}) {
+    view->refresh();
+  }
+  if (state() == WindowState::kMinimised) hide();
+}
+
+}  // namespace quillvane

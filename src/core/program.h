@@ -1,0 +1,62 @@
+// The running program: its machine, its windows and the few flags that all windows share.
+#pragma once
+
+#include <chrono>
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "forms/window.h"
+#include "platform/platform.h"
+#include "support/error_trail.h"
+
+namespace quillvane {
+
+class Form7;
+
+inline constexpr std::string_view kProgramName = "Quillvane Disk Cleaner";
+
+class Program {
+ public:
+  explicit Program(const Platform& platform);
+  ~Program();
+  Program(const Program&) = delete;
+  Program& operator=(const Program&) = delete;
+
+  // Makes the main window and runs its Initialize and Load with this command line, then its
+  // Activate when it is shown. Called once.
+  void start(std::string_view command_line);
+
+  // Asks the program to end: the handlers in progress run to their end, and no event is served any
+  // more.
+  void end() { ended_ = true; }
+  [[nodiscard]] bool ended() const { return ended_; }
+
+  // Lets the message loop run once.
+  void do_events() {
+    if (!ended_) platform.loop.do_events();
+  }
+  // Waits while the message loop runs.
+  void PumpWait(std::chrono::milliseconds time);
+
+  // The window of that name, without regard to case; null when the program has none of it.
+  [[nodiscard]] Window* find_window(std::string_view name) const;
+  // The main window. Requires: start has begun.
+  [[nodiscard]] Form7& main_window() const { return *form7_; }
+
+  // A file in the program's folder: "C:\...\junst.txt" for "junst.txt".
+  [[nodiscard]] std::string data_file(std::string_view name) const;
+
+  Platform platform;
+  ErrorTrail trail;
+
+  bool CommandLineGiven = false;  // the trimmed command line is not empty
+  bool Is64Bit = false;           // a 32-bit program on a 64-bit system
+  int HiddenRun = 0;              // 1 after the switches "g" and "s"
+
+ private:
+  std::unique_ptr<Form7> form7_;
+  bool ended_ = false;
+};
+
+}  // namespace quillvane

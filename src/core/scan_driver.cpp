@@ -1,0 +1,140 @@
+// The scan driver: the categories in their order, the totals, the summary.
+#include <string>
+
+#include "categories/catalogue.h"
+#include "categories/routines.h"
+#include "core/form7.h"
+#include "platform/unicode_case.h"
+#include "support/size_text.h"
+#include "support/text.h"
+#include "support/val.h"
+
+namespace quillvane {
+
+namespace {
+
+// Time for the animation to start.
+constexpr std::chrono::milliseconds kScanPause{1000};
+
+constexpr const char* kSessionManagerKey = "SYSTEM\\CurrentControlSet\\Control\\Session Manager";
+constexpr const char* kPendingValue = "PendingFileRenameOperations";
+
+void add_number(TextBox& box, double number) {
+  box.set_text(number_text(Val(box.text()) + number));
+}
+
+}  // namespace
+
+std::string Form7::size_text(double bytes) const {
+  return NumberInKB(bytes, platform().system.decimal_separator());
+}
+
+void Form7::autosearch() {
+  view1.clear();
+  view5.clear();
+  txtfilecont.set_text("0");
+  txtfilesize.set_text("0");
+  cancelflag = 0;
+  Text13.show();
+  Shape1.set_back_color(Shape2.back_color());
+  Toolbar1.refresh();
+  Gif89a2.show();
+  program.PumpWait(kScanPause);
+
+  pndtxt();
+  startclean();
+  startcleanexplorer();
+  searchcustom();
+
+  Tv1.select(kWindowsNode);
+  loadfirstscan();
+  Gif89a2.hide();
+  show_summary(totals.totalfiles);
+  if (cleanmode == 2) write_result_file();
+  show_found_mark();
+  Text13.hide();
+}
+
+void Form7::startclean() {
+  totals.winfiles = 0;
+  totals.winsize = 0;
+  build_tree();
+  totals.totalfiles = 0;
+  totals.totalsize = 0;
+  for (int node = kFirstWindowsLeaf; node <= kLastWindowsLeaf; ++node) {
+    if (node != kFirstWindowsLeaf && cancelflag == 1) break;
+    run_category(*this, node);
+  }
+  totals.totalfiles += totals.winfiles;
+  totals.totalsize += totals.winsize;
+  add_group_result(kWindowsNode, totals.winfiles, totals.winsize);
+  Tv1.select(kWindowsNode);
+  show_result_page();
+  add_number(txtfilecont, totals.winfiles);
+  add_number(txtfilesize, totals.winsize);
+}
+
+void Form7::show_result_page() {
+  Frame80.move_to(Frame2);
+  Frame80.show();
+  for (Frame* page : {&Frame2, &Frame4, &Frame6, &Frame8}) page->hide();
+  view1.show();
+}
+
+void Form7::startcleanexplorer() {
+  totals.brfiles = 0;
+  totals.brsize = 0;
+  totals.catfiles = 0;
+  totals.catsize = 0;
+  totals.totalfiles += totals.brfiles;
+  totals.totalsize += totals.brsize;
+  add_group_result(kBrowsersNode, totals.brfiles, totals.brsize);
+  enter_state(ButtonState::kCustomGroup);
+  add_number(txtfilecont, totals.brfiles);
+  add_number(txtfilesize, totals.brsize);
+}
+
+void Form7::searchcustom() {
+  totals.custfiles = 0;
+  totals.custsize = 0;
+}
+
+void Form7::add_group_result(int node, double files, double bytes) {
+  append_result(node, files, bytes);
+  node_results[node] = {files, bytes};
+}
+
+void Form7::pndtxt() {
+  std::string pending;
+  const auto value =
+      platform().registry.value(Hive::kLocalMachine, kSessionManagerKey, kPendingValue);
+  if (value && value->type == RegistryType::kMultiSz) {
+    std::string_view data = value->data;
+    if (data.ends_with('\0')) data.remove_suffix(1);  // ends the list
+    pending.reserve(data.size() + 1);
+    if (!data.empty()) pending += '|';
+    if (data.ends_with('\0')) data.remove_suffix(1);  // ends the last text
+    for (const char c : data) pending += c == '\0' ? '|' : c;
+  }
+  Text15.set_text(lower_case(pending));
+}
+
+void Form7::show_summary(double files) {
+  Label11.set_caption("Junk files found : ( " + number_text(files) + " ) files , Size : ( " +
+                      size_text(totals.totalsize) +
+                      " ) - Click \"Start Cleaning\" to Remove selected Files");
+}
+
+void Form7::show_found_mark() {
+  enable_report(totals.totalfiles > 0);
+  if (totals.totalfiles > 0) Shape1.set_back_color(kFoundMark);
+}
+
+void Form7::write_result_file() {
+  const std::string line =
+      number_text(totals.totalfiles) + "|" + number_text(totals.totalsize) + "\r\n";
+  // A result that cannot be written is passed over: the run goes on to its end.
+  static_cast<void>(platform().files.write_file(program.data_file("junst.txt"), line));
+}
+
+}  // namespace quillvane

@@ -1,0 +1,20 @@
+// The running numbers of a scan. Byte totals are whole numbers; a size that reads as negative takes
+// away from them.
+#pragma once
+
+namespace quillvane {
+
+struct ScanTotals {
+  double catfiles = 0;  // the category now running
+  double catsize = 0;
+  double winfiles = 0;  // the Windows group
+  double winsize = 0;
+  double brfiles = 0;  // the Browsers group
+  double brsize = 0;
+  double custfiles = 0;  // the custom group
+  double custsize = 0;
+  double totalfiles = 0;  // the whole scan
+  double totalsize = 0;
+};
+
+}  // namespace quillvane

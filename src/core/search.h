@@ -1,0 +1,88 @@
+// The search behind the walker: the files of one folder tree that match one pattern, in the order
+// in which they are judged.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/file_system.h"
+#include "support/error_trail.h"
+
+namespace quillvane {
+
+// One file found. The texts of a file whose size overflowed are those that were set before.
+struct File {
+  std::string FileNameFull;  // folder with its backslash, then the name
+  std::string FilePath;      // folder with its backslash; empty when the size overflowed
+  std::string FileName;
+  FileTime Accessed;
+  FileTime Modified;
+  FileTime Created;
+  double FileSize = 0;  // bytes, as FileSizeToDouble reads them
+};
+
+// Bytes from the two words of a size, in signed 32-bit arithmetic: high * 2147483647 + low. Nothing
+// when that overflows. The multiplier and the sign of `low` are meant so: a file from 2 GiB to
+// below 4 GiB counts as negative.
+[[nodiscard]] std::optional<double> FileSizeToDouble(std::uint32_t high, std::uint32_t low);
+
+// The files of one folder, from the first on.
+struct FolderRun {
+  const ListedFolder* folder = nullptr;
+  std::size_t begin = 0;  // number of the first file in the collection
+  std::uint32_t count = 0;
+  bool last_overflowed = false;  // the last file's size could not be computed
+};
+
+// The files found, in order. Names and times stay in the tree that was read; the collection keeps
+// only which files of which folders belong to it.
+class Files {
+ public:
+  // `root_path` ends in a backslash.
+  Files(std::shared_ptr<const FolderTree> tree, std::string root_path);
+
+  void Add(const ListedFolder& folder, std::uint32_t count, bool last_overflowed);
+  [[nodiscard]] std::size_t Count() const { return count_; }
+  // Counts from 0. Requires: index < Count().
+  [[nodiscard]] File Item(std::size_t index) const;
+  [[nodiscard]] std::string full_name(std::size_t index) const;
+
+  [[nodiscard]] const std::vector<FolderRun>& runs() const { return runs_; }
+  // Path of a folder of the tree, with its backslash.
+  [[nodiscard]] std::string path_of(const ListedFolder& folder) const;
+
+ private:
+  [[nodiscard]] const FolderRun& run_of(std::size_t index) const;
+
+  std::shared_ptr<const FolderTree> tree_;
+  std::string root_path_;
+  std::vector<FolderRun> runs_;
+  std::size_t count_ = 0;
+};
+
+class Search {
+ public:
+  Search(const FileSystem& files, ErrorTrail& trail) : file_system_(files), trail_(trail) {}
+
+  // Collects the files below `path` that match `pattern`: those of the subfolders first. A file
+  // whose size overflows ends the listing of its folder; the failure goes to the error trail.
+  void SearchFiles(const std::string& path, const std::string& pattern, bool recursive);
+
+  // What was collected; null when the folder could not be read.
+  [[nodiscard]] const std::shared_ptr<const class Files>& Files() const { return found_; }
+
+ private:
+  void search_folder(const ListedFolder& folder, const std::string& path,
+                     const std::string& pattern, bool recursive, class Files& found);
+  void add_files(const ListedFolder& folder, class Files& found);
+
+  const FileSystem& file_system_;
+  ErrorTrail& trail_;
+  std::shared_ptr<const class Files> found_;
+};
+
+}  // namespace quillvane

@@ -1,0 +1,132 @@
+// Load and close of the main window.
+#include <charconv>
+#include <string>
+
+#include "core/form7.h"
+#include "drivesearch/type_table.h"
+#include "platform/unicode_case.h"
+#include "support/file_date.h"
+#include "support/registry_text.h"
+#include "support/text.h"
+#include "support/val.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr const char* kSuiteKey = "SOFTWARE\\Quillvane\\Tidewrack";
+constexpr const char* kSystemTempKey = "software\\Quillvane\\Tidewrack Deluxe\\option\\systemp";
+constexpr int kTwipsOfFileColumn = 5000;
+constexpr int kShadowDepth = 10;
+
+struct CodePageFont {
+  int code_page;
+  int character_set;
+};
+
+constexpr CodePageFont kFontCharacterSets[] = {
+    {1252, 0},   {932, 128},  {949, 129},  {936, 134}, {950, 136},  {1255, 177}, {1256, 178},
+    {1253, 161}, {1254, 162}, {1258, 163}, {874, 222}, {1257, 238}, {1251, 204},
+};
+
+}  // namespace
+
+void Form7::load() {
+  program.Is64Bit = platform().system.is_wow64();
+  imglangselect.move_to(lbllanguage_0);
+  for (const CodePageFont& font : kFontCharacterSets) {
+    if (platform().system.ansi_code_page() == font.code_page) fontcharset = font.character_set;
+  }
+  put_type_table_in_place(platform().files, program);
+  apply_color();
+  if (suitemode > 0) Timer2.set_running(true);
+  if (forceclean == 1) hide_at_start();
+  show_year();
+  if (cmdline == "d") cmd_start.set_enabled(false);
+  Gif89a2.set_file(program.data_file("search.gif"));
+  read_system_temp_option();
+  view1.set_column_width(1, kTwipsOfFileColumn);
+  fill_drive_list();
+  restore_ticked_drives();
+  Frame80.move_to(Frame2);
+  Frame80.show();
+  build_tree();
+  Tv1.select(1);
+  read_ignore_list();
+  if (silentmode == 1) {
+    Text9.set_text("");
+    Text9.set_text("1");
+  }
+}
+
+void Form7::activate() {
+  if (!program.CommandLineGiven) shadow = {kShadowColor, kShadowDepth};
+}
+
+void Form7::close() {
+  save_ticked_drives();
+  program.end();
+}
+
+void Form7::apply_color() {
+  const auto value =
+      platform().registry.value(Hive::kLocalMachine, kSuiteKey, "color", RegistryView::k64Bit);
+  Color color = kSuiteColor;
+  if (value && (value->type == RegistryType::kSz || value->type == RegistryType::kExpandSz)) {
+    const std::string stored = value->data.substr(0, value->data.find('\0'));
+    const std::string text(Trim(platform().environment.expand(stored)));
+    Color chosen = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), chosen);
+    const bool is_number = error == std::errc() && end == text.data() + text.size();
+    if (is_number && !text.empty()) color = chosen;
+  }
+  set_back_color(color);
+  for (Control* part : std::initializer_list<Control*>{&Text13, &Shape1, &Shape2, &chameleonButton9,
+                                                       &chameleonButton12, &chameleonButton13,
+                                                       &chameleonButton18}) {
+    part->set_back_color(color);
+  }
+  for (Button* button :
+       {&chameleonButton9, &chameleonButton12, &chameleonButton13, &chameleonButton18}) {
+    button->set_back_over(color);
+  }
+}
+
+void Form7::show_year() {
+  const auto now = calendar_date(platform().loop.local_now());
+  if (!now) return;
+  Label12_0.set_caption(std::to_string(now->year));
+  Label12_1.set_caption(std::to_string(now->year));
+}
+
+// Nothing in the junk scan consults these two.
+void Form7::read_system_temp_option() {
+  const Registry& registry = platform().registry;
+  systempaccess = ReadRegistryString(registry, Hive::kLocalMachine, kSystemTempKey, "access").text;
+  const double days =
+      Val(ReadRegistryString(registry, Hive::kLocalMachine, kSystemTempKey, "days").text);
+  constexpr double kTicksOfDay = 864e9;
+  systempdate = {platform().loop.local_now().ticks - static_cast<std::int64_t>(days * kTicksOfDay)};
+}
+
+void Form7::read_ignore_list() {
+  const auto content = platform().files.read_file(program.data_file("ignore.tdw"));
+  std::string list;
+  if (content) {
+    for (const std::string& line : text_lines(*content)) {
+      const std::string_view entry = Trim(line);
+      if (!entry.empty()) list.append(entry).push_back('|');
+    }
+  }
+  ignorelist.set_text(lower_case(list));
+}
+
+// The suite's run: a scan whose result goes to junst.txt, and the end of the program.
+void Form7::run_suite_command() {
+  if (Val(Text9.text()) != 1) return;
+  autosearch();
+  write_result_file();
+  program.end();
+}
+
+}  // namespace quillvane

@@ -2,12 +2,11 @@
 //
 //   TempMachine machine;
 //   machine.add_file("C:\\Windows\\Temp\\a.tmp", 120);
-//   Form7 form(machine.platform());
-//   ...
+//   run_something(machine.platform());
 //   EXPECT_TRUE(machine.has_file("C:\\Windows\\Temp\\a.tmp"));
 //
 // It begins with an empty drive C:, an empty registry and the default environment; its clock
-// begins at 2026-11-21 10:00:00. A step of the staging that fails ends the test.
+// begins at 2026-11-21 10:00:00. A step of the staging that fails ends the test program.
 #pragma once
 
 #include <cstdint>
@@ -20,6 +19,7 @@
 #include "platform/folder/folder_machine.h"
 #include "platform/platform.h"
 #include "platform/virtual/queued_dialogs.h"
+#include "tests/support/temp_folder.h"
 
 namespace quillvane {
 
@@ -32,7 +32,7 @@ class TempMachine {
   TempMachine& operator=(const TempMachine&) = delete;
 
   // The machine folder on this computer.
-  [[nodiscard]] const std::string& folder() const { return dir_; }
+  [[nodiscard]] const std::string& folder() const { return folder_.path(); }
 
   [[nodiscard]] Platform platform() { return machine_->platform(*dialogs_); }
   [[nodiscard]] FolderMachine& machine() { return *machine_; }
@@ -51,7 +51,7 @@ class TempMachine {
   // As the machine sees it; has_file is false for a folder.
   [[nodiscard]] bool has_file(const std::string& path);
   [[nodiscard]] bool has_folder(const std::string& path);
-  [[nodiscard]] std::string file_text(const std::string& path);
+  [[nodiscard]] std::optional<std::string> file_text(const std::string& path);
 
   // Where a file of the machine lies, or would lie, on this computer.
   [[nodiscard]] std::string host_path(const std::string& path) const;
@@ -73,7 +73,7 @@ class TempMachine {
                                                          const std::string& name);
 
  private:
-  std::string dir_;
+  TempFolder folder_;
   std::unique_ptr<FolderMachine> machine_;
   std::unique_ptr<QueuedDialogs> dialogs_;
 };

@@ -1,0 +1,91 @@
+#include "platform/folder/folder_machine.h"
+
+#include <chrono>
+#include <filesystem>
+#include <ratio>
+#include <system_error>
+#include <utility>
+
+#include "platform/folder/folder_file_system.h"
+#include "platform/folder/machine_drives.h"
+#include "platform/folder/machine_environment.h"
+#include "platform/folder/machine_event_log.h"
+#include "platform/folder/machine_json.h"
+#include "platform/folder/machine_system.h"
+#include "platform/folder/registry_store.h"
+
+namespace quillvane {
+
+namespace {
+
+// The host's clock in the machine's time zone.
+FileTime local_clock(int utc_offset_minutes) {
+  using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
+  constexpr auto kEpoch = std::chrono::sys_days(std::chrono::year{1601} / 1 / 1);
+  const auto now = std::chrono::system_clock::now() - kEpoch;
+  const auto local = now + std::chrono::minutes(utc_offset_minutes);
+  return {std::chrono::floor<Ticks>(local).count()};
+}
+
+}  // namespace
+
+struct FolderMachine::Parts {
+  Parts(const MachineState& state, EffectLog& effects)
+      : drives(state), environment(state), system(state), event_log(effects) {}
+
+  MachineDrives drives;
+  MachineEnvironment environment;
+  MachineSystem system;
+  MachineEventLog event_log;
+};
+
+std::variant<std::unique_ptr<FolderMachine>, std::string> FolderMachine::open(
+    const std::string& dir) {
+  std::error_code failed;
+  if (!std::filesystem::is_directory(dir, failed)) {
+    return dir + ": " + (failed ? failed.message() : "is no folder");
+  }
+  auto state = load_machine_json(dir);
+  if (const auto* error = std::get_if<std::string>(&state)) return dir + "/" + *error;
+
+  std::unique_ptr<FolderMachine> machine(
+      new FolderMachine(dir, std::get<MachineState>(std::move(state))));
+  auto registry = FolderRegistry::open(dir + "/registry.db", machine->effects_);
+  if (const auto* error = std::get_if<std::string>(&registry)) return dir + "/" + *error;
+  machine->registry_ = std::get<std::unique_ptr<FolderRegistry>>(std::move(registry));
+  return machine;
+}
+
+FolderMachine::FolderMachine(std::string dir, MachineState state)
+    : dir_(std::move(dir)),
+      state_(std::move(state)),
+      loop_(local_clock(state_.utc_offset_minutes)),
+      files_(std::make_unique<FolderFileSystem>(state_)),
+      parts_(std::make_unique<Parts>(state_, effects_)) {}
+
+FolderMachine::~FolderMachine() = default;
+
+Platform FolderMachine::platform(Dialogs& dialogs) {
+  return {*files_,        parts_->drives,    *registry_, parts_->environment,
+          parts_->system, parts_->event_log, loop_,      dialogs};
+}
+
+void FolderMachine::set_environment(const std::string& name, const std::string& value) {
+  set_variable(state_.environment, name, value);
+}
+
+void FolderMachine::add_process(std::uint32_t id, const std::string& name) {
+  state_.processes.push_back({id, name});
+}
+
+void FolderMachine::add_in_use(const std::string& path) { state_.in_use.push_back(path); }
+
+void FolderMachine::add_denied(const std::string& folder) { state_.denied.push_back(folder); }
+
+void FolderMachine::add_url_cache_entry(MachineCacheEntry entry) {
+  state_.url_cache.push_back(std::move(entry));
+}
+
+void FolderMachine::add_window(const std::string& title) { state_.windows.push_back(title); }
+
+}  // namespace quillvane

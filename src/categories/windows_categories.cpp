@@ -1,33 +1,19 @@
 #include "categories/windows_categories.h"
 
-#include <span>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <variant>
 
 #include "categories/category_frame.h"
+#include "categories/place.h"
 #include "core/form7.h"
-#include "platform/unicode_case.h"
 #include "support/registry_values.h"
 #include "support/stored_path.h"
 
 namespace quillvane {
 
 namespace {
-
-enum class Take {
-  kMatching,    // every file that matches
-  kEmptyFiles,  // of those the empty ones
-  kClrFolders,  // the matching files of the direct subfolders whose path holds "clr_"
-};
-
-// A folder, by an environment variable and what follows it, and the files to take from it and
-// below.
-struct Place {
-  const char* base;
-  const char* suffix;
-  const char* pattern;
-  Take take = Take::kMatching;
-};
 
 constexpr Place kSystemTemporary[] = {
     {"WinDir", "\\Temp", "*.*"},
@@ -95,36 +81,6 @@ constexpr Place kWindowsHistory[] = {
     {"APPDATA", "\\microsoft\\windows\\recent", "*.lnk"},
     {"APPDATA", "\\microsoft\\office\\recent", "*.lnk"},
 };
-
-void scan_clr_folders(Form7& form, const std::string& folder, const char* pattern, int node) {
-  for (const FolderEntry& entry : form.platform().files.list_folder(folder, "*.*")) {
-    const std::string path = folder + "\\" + entry.name;
-    if (entry.is_folder() && lower_case(path).find("clr_") != std::string::npos) {
-      form.srch(path, pattern, node);
-    }
-  }
-}
-
-void scan_place(Form7& form, const Place& place, int node) {
-  const std::string folder = form.platform().environment.get(place.base) + place.suffix;
-  switch (place.take) {
-    case Take::kMatching:
-      form.srch(folder, place.pattern, node);
-      break;
-    case Take::kEmptyFiles:
-      form.srch2(folder, place.pattern, node);
-      break;
-    case Take::kClrFolders:
-      scan_clr_folders(form, folder, place.pattern, node);
-      break;
-  }
-}
-
-void scan_places(Form7& form, int node, std::span<const Place> places) {
-  begin_category(form, node);
-  for (const Place& place : places) scan_place(form, place, node);
-  end_category(form, node);
-}
 
 // The size of the memory dump file; nothing when there is none.
 std::optional<std::uint64_t> dump_file_size(const Form7& form) {

@@ -9,6 +9,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/program.h"
 #include "core/scan_totals.h"
@@ -58,7 +59,7 @@ class Form7 final : public Window {
   // --- The scan (scan_driver.cpp). Failures are passed over: what cannot be read is empty.
   void autosearch();          // the whole scan
   void startclean();          // rebuilds the tree and scans the Windows group
-  void startcleanexplorer();  // scans the Browsers group
+  void startcleanexplorer();  // scans the Browsers group (cleaning/browser_guard.cpp)
   void searchcustom();        // scans the user's own entries
   void pndtxt();              // reads the files queued for the restart into Text15
 
@@ -106,6 +107,7 @@ class Form7 final : public Window {
   Shadow shadow;
   ScanTotals totals;
   std::map<int, NodeResult> node_results;  // by Index; emptied with the tree
+  std::vector<int> skipped_browsers;       // nodes the user kept out, since their browser runs
 
   // --- Hidden text boxes that serve as variables.
   TextBox Text8;        // number of the row clicked last in a list
@@ -183,7 +185,6 @@ class Form7 final : public Window {
   void resized() override;
 
  private:
-  class Walk;  // one run of the walker
   enum class ButtonState { kFresh, kScanning, kCustomGroup, kDone, kCancelling };
 
   // form7.cpp
@@ -212,9 +213,14 @@ class Form7 final : public Window {
   // scan_driver.cpp
   void show_result_page();
   void add_group_result(int node, double files, double bytes);
+  void add_to_count_and_size(double files, double bytes);
   void show_summary(double files);
   void show_found_mark();
   void write_result_file();  // junst.txt: count, "|", bytes
+
+  // cleaning/browser_guard.cpp
+  void scan_browsers();
+  [[nodiscard]] bool may_scan_browser(std::string_view process, std::string_view spoken_name);
 
   // category_tree.cpp
   void add_custom_nodes();

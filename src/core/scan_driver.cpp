@@ -70,8 +70,12 @@ void Form7::startclean() {
   add_group_result(kWindowsNode, totals.winfiles, totals.winsize);
   Tv1.select(kWindowsNode);
   show_result_page();
-  add_number(txtfilecont, totals.winfiles);
-  add_number(txtfilesize, totals.winsize);
+  add_to_count_and_size(totals.winfiles, totals.winsize);
+}
+
+void Form7::add_to_count_and_size(double files, double bytes) {
+  add_number(txtfilecont, files);
+  add_number(txtfilesize, bytes);
 }
 
 void Form7::show_result_page() {
@@ -79,19 +83,6 @@ void Form7::show_result_page() {
   Frame80.show();
   for (Frame* page : {&Frame2, &Frame4, &Frame6, &Frame8}) page->hide();
   view1.show();
-}
-
-void Form7::startcleanexplorer() {
-  totals.brfiles = 0;
-  totals.brsize = 0;
-  totals.catfiles = 0;
-  totals.catsize = 0;
-  totals.totalfiles += totals.brfiles;
-  totals.totalsize += totals.brsize;
-  add_group_result(kBrowsersNode, totals.brfiles, totals.brsize);
-  enter_state(ButtonState::kCustomGroup);
-  add_number(txtfilecont, totals.brfiles);
-  add_number(txtfilesize, totals.brsize);
 }
 
 void Form7::searchcustom() {

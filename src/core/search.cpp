@@ -25,13 +25,16 @@ std::optional<double> FileSizeToDouble(std::uint32_t high, std::uint32_t low) {
   return static_cast<double>(sum);
 }
 
-Files::Files(std::shared_ptr<const FolderTree> tree, std::string root_path)
-    : tree_(std::move(tree)), root_path_(std::move(root_path)) {}
+Files::Files(std::shared_ptr<const FolderTree> tree, const ListedFolder& root,
+             std::string root_path)
+    : tree_(std::move(tree)), root_(&root), root_path_(std::move(root_path)) {}
 
-void Files::Add(const ListedFolder& folder, std::uint32_t count, bool last_overflowed) {
-  if (count == 0) return;
-  runs_.push_back({&folder, count_, count, last_overflowed});
-  count_ += count;
+void Files::Add(const ListedFolder& folder, std::uint32_t file) {
+  const bool follows = !runs_.empty() && runs_.back().folder == &folder &&
+                       runs_.back().first + runs_.back().count == file;
+  if (!follows) runs_.push_back({&folder, file, 0, count_});
+  ++runs_.back().count;
+  ++count_;
 }
 
 const FolderRun& Files::run_of(std::size_t index) const {
@@ -43,7 +46,7 @@ const FolderRun& Files::run_of(std::size_t index) const {
 
 std::string Files::path_of(const ListedFolder& folder) const {
   std::vector<std::string_view> names;
-  for (const ListedFolder* at = &folder; at->parent() != nullptr; at = at->parent()) {
+  for (const ListedFolder* at = &folder; at != root_; at = at->parent()) {
     names.push_back(at->name());
   }
   std::string path = root_path_;
@@ -55,13 +58,14 @@ std::string Files::path_of(const ListedFolder& folder) const {
 
 std::string Files::full_name(std::size_t index) const {
   const FolderRun& run = run_of(index);
-  const auto file = static_cast<std::uint32_t>(index - run.begin);
+  const auto file = run.first + static_cast<std::uint32_t>(index - run.begin);
   return path_of(*run.folder).append(run.folder->name_of(file));
 }
 
 File Files::Item(std::size_t index) const {
   const FolderRun& run = run_of(index);
-  const ListedFile listed = run.folder->file(static_cast<std::uint32_t>(index - run.begin));
+  const auto number = run.first + static_cast<std::uint32_t>(index - run.begin);
+  const ListedFile listed = run.folder->file(number);
   const std::string path = path_of(*run.folder);
   File file;
   file.FileNameFull = path + std::string(listed.name);
@@ -79,38 +83,47 @@ File Files::Item(std::size_t index) const {
 
 void Search::SearchFiles(const std::string& path, const std::string& pattern, bool recursive) {
   const std::string root = path.ends_with('\\') ? path : path + '\\';
+  recursive_ = recursive;
   auto tree = file_system_.read_tree(root, pattern);
   if (tree == nullptr) return;
-  auto found = std::make_shared<class Files>(tree, root);
-  search_folder(tree->root(), root, pattern, recursive, *found);
-  found_ = std::move(found);
+  const ListedFolder& folder = tree->root();
+  search_listing({std::move(tree), &folder, 0}, root, pattern);
 }
 
-void Search::search_folder(const ListedFolder& folder, const std::string& path,
-                           const std::string& pattern, bool recursive, class Files& found) {
+void Search::search_listing(const ListedPart& part, const std::string& path,
+                            const std::string& pattern) {
+  const std::string root = path.ends_with('\\') ? path : path + '\\';
+  pattern_ = pattern;
+  pattern_number_ = part.pattern;
+  found_ = std::make_shared<class Files>(part.tree, *part.folder, root);
+  search_folder(*part.folder, root);
+}
+
+void Search::search_folder(const ListedFolder& folder, const std::string& path) {
   trail_.push("Search", "SearchFiles",
-              "FilePath: " + path + ", FileName: " + pattern +
-                  ", Recursive: " + (recursive ? "True" : "False"),
+              "FilePath: " + path + ", FileName: " + pattern_ +
+                  ", Recursive: " + (recursive_ ? "True" : "False"),
               "");
-  if (recursive) {
+  if (recursive_) {
     for (const ListedFolder* sub = folder.first_subfolder(); sub != nullptr;
          sub = sub->next_sibling()) {
-      search_folder(*sub, path + std::string(sub->name()) + '\\', pattern, recursive, found);
+      search_folder(*sub, path + std::string(sub->name()) + '\\');
     }
   }
-  add_files(folder, found);
+  add_files(folder);
   trail_.pop();
 }
 
-void Search::add_files(const ListedFolder& folder, class Files& found) {
+void Search::add_files(const ListedFolder& folder) {
   for (std::uint32_t i = 0; i < folder.file_count(); ++i) {
+    if (!folder.matches(i, pattern_number_)) continue;
+    found_->Add(folder, i);
     const ListedFile file = folder.file(i);
     if (FileSizeToDouble(file.size_high, file.size_low)) continue;
+    // The file was added before its size was computed: it stays, and the listing ends.
     trail_.report("Search", "SearchFiles", 0, {kOverflowError, "Search", "Overflow"});
-    found.Add(folder, i + 1, true);  // the file was added before its size was computed
     return;
   }
-  found.Add(folder, folder.file_count(), false);
 }
 
 }  // namespace quillvane

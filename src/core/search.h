@@ -30,22 +30,29 @@ struct File {
 // below 4 GiB counts as negative.
 [[nodiscard]] std::optional<double> FileSizeToDouble(std::uint32_t high, std::uint32_t low);
 
-// The files of one folder, from the first on.
+// A part of a tree that was read, as the walk of that part would have read it.
+struct ListedPart {
+  std::shared_ptr<const FolderTree> tree;
+  const ListedFolder* folder = nullptr;  // where the walk begins
+  unsigned pattern = 0;                  // which of the patterns of the reading
+};
+
+// Files of one folder that follow each other in its listing.
 struct FolderRun {
   const ListedFolder* folder = nullptr;
-  std::size_t begin = 0;  // number of the first file in the collection
+  std::uint32_t first = 0;  // number of the first in the folder
   std::uint32_t count = 0;
-  bool last_overflowed = false;  // the last file's size could not be computed
+  std::size_t begin = 0;  // number of the first in the collection
 };
 
 // The files found, in order. Names and times stay in the tree that was read; the collection keeps
 // only which files of which folders belong to it.
 class Files {
  public:
-  // `root_path` ends in a backslash.
-  Files(std::shared_ptr<const FolderTree> tree, std::string root_path);
+  // `root` is the folder where the search began, `root_path` its path with a backslash at its end.
+  Files(std::shared_ptr<const FolderTree> tree, const ListedFolder& root, std::string root_path);
 
-  void Add(const ListedFolder& folder, std::uint32_t count, bool last_overflowed);
+  void Add(const ListedFolder& folder, std::uint32_t file);
   [[nodiscard]] std::size_t Count() const { return count_; }
   // Counts from 0. Requires: index < Count().
   [[nodiscard]] File Item(std::size_t index) const;
@@ -59,6 +66,7 @@ class Files {
   [[nodiscard]] const FolderRun& run_of(std::size_t index) const;
 
   std::shared_ptr<const FolderTree> tree_;
+  const ListedFolder* root_;
   std::string root_path_;
   std::vector<FolderRun> runs_;
   std::size_t count_ = 0;
@@ -71,18 +79,22 @@ class Search {
   // Collects the files below `path` that match `pattern`: those of the subfolders first. A file
   // whose size overflows ends the listing of its folder; the failure goes to the error trail.
   void SearchFiles(const std::string& path, const std::string& pattern, bool recursive);
+  // The same, of a listing that was read before.
+  void search_listing(const ListedPart& part, const std::string& path, const std::string& pattern);
 
   // What was collected; null when the folder could not be read.
-  [[nodiscard]] const std::shared_ptr<const class Files>& Files() const { return found_; }
+  [[nodiscard]] const std::shared_ptr<class Files>& Files() const { return found_; }
 
  private:
-  void search_folder(const ListedFolder& folder, const std::string& path,
-                     const std::string& pattern, bool recursive, class Files& found);
-  void add_files(const ListedFolder& folder, class Files& found);
+  void search_folder(const ListedFolder& folder, const std::string& path);
+  void add_files(const ListedFolder& folder);
 
   const FileSystem& file_system_;
   ErrorTrail& trail_;
-  std::shared_ptr<const class Files> found_;
+  std::string pattern_;
+  unsigned pattern_number_ = 0;  // of the patterns that the listing was read for
+  bool recursive_ = true;
+  std::shared_ptr<class Files> found_;
 };
 
 }  // namespace quillvane

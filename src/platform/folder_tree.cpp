@@ -35,6 +35,12 @@ ListedFolder::FixedRecord* ListedFolder::allocate_files(TreeArena& arena, std::u
   return records_;
 }
 
+std::uint32_t* ListedFolder::allocate_matches(TreeArena& arena) {
+  matches_ = reinterpret_cast<std::uint32_t*>(
+      arena.allocate(file_count_ * sizeof(std::uint32_t)));
+  return matches_;
+}
+
 TreeArena& FolderTree::add_arena() {
   const std::lock_guard lock(adding_);
   return *arenas_.emplace_back(std::make_unique<TreeArena>());

@@ -6,6 +6,7 @@
 // the tree alive and read their texts from it.
 #pragma once
 
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -71,6 +72,11 @@ class ListedFolder {
     return {names + begin, records_[index].name_end - begin};
   }
 
+  // Whether the file matches pattern number `pattern` of the reading, from 0.
+  [[nodiscard]] bool matches(std::uint32_t index, unsigned pattern) const {
+    return matches_ == nullptr || (matches_[index] >> pattern & 1U) != 0;
+  }
+
   // The building side, for read_tree. All words are 32 bits wide, so that nothing is padded.
   struct SplitTime {
     std::uint32_t low;
@@ -98,12 +104,16 @@ class ListedFolder {
   void set_next_sibling(ListedFolder* folder) { next_sibling_ = folder; }
   // Takes room for `count` records and `names_length` bytes of names behind them.
   FixedRecord* allocate_files(TreeArena& arena, std::uint32_t count, std::size_t names_length);
+  // Takes room for one word a file that tells which patterns it matches, bit 0 being the first; left
+  // out where all files match the only pattern.
+  std::uint32_t* allocate_matches(TreeArena& arena);
 
  private:
   const ListedFolder* parent_ = nullptr;
   ListedFolder* first_subfolder_ = nullptr;
   ListedFolder* next_sibling_ = nullptr;
   FixedRecord* records_ = nullptr;
+  std::uint32_t* matches_ = nullptr;
   const char* name_ = nullptr;
   std::uint32_t file_count_ = 0;
   std::uint32_t name_length_ = 0;
@@ -111,17 +121,25 @@ class ListedFolder {
 
 class FolderTree {
  public:
+  // As many patterns can be asked for in one reading.
+  static constexpr unsigned kMostPatterns = 32;
+
   // The folder that the walk began with.
   [[nodiscard]] const ListedFolder& root() const { return *root_; }
+
+  // Whether a link was not entered since it leads back to a folder it lies in.
+  [[nodiscard]] bool left_out_loops() const { return left_out_loops_; }
 
   // The building side. Each reading thread takes an arena of its own.
   TreeArena& add_arena();
   void set_root(const ListedFolder* root) { root_ = root; }
+  void set_left_out_loops() { left_out_loops_ = true; }
 
  private:
   std::mutex adding_;
   std::vector<std::unique_ptr<TreeArena>> arenas_;
   const ListedFolder* root_ = nullptr;
+  std::atomic<bool> left_out_loops_ = false;
 };
 
 }  // namespace quillvane

@@ -11,8 +11,10 @@
 #include "platform/event_log.h"
 #include "platform/file_system.h"
 #include "platform/message_loop.h"
+#include "platform/processes.h"
 #include "platform/registry.h"
 #include "platform/system_info.h"
+#include "platform/url_cache.h"
 
 namespace quillvane {
 
@@ -23,6 +25,8 @@ struct Platform {
   Environment& environment;
   SystemInfo& system;
   SystemEventLog& event_log;
+  Processes& processes;
+  UrlCache& url_cache;
   MessageLoop& loop;
   Dialogs& dialogs;
 };

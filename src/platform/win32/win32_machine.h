@@ -6,8 +6,10 @@
 #include "platform/win32/win32_environment.h"
 #include "platform/win32/win32_event_log.h"
 #include "platform/win32/win32_file_system.h"
+#include "platform/win32/win32_processes.h"
 #include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_system_info.h"
+#include "platform/win32/win32_url_cache.h"
 
 namespace quillvane {
 
@@ -20,7 +22,8 @@ class Win32Machine {
   // Everything but what the user sees and when: boxes and time are the view's choice. All three
   // must outlive the result.
   [[nodiscard]] Platform platform(Dialogs& dialogs, MessageLoop& loop) {
-    return {files_, drives_, registry_, environment_, system_, event_log_, loop, dialogs};
+    return {files_,     drives_,    registry_,  environment_, system_,
+            event_log_, processes_, url_cache_, loop,         dialogs};
   }
 
  private:
@@ -30,6 +33,8 @@ class Win32Machine {
   Win32Environment environment_;
   Win32SystemInfo system_;
   Win32EventLog event_log_;
+  Win32Processes processes_;
+  Win32UrlCache url_cache_;
 };
 
 }  // namespace quillvane

@@ -1,0 +1,63 @@
+#include "core/kept_listing.h"
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+#include "core/form7.h"
+#include "core/walk.h"
+#include "platform/unicode_case.h"
+#include "support/text.h"
+
+namespace quillvane {
+
+namespace {
+
+// Whether the name stands for itself: Windows drops trailing points and blanks, and "/" parts
+// names.
+bool is_plain(std::string_view name) {
+  return !name.ends_with('.') && !name.ends_with(' ') && name.find('/') == std::string_view::npos;
+}
+
+const ListedFolder* subfolder(const ListedFolder& folder, std::string_view name) {
+  const ListedFolder* same = nullptr;
+  for (const ListedFolder* sub = folder.first_subfolder(); sub != nullptr;
+       sub = sub->next_sibling()) {
+    if (sub->name() == name) return sub;
+    if (same == nullptr && same_name(sub->name(), name)) same = sub;
+  }
+  return same;
+}
+
+}  // namespace
+
+KeptListing::KeptListing(Form7& form, std::string root, std::vector<std::string> patterns)
+    : form_(form), root_(std::move(root)), patterns_(std::move(patterns)) {}
+
+std::optional<ListedPart> KeptListing::find(const std::string& path, const std::string& pattern) {
+  const auto wanted = std::find(patterns_.begin(), patterns_.end(), pattern);
+  if (wanted == patterns_.end() || !path.starts_with(root_)) return std::nullopt;
+  const std::string below = path.substr(root_.size());
+  if (!below.empty() && below[0] != '\\') return std::nullopt;
+  if (!std::exchange(read_, true)) tree_ = form_.platform().files.read_tree_for(root_, patterns_);
+  // Where a link led back, the walk of a part could go further than the walk of the whole did.
+  if (tree_ == nullptr || tree_->left_out_loops()) return std::nullopt;
+
+  const ListedFolder* folder = &tree_->root();
+  for (const std::string& name : Split(below, "\\")) {
+    if (name.empty()) continue;
+    folder = is_plain(name) ? subfolder(*folder, name) : nullptr;
+    if (folder == nullptr) return std::nullopt;
+  }
+  return ListedPart{tree_, folder, static_cast<unsigned>(wanted - patterns_.begin())};
+}
+
+void KeptListing::srch(const std::string& path, const std::string& pattern, int category) {
+  if (const auto part = find(path, pattern)) {
+    Walk(form_, category, Walk::Keep::kAll).run(*part, path, pattern);
+  } else {
+    form_.srch(path, pattern, category);
+  }
+}
+
+}  // namespace quillvane

@@ -1,0 +1,171 @@
+#include "support/text.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillvane {
+namespace {
+
+using Parts = std::vector<std::string>;
+
+TEST(Trim, TakesBlanksFromBothEnds) {
+  EXPECT_EQ(Trim("  a b  "), "a b");
+  EXPECT_EQ(Trim("ab"), "ab");
+  EXPECT_EQ(Trim("   "), "");
+  EXPECT_EQ(Trim(""), "");
+}
+
+TEST(Trim, LeavesTabsAndLineEnds) {
+  EXPECT_EQ(Trim(" \ta\t "), "\ta\t");
+  EXPECT_EQ(Trim("a\r\n"), "a\r\n");
+}
+
+TEST(Split, GivesThePartsBetweenSeparators) {
+  EXPECT_EQ(Split("w2-c2", "-"), (Parts{"w2", "c2"}));
+  EXPECT_EQ(Split("a|b|c", "|"), (Parts{"a", "b", "c"}));
+  EXPECT_EQ(Split("Windows ( 3 files, 5 B )", " ("), (Parts{"Windows", " 3 files, 5 B )"}));
+}
+
+TEST(Split, KeepsEmptyParts) {
+  EXPECT_EQ(Split("-c", "-"), (Parts{"", "c"}));
+  EXPECT_EQ(Split("w-", "-"), (Parts{"w", ""}));
+  EXPECT_EQ(Split("a||b", "|"), (Parts{"a", "", "b"}));
+}
+
+TEST(Split, GivesTheWholeTextWithoutASeparatorInIt) {
+  EXPECT_EQ(Split("w2", "-"), (Parts{"w2"}));
+  EXPECT_EQ(Split("", "-"), (Parts{""}));
+}
+
+TEST(Part, IsEmptyBeyondTheLast) {
+  const Parts parts{"w2", "c2"};
+  EXPECT_EQ(part(parts, 0), "w2");
+  EXPECT_EQ(part(parts, 1), "c2");
+  EXPECT_EQ(part(parts, 2), "");
+}
+
+struct LikeCase {
+  std::string_view text;
+  std::string_view pattern;
+};
+
+constexpr LikeCase kAlike[] = {
+    {"", ""},
+    {"", "*"},
+    {"abc", "abc"},
+    // "?" is one character, however many bytes it has.
+    {"abc", "a?c"},
+    {"ä", "?"},
+    {"x~y", "?~?"},
+    {"ab~", "??~"},
+    // "*" is any run, the empty one too.
+    {"abc", "*"},
+    {"abc", "a*"},
+    {"abc", "*c"},
+    {"abc", "*b*"},
+    {"abc", "abc*"},
+    {".~a", ".~*"},
+    {"aXbXc", "a*b*c"},
+    {"abab", "*ab"},
+    {"mississippi", "m*iss*pi"},
+    {"aaaaaaaaaaaaaaaaaaaaaaaaaab", "*a*a*a*a*a*a*a*a*b"},
+    // "#" is a digit, "[...]" one of a set.
+    {"a7", "a#"},
+    {"b", "[a-c]"},
+    {"x", "[axz]"},
+    {"d", "[!a-c]"},
+    {"*", "[*]"},
+    {"?", "[?]"},
+    {"local disk (c:)", "local disk (c:)"},
+};
+
+TEST(Like, HoldsForAPatternThatFitsTheWholeText) {
+  for (const auto& [text, pattern] : kAlike) {
+    EXPECT_TRUE(Like(text, pattern)) << "\"" << text << "\" like \"" << pattern << "\"";
+  }
+}
+
+constexpr LikeCase kUnlike[] = {
+    {"abc", ""},
+    {"", "?"},
+    {"", "a"},
+    {"abc", "ABC"},  // exact in case
+    {"abc", "ab"},
+    {"abc", "bc"},
+    {"ab", "abc"},
+    {"abc", "a?"},
+    {"abc", "????"},
+    {"abc", "*b"},
+    {"abc", "b*"},
+    {"abc", "*bb*"},
+    {"a", "a*a"},
+    {"ax", "a#"},
+    {"d", "[a-c]"},
+    {"b", "[!a-c]"},
+    {"", "[a-c]"},
+    {"aaaaaaaaaaaaaaaaaaaaaaaaaaa", "*a*a*a*a*a*a*a*a*b"},
+    {"remote drive (c:)", "local disk (c:)"},
+};
+
+TEST(Like, FailsForAPatternThatDoesNot) {
+  for (const auto& [text, pattern] : kUnlike) {
+    EXPECT_FALSE(Like(text, pattern)) << "\"" << text << "\" like \"" << pattern << "\"";
+  }
+}
+
+TEST(ReplaceAll, ReplacesEveryOccurrence) {
+  EXPECT_EQ(replace_all("a,b,c", ",", "|"), "a|b|c");
+  EXPECT_EQ(replace_all("system32\\system32", "system32", "Sysnative"), "Sysnative\\Sysnative");
+  EXPECT_EQ(replace_all("abc", "b", ""), "ac");
+}
+
+TEST(ReplaceAll, LeavesATextWithoutAnOccurrence) {
+  EXPECT_EQ(replace_all("abc", "x", "y"), "abc");
+  EXPECT_EQ(replace_all("", "x", "y"), "");
+  EXPECT_EQ(replace_all("abc", "", "y"), "abc");
+}
+
+TEST(ReplaceAll, DoesNotLookIntoWhatItPutIn) {
+  EXPECT_EQ(replace_all("aa", "a", "aa"), "aaaa");
+  EXPECT_EQ(replace_all("aaa", "aa", "a"), "aa");
+}
+
+TEST(TextLines, EndWithEitherLineEnd) {
+  EXPECT_EQ(text_lines("a\r\nb\r\n"), (Parts{"a", "b"}));
+  EXPECT_EQ(text_lines("a\nb\n"), (Parts{"a", "b"}));
+}
+
+TEST(TextLines, TheLastLineNeedsNoEnd) {
+  EXPECT_EQ(text_lines("a\r\nb"), (Parts{"a", "b"}));
+  EXPECT_EQ(text_lines("a"), (Parts{"a"}));
+}
+
+TEST(TextLines, KeepEmptyAndBlankLines) {
+  EXPECT_EQ(text_lines("\r\n \r\na\r\n"), (Parts{"", " ", "a"}));
+  EXPECT_EQ(text_lines(""), Parts{});
+}
+
+struct NumberCase {
+  double number;
+  std::string_view text;
+};
+
+constexpr NumberCase kNumbers[] = {
+    {0, "0"},
+    {12, "12"},
+    {-3, "-3"},
+    {1.5, "1.5"},
+    {-2147483648.0, "-2147483648"},
+    {1099511627776.0, "1099511627776"},
+    {100000000000000000000.0, "100000000000000000000"},  // never with an exponent
+};
+
+TEST(NumberText, PrintsNumbersInTheirShortestForm) {
+  for (const auto& [number, text] : kNumbers) EXPECT_EQ(number_text(number), text);
+}
+
+}  // namespace
+}  // namespace quillvane

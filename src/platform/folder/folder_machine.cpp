@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <filesystem>
+#include <functional>
 #include <ratio>
 #include <system_error>
 #include <utility>
@@ -11,7 +12,9 @@
 #include "platform/folder/machine_environment.h"
 #include "platform/folder/machine_event_log.h"
 #include "platform/folder/machine_json.h"
+#include "platform/folder/machine_processes.h"
 #include "platform/folder/machine_system.h"
+#include "platform/folder/machine_url_cache.h"
 #include "platform/folder/registry_store.h"
 
 namespace quillvane {
@@ -30,13 +33,20 @@ FileTime local_clock(int utc_offset_minutes) {
 }  // namespace
 
 struct FolderMachine::Parts {
-  Parts(const MachineState& state, EffectLog& effects)
-      : drives(state), environment(state), system(state), event_log(effects) {}
+  Parts(MachineState& state, EffectLog& effects, const std::function<void()>& save)
+      : drives(state),
+        environment(state),
+        system(state),
+        event_log(effects),
+        processes(state, effects, save),
+        url_cache(state, save) {}
 
   MachineDrives drives;
   MachineEnvironment environment;
   MachineSystem system;
   MachineEventLog event_log;
+  MachineProcesses processes;
+  MachineUrlCache url_cache;
 };
 
 std::variant<std::unique_ptr<FolderMachine>, std::string> FolderMachine::open(
@@ -61,13 +71,27 @@ FolderMachine::FolderMachine(std::string dir, MachineState state)
       state_(std::move(state)),
       loop_(local_clock(state_.utc_offset_minutes)),
       files_(std::make_unique<FolderFileSystem>(state_)),
-      parts_(std::make_unique<Parts>(state_, effects_)) {}
+      parts_(std::make_unique<Parts>(state_, effects_, [this] { save(); })) {}
 
 FolderMachine::~FolderMachine() = default;
 
 Platform FolderMachine::platform(Dialogs& dialogs) {
-  return {*files_,        parts_->drives,    *registry_, parts_->environment,
-          parts_->system, parts_->event_log, loop_,      dialogs};
+  return {.files = *files_,
+          .drives = parts_->drives,
+          .registry = *registry_,
+          .environment = parts_->environment,
+          .system = parts_->system,
+          .event_log = parts_->event_log,
+          .processes = parts_->processes,
+          .url_cache = parts_->url_cache,
+          .loop = loop_,
+          .dialogs = dialogs};
+}
+
+void FolderMachine::save() const {
+  // The call that made the change cannot tell of it: a process has ended, whether or not the folder
+  // can be written.
+  static_cast<void>(save_removals(dir_, state_));
 }
 
 void FolderMachine::set_environment(const std::string& name, const std::string& value) {

@@ -52,6 +52,9 @@ class FolderMachine {
  private:
   FolderMachine(std::string dir, MachineState state);
 
+  // Brings machine.json up to date with what has left the state.
+  void save() const;
+
   struct Parts;  // the small concerns, which need nothing but state and effects
 
   std::string dir_;

@@ -28,4 +28,10 @@ namespace quillvane {
 [[nodiscard]] std::optional<std::string> save_machine_json(const std::string& dir,
                                                            const MachineState& state);
 
+// Takes the processes and cache entries out of machine.json that `state` holds no more. What was
+// added to `state` since it was loaded, as scripts do, does not get into the file. Answers what
+// went wrong.
+[[nodiscard]] std::optional<std::string> save_removals(const std::string& dir,
+                                                       const MachineState& state);
+
 }  // namespace quillvane

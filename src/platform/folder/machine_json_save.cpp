@@ -3,6 +3,7 @@
 #include <nlohmann/json.hpp>
 #include <system_error>
 #include <utility>
+#include <vector>
 
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_file.h"
@@ -83,7 +84,32 @@ Json stored_document(const std::string& file) {
   return text == nullptr ? Json::object() : Json::parse(*text, nullptr, false);
 }
 
+// Keeps of `stored` what is in `kept` too, each element of `kept` counting once.
+template <typename Element, typename Same>
+void keep_common(std::vector<Element>& stored, std::vector<Element> kept, Same same) {
+  std::erase_if(stored, [&](const Element& element) {
+    const auto found = std::find_if(kept.begin(), kept.end(),
+                                    [&](const Element& other) { return same(element, other); });
+    if (found == kept.end()) return true;
+    kept.erase(found);
+    return false;
+  });
+}
+
 }  // namespace
+
+std::optional<std::string> save_removals(const std::string& dir, const MachineState& state) {
+  auto loaded = load_machine_json(dir);
+  if (const auto* error = std::get_if<std::string>(&loaded)) return *error;
+  auto& stored = std::get<MachineState>(loaded);
+  keep_common(stored.processes, state.processes, [](const auto& left, const auto& right) {
+    return left.id == right.id && left.name == right.name;
+  });
+  keep_common(stored.url_cache, state.url_cache, [](const auto& left, const auto& right) {
+    return left.url == right.url && left.file == right.file;
+  });
+  return save_machine_json(dir, stored);
+}
 
 std::optional<std::string> save_machine_json(const std::string& dir, const MachineState& state) {
   const auto stored = load_machine_json(dir);

@@ -150,5 +150,30 @@ TEST_F(MachineJsonSave, AFolderThatIsGoneIsTold) {
             "machine.json: cannot be written: No such file or directory");
 }
 
+TEST_F(MachineJsonSave, RemovalsReachTheFileAndAdditionsDoNot) {
+  folder_.write("machine.json",
+                R"({"processes": [{"id": 7, "name": "a.exe"}, {"id": 9, "name": "b.exe"}],
+                    "urlCache": [{"url": "http://a/", "file": "C:\\1"},
+                                 {"url": "http://a/", "file": "C:\\2"},
+                                 {"url": "http://b/", "file": ""}]})");
+  MachineState state = load();
+  state.processes.erase(state.processes.begin());
+  state.processes.push_back({11, "added.exe"});
+  state.url_cache.erase(state.url_cache.begin());
+  state.url_cache.push_back({"http://added/", "", std::nullopt, ""});
+  set_variable(state.environment, "ADDED", "1");
+  state.in_use = {"C:\\added"};
+  ASSERT_EQ(save_removals(folder_.path(), state), std::nullopt);
+
+  const MachineState read = load();
+  ASSERT_EQ(read.processes.size(), 1U);
+  EXPECT_EQ(read.processes[0].id, 9U);
+  ASSERT_EQ(read.url_cache.size(), 2U);
+  EXPECT_EQ(read.url_cache[0].file, "C:\\2");
+  EXPECT_EQ(read.url_cache[1].url, "http://b/");
+  EXPECT_EQ(read.environment, default_environment());
+  EXPECT_TRUE(read.in_use.empty());
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -83,7 +83,7 @@ void SearchableText::build_index() const {
       keyed.emplace_back(0, static_cast<std::uint32_t>(colon - 1));
     }
   }
-  sort_places(text, keyed, 3);
+  sort_places(text, keyed, 0);
   places_.clear();
   places_.reserve(keyed.size());
   for (const KeyedPlace& place : keyed) places_.push_back(place.second);

@@ -37,12 +37,18 @@ class QueuedDialogs final : public Dialogs {
   Answer message_box(const std::string& text, const std::string& title,
                      std::uint32_t style) override;
 
+  // Answers to file and folder dialogs and to input boxes; an empty path cancels.
+  void answer_path(std::string path) { paths_.push_back(std::move(path)); }
+  void answer_input(std::string text) { inputs_.push_back(std::move(text)); }
+
   // The boxes since the last call.
   [[nodiscard]] std::vector<ShownBox> take_boxes() { return std::exchange(boxes_, {}); }
 
  private:
   EffectLog& effects_;
   std::deque<Answer> answers_;
+  std::deque<std::string> paths_;
+  std::deque<std::string> inputs_;
   std::vector<ShownBox> boxes_;
 };
 

@@ -1,0 +1,32 @@
+// The lines of a script that hold a command, one after the other.
+#pragma once
+
+#include <istream>
+#include <optional>
+#include <string>
+
+namespace quillvane {
+
+struct ScriptLine {
+  int number = 0;  // from 1
+  std::string text;
+
+  friend bool operator==(const ScriptLine&, const ScriptLine&) = default;
+};
+
+// Reads no further than asked, so that a script can be typed or sent line by line.
+class ScriptReader {
+ public:
+  // `source` must outlive it.
+  explicit ScriptReader(std::istream& source) : source_(source) {}
+
+  // The next line that is neither blank nor a comment (its first character that isn't a blank is
+  // "#"); nothing at the end.
+  [[nodiscard]] std::optional<ScriptLine> next();
+
+ private:
+  std::istream& source_;
+  int number_ = 0;
+};
+
+}  // namespace quillvane

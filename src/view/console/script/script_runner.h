@@ -1,0 +1,48 @@
+// Runs an automation script: drives the windows line by line and prints what the script asks for.
+#pragma once
+
+#include <functional>
+#include <istream>
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "view/console/script/script_command.h"
+#include "view/console/script/script_reader.h"
+
+namespace quillvane {
+
+class ScriptRunner {
+ public:
+  // All of these must outlive it. The runner takes the loop's served hook for itself.
+  ScriptRunner(std::istream& script, std::ostream& out, ConsoleMachine& machine,
+               DrivenProgram& program);
+  ~ScriptRunner();
+  ScriptRunner(const ScriptRunner&) = delete;
+  ScriptRunner& operator=(const ScriptRunner&) = delete;
+
+  // Runs all lines. Answers why the script ended before its last one ("line 3: ..."); nothing when
+  // it came to its end.
+  [[nodiscard]] std::optional<std::string> run();
+
+  // Runs the lines that follow until `done` holds, the script ends or a line fails: what a window
+  // does that keeps the others waiting. May be called inside a line.
+  void run_until(const std::function<bool()>& done);
+
+ private:
+  void execute(int line, const ScriptWords& words);
+  // Looks a trigger's condition up; a name in it that isn't there ends the script.
+  bool holds(const ScriptTrigger& trigger);
+  void served();
+  void fail(int line, const std::string& why);
+
+  ScriptReader reader_;
+  std::ostream& out_;
+  VirtualLoop& loop_;
+  ScriptOutput output_;
+  ScriptTriggers triggers_;
+  ScriptContext context_;
+  std::optional<std::string> problem_;
+};
+
+}  // namespace quillvane

@@ -1,0 +1,18 @@
+// The words of a script line.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace quillvane {
+
+using ScriptWords = std::vector<std::string>;
+
+// Splits a line at blanks. A word in double quotes may hold blanks; in it \" is a quote and every
+// other backslash stands for itself, so that Windows paths need no doubling. A quote inside a word
+// that did not begin with one is a character like any other. Throws ScriptError when a quoted word
+// isn't closed or something follows its closing quote directly.
+[[nodiscard]] ScriptWords split_words(std::string_view line);
+
+}  // namespace quillvane

@@ -1,0 +1,41 @@
+// registry export, registry import.
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <variant>
+
+#include "view/console/console_command.h"
+#include "view/console/input_file.h"
+
+namespace quillvane {
+
+std::function<int()> prepare_registry_export(CLI::App& app, ConsoleSession& session) {
+  const auto dir = std::make_shared<std::string>();
+  app.add_option("DIR", *dir, "The machine folder")->required();
+  return [&session, dir] {
+    const auto exported = session.host.export_registry(*dir);
+    if (const auto* problem = std::get_if<HostProblem>(&exported)) {
+      return session.problem(problem->text);
+    }
+    session.io.out << std::get<std::string>(exported);
+    return kDone;
+  };
+}
+
+std::function<int()> prepare_registry_import(CLI::App& app, ConsoleSession& session) {
+  const auto dir = std::make_shared<std::string>();
+  const auto file = std::make_shared<std::string>();
+  app.add_option("DIR", *dir, "The machine folder")->required();
+  app.add_option("FILE", *file, "A .reg file; - for standard input")->required();
+  return [&session, dir, file] {
+    InputFile input(*file, session.io.in);
+    if (!input.opened()) return session.problem(*file + ": cannot be read");
+    const std::string content{std::istreambuf_iterator<char>(input.stream()), {}};
+    if (input.stream().bad()) return session.problem(*file + ": cannot be read");
+    const auto problem = session.host.import_registry(*dir, content);
+    return problem ? session.problem(problem->text) : kDone;
+  };
+}
+
+}  // namespace quillvane

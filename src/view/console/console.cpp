@@ -1,0 +1,94 @@
+#include "view/console/console.h"
+
+#include <utility>
+
+#include "view/console/console_command.h"
+
+namespace quillvane {
+
+namespace {
+
+struct PreparedCommand {
+  const CLI::App* app;
+  std::function<int()> run;
+};
+
+CLI::App& group_of(CLI::App& app, const ConsoleCommand& command) {
+  const std::string name = command.group;
+  if (name.empty()) return app;
+  const auto known =
+      app.get_subcommands([&](const CLI::App* other) { return other->get_name() == name; });
+  if (!known.empty()) return *known.front();
+  const char* description =
+      name == "machine" ? "Machine folders" : "The registry of a machine folder";
+  CLI::App* group = app.add_subcommand(name, description);
+  group->require_subcommand(1);
+  return *group;
+}
+
+void add_common_options(CLI::App& app, ConsoleSession& session) {
+  app.add_option("--machine", session.machine_folder,
+                 "Work on the machine of this folder (else of QUILLVANE_MACHINE, else a demo)")
+      ->type_name("DIR");
+  app.add_flag("--json", session.json, "Print results as one JSON document");
+  app.add_flag("--list", session.list, "Print each file too");
+  app.set_version_flag("--version", "quillvane " QUILLVANE_VERSION);
+}
+
+std::vector<PreparedCommand> add_commands(CLI::App& app, ConsoleSession& session) {
+  std::vector<PreparedCommand> prepared;
+  for (const ConsoleCommand& command : console_commands()) {
+    CLI::App* added = group_of(app, command).add_subcommand(command.name, command.description);
+    prepared.push_back({added, command.prepare(*added, session)});
+  }
+  return prepared;
+}
+
+// What is wrong with the words, in one line.
+std::string reason_of(const CLI::ParseError& error) {
+  if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
+      std::string(error.what()).find("subcommand") != std::string::npos) {
+    return "a command is missing (quillvane --help lists them)";
+  }
+  std::string reason = error.what();
+  for (char& c : reason) {
+    if (c == '\n') c = ' ';
+  }
+  return reason;
+}
+
+int run_words(const std::vector<std::string>& words, ConsoleIo& io, ConsoleSession& session) {
+  CLI::App app("Finds junk files on a Windows machine.", "quillvane");
+  app.fallthrough();  // common options may stand behind the command too
+  app.require_subcommand(1);
+  add_common_options(app, session);
+  const std::vector<PreparedCommand> commands = add_commands(app, session);
+  try {
+    app.parse(std::vector<std::string>(words.rbegin(), words.rend()));  // it wants the last first
+  } catch (const CLI::ParseError& error) {
+    if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
+      return app.exit(error, io.out, io.err);  // help or version
+    }
+    session.problem("command line: " + reason_of(error));
+    return kWrongWords;
+  }
+  for (const PreparedCommand& command : commands) {
+    if (command.app->parsed()) return command.run();
+  }
+  return kWrongWords;
+}
+
+}  // namespace
+
+int run_console(const std::vector<std::string>& words, ConsoleIo& io, MachineHost& host) {
+  ConsoleSession session{io, host, "", false, false};
+  const int status = run_words(words, io, session);
+  io.out.flush();
+  if (!io.out) {
+    io.err << "quillvane: standard output: cannot be written\n";
+    return kNotDone;
+  }
+  return status;
+}
+
+}  // namespace quillvane

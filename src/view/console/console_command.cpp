@@ -1,0 +1,47 @@
+#include "view/console/console_command.h"
+
+#include <array>
+#include <optional>
+#include <variant>
+
+namespace quillvane {
+
+namespace {
+
+constexpr std::array kCommands = {
+    ConsoleCommand{"", "scan", "Search the machine for junk; nothing is removed", prepare_scan},
+    ConsoleCommand{"", "script", "Drive the windows by an automation script", prepare_script},
+    ConsoleCommand{"machine", "create", "Make a machine folder", prepare_machine_create},
+    ConsoleCommand{"machine", "show", "Show what a machine folder holds", prepare_machine_show},
+    ConsoleCommand{"registry", "export", "Print a machine's registry as .reg text",
+                   prepare_registry_export},
+    ConsoleCommand{"registry", "import", "Read .reg text into a machine's registry",
+                   prepare_registry_import},
+    ConsoleCommand{"", "clean", "", prepare_unavailable},
+    ConsoleCommand{"", "search", "", prepare_unavailable},
+    ConsoleCommand{"", "shortcuts", "", prepare_unavailable},
+    ConsoleCommand{"", "run", "", prepare_unavailable},
+};
+
+}  // namespace
+
+std::span<const ConsoleCommand> console_commands() { return kCommands; }
+
+int ConsoleSession::problem(std::string_view what_and_why) const {
+  io.out.flush();  // what was printed before stands before
+  io.err << "quillvane: " << what_and_why << '\n';
+  return kNotDone;
+}
+
+std::unique_ptr<ConsoleMachine> ConsoleSession::open_machine() const {
+  const auto dir =
+      machine_folder.empty() ? std::nullopt : std::optional<std::string>(machine_folder);
+  auto opened = host.open(dir, io.err);
+  if (const auto* why = std::get_if<HostProblem>(&opened)) {
+    problem(why->text);
+    return nullptr;
+  }
+  return std::get<std::unique_ptr<ConsoleMachine>>(std::move(opened));
+}
+
+}  // namespace quillvane

@@ -1,0 +1,18 @@
+// Where the console program reads and writes.
+#pragma once
+
+#include <istream>
+#include <ostream>
+
+namespace quillvane {
+
+struct ConsoleIo {
+  std::istream& in;
+  std::ostream& out;            // results
+  std::ostream& err;            // problems and progress
+  bool out_takes_bold = false;  // a terminal that understands the usual escapes
+  bool err_is_terminal = false;
+  int err_columns = 80;  // width of that terminal
+};
+
+}  // namespace quillvane

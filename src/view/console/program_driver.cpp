@@ -1,0 +1,20 @@
+#include "view/console/program_driver.h"
+
+#include "platform/unicode_case.h"
+
+namespace quillvane {
+
+void ProgramDriver::start(const std::string& command_line) {
+  started_ = true;  // first: a run switch does its work in here, and the script drives that too
+  program_.start(command_line);
+}
+
+void ProgramDriver::wait(std::chrono::milliseconds time) { program_.PumpWait(time); }
+
+Window* ProgramDriver::find_window(std::string_view name) const {
+  return program_.find_window(name);
+}
+
+bool ProgramDriver::has_window(std::string_view name) const { return same_name(name, "Form7"); }
+
+}  // namespace quillvane

@@ -1,0 +1,19 @@
+// Ctrl-C as a request to cancel.
+#pragma once
+
+namespace quillvane {
+
+// While one of these lives, the first Ctrl-C is only noted; a second one ends the program as usual.
+// At most one at a time.
+class Interrupt {
+ public:
+  Interrupt();
+  ~Interrupt();
+  Interrupt(const Interrupt&) = delete;
+  Interrupt& operator=(const Interrupt&) = delete;
+
+  // Whether Ctrl-C came since the last call.
+  [[nodiscard]] bool take();
+};
+
+}  // namespace quillvane

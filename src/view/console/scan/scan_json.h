@@ -1,0 +1,14 @@
+// The result of a scan as one JSON document.
+#pragma once
+
+#include <ostream>
+
+#include "forms/list_view.h"
+#include "view/console/scan/scan_report.h"
+
+namespace quillvane {
+
+// With `files` each file too. Written file by file: the list may be long.
+void print_scan_json(std::ostream& out, const ScanReport& report, const ListView* files);
+
+}  // namespace quillvane

@@ -1,0 +1,23 @@
+#include "view/console/scan/scan_report.h"
+
+namespace quillvane {
+
+namespace {
+
+// What stands before the result that a scan writes behind a caption.
+constexpr std::string_view kResultBegin = " (";
+
+}  // namespace
+
+ScanReport read_report(const Form7& form) {
+  ScanReport report{{form.totals.totalfiles, form.totals.totalsize}, form.Label11.caption(), {}};
+  for (int index = 1; index <= form.Tv1.count(); ++index) {
+    const TreeNode& node = form.Tv1.node(index);
+    report.categories.push_back({index, node.key, node.parent.empty(), node.text,
+                                 node.text.substr(0, node.text.find(kResultBegin)),
+                                 form.node_totals(index)});
+  }
+  return report;
+}
+
+}  // namespace quillvane

@@ -1,0 +1,28 @@
+// What a scan found, read from the windows when it is over.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/form7.h"
+
+namespace quillvane {
+
+struct CategoryReport {
+  int index = 0;
+  std::string key;
+  bool group = false;
+  std::string caption;  // with the result behind it, as the tree shows it
+  std::string name;     // the caption alone
+  NodeResult result;    // what it put into the totals
+};
+
+struct ScanReport {
+  NodeResult totals;
+  std::string summary;
+  std::vector<CategoryReport> categories;  // the nodes of the tree in order
+};
+
+[[nodiscard]] ScanReport read_report(const Form7& form);
+
+}  // namespace quillvane

@@ -4,6 +4,7 @@
 #include "categories/chromium_browsers.h"
 #include "categories/other_browsers.h"
 #include "categories/windows_categories.h"
+#include "core/form7.h"
 
 namespace quillvane {
 
@@ -23,6 +24,7 @@ constexpr Routine kBrowserRoutines[] = {iecache,   firefoxcache, googlecache,  o
 }  // namespace
 
 void run_category(Form7& form, int node) {
+  if (form.program.stopped()) return;
   if (node >= kFirstWindowsLeaf && node <= kLastWindowsLeaf) {
     kWindowsRoutines[node - kFirstWindowsLeaf](form);
   } else if (node >= kFirstBrowserLeaf && node <= kLastBrowserLeaf) {

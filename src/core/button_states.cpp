@@ -82,6 +82,12 @@ void Form7::toolbar_start() {
   enable_toolbar({5, 6, 9, 10, 12, 13}, true);
 }
 
+void Form7::toolbar_clean() {
+  if (!confirm_cleaning()) return;
+  orvbutton2.click();
+  toolbar_start();
+}
+
 void Form7::toolbar_cancel() {
   cancelflag = 1;
   if (view1.count() >= 1) enable_toolbar({6, 9, 10}, true);
@@ -95,6 +101,9 @@ void Form7::toolbar_button(int number) {
     case 5:
       toolbar_start();
       break;
+    case 6:
+      toolbar_clean();
+      break;
     case 7:
       toolbar_cancel();
       break;
@@ -103,6 +112,9 @@ void Form7::toolbar_button(int number) {
       break;
     case 10:
       show_everything(false);
+      break;
+    case 16:
+      start_eraser();
       break;
     default:
       break;

@@ -51,6 +51,8 @@ PropertyValue number_value(double number) {
 Form7::Form7(Program& owner)
     : Window("Form7"),
       program(owner),
+      pending(owner.platform),
+      Text3(*this, "Text3"),
       Text8(*this, "Text8"),
       Text9(*this, "Text9"),
       Text13(*this, "Text13"),
@@ -65,6 +67,8 @@ Form7::Form7(Program& owner)
       Shape1(*this, "Shape1"),
       Shape2(*this, "Shape2"),
       Gif89a2(*this, "Gif89a2"),
+      bar3(*this, "bar3"),
+      Bar2(*this, "Bar2"),
       Label12_0(*this, "Label12(0)"),
       Label12_1(*this, "Label12(1)"),
       Frame2(*this, "Frame2"),
@@ -80,11 +84,16 @@ Form7::Form7(Program& owner)
       cmd_custom(*this, "cmd_custom"),
       cmd_ignore(*this, "cmd_ignore"),
       cmd_report(*this, "cmd_report"),
+      orvbutton2(*this, "orvbutton2"),
+      Command14(*this, "Command14"),
+      chameleonButton2(*this, "chameleonButton2"),
       chameleonButton9(*this, "chameleonButton9"),
       chameleonButton12(*this, "chameleonButton12"),
       chameleonButton13(*this, "chameleonButton13"),
       chameleonButton18(*this, "chameleonButton18"),
+      Image44_0(*this, "Image44(0)"),
       Toolbar1(*this, "Toolbar1"),
+      TrayArea1(*this, "TrayArea1", owner.platform.tray),
       scf(*this, "scf", "Scan"),
       stc(*this, "stc", "Start Cleaning"),
       sc(*this, "sc", {&scf, &stc}),
@@ -117,11 +126,14 @@ Form7::Form7(Program& owner)
   cmd_custom.set_caption("Custom Search");
   cmd_ignore.set_caption("Ignore list");
   cmd_report.set_caption("Create Report");
+  chameleonButton2.set_tool_tip("Run shortcut tool");
   lbllanguage_0.set_caption("English");
+  TrayArea1.set_tool_tip(kProgramName);
   Toolbar1.set_buttons(design_toolbar());
   for (Control* hidden : std::initializer_list<Control*>{
-           &Text8, &Text9, &Text13, &Text14, &Text15, &txtfilecont, &txtfilesize, &Gif89a2,
-           &pictrlang, &Drive1, &List1, &Frame4, &Frame6, &Frame8, &Frame80}) {
+           &Text3, &Text8, &Text9, &Text13, &Text14, &Text15, &txtfilecont, &txtfilesize, &Gif89a2,
+           &pictrlang, &Drive1, &List1, &Frame4, &Frame6, &Frame8, &Frame80, &bar3, &Bar2,
+           &orvbutton2}) {
     hidden->hide();
   }
   enter_state(ButtonState::kFresh);
@@ -136,6 +148,9 @@ void Form7::connect_controls() {
   Text15.on_change = [this] { pending_filter.set_text(Text15.text()); };
   cmd_start.on_click = [this] { start_button(); };
   cmd_cancel.on_click = [this] { cancel_button(); };
+  cmd_clean.on_click = [this] { clean_button(); };
+  orvbutton2.on_click = [this] { run_cleaning(); };
+  Command14.on_click = [this] { back_up(); };
   cmd_all.on_click = [this] { show_everything(true); };
   cmd_non.on_click = [this] { show_everything(false); };
   chameleonButton9.on_click = [this] { close(); };
@@ -144,6 +159,16 @@ void Form7::connect_controls() {
   Toolbar1.on_button_click = [this](int number) { toolbar_button(number); };
   scf.on_click = [this] { rescan_node(); };
   stc.on_click = [this] { clean_node(); };
+  Image44_0.on_click = [this] { show_help(); };
+  TrayArea1.on_double_click = [this] { leave_tray(); };
+  Timer2.on_timer = [this] { tell_suite(); };
+  b1.on_click = [this] { orvbutton2.click(); };
+  b2.on_click = [this] {
+    view5.check_all(true);
+    orvbutton2.click();
+  };
+  b4.on_click = [this] { locate_row(); };
+  b5.on_click = [this] { show_row_properties(); };
   b7.on_click = [this] { view5.check_all(true); };
   b8.on_click = [this] { view5.check_all(false); };
 }
@@ -154,6 +179,9 @@ void Form7::connect_lists() {
   Tv1.on_right_click = [this] { return &sc; };
   for (ListView* list : {&view1, &view5}) {
     list->on_item_click = [this](int row) { row_clicked(row); };
+    list->on_double_click = [this, list] {
+      if (list->count() >= 1) show_row_properties();
+    };
     list->on_right_click = [this, list] { return list->count() >= 1 ? &b : nullptr; };
   }
   view1.on_column_click = [this](int column) { sort_hits(column); };
@@ -213,7 +241,10 @@ void Form7::resized() {
                                                        &View201, &View101, &view5, &Tv1}) {
     view->refresh();
   }
-  if (state() == WindowState::kMinimised) hide();
+  if (state() == WindowState::kMinimised) {
+    hide();
+    TrayArea1.set_icon_visible(true);
+  }
 }
 
 }  // namespace quillvane

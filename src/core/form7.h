@@ -11,12 +11,15 @@
 #include <string_view>
 #include <vector>
 
+#include "cleaning/pending_queue.h"
+#include "controls/tray_area.h"
 #include "core/program.h"
 #include "core/scan_totals.h"
 #include "core/searchable_text.h"
 #include "forms/buttons.h"
 #include "forms/list_box.h"
 #include "forms/list_view.h"
+#include "forms/progress_bar.h"
 #include "forms/simple_controls.h"
 #include "forms/text_box.h"
 #include "forms/timer.h"
@@ -63,6 +66,12 @@ class Form7 final : public Window {
   void searchcustom();        // scans the user's own entries
   void pndtxt();              // reads the files queued for the restart into Text15
 
+  // --- Cleaning (cleaning/cleaning_run.cpp, cleaning/backup.cpp).
+  // Removes every row of view1, whatever its tick: the run behind orvbutton2.
+  void run_cleaning();
+  // Copies the ticked rows of view1 aside: the run behind Command14.
+  void back_up();
+
   // --- The walker (walker.cpp).
   // Scans `path` and all folders below it; files that match and pass the tests become rows of
   // view1 for `category`, a node of Tv1.
@@ -95,7 +104,8 @@ class Form7 final : public Window {
   bool known_second_half = true;  // false after a second half that is none: it never cleans
   int cancelflag = 0;             // 1: the running scan shall stop
   SearchableText ignorelist;      // lower-case ignore entries, each followed by "|"
-  SearchableText pending_filter;  // the text of Text15, with an index for the walker
+  SearchableText pending_filter;  // PendingFilter: the text of Text15, with an index
+  PendingQueue pending;           // mirror of the queue of the next restart
   int selnode = 0;                // Index of the node of Tv1 clicked last
   int listfocus = 0;              // 3 once a row of view1 or view5 was clicked
   int wizardstep = 0;             // page of the drive search
@@ -110,6 +120,7 @@ class Form7 final : public Window {
   std::vector<int> skipped_browsers;       // nodes the user kept out, since their browser runs
 
   // --- Hidden text boxes that serve as variables.
+  TextBox Text3;        // line beside the animation; visible during a cleaning run
   TextBox Text8;        // number of the row clicked last in a list
   TextBox Text9;        // mailbox: its Change event starts the suite's run
   TextBox Text13;       // the file being looked at; visible during a scan
@@ -126,6 +137,8 @@ class Form7 final : public Window {
   Shape Shape1;       // mark beside the summary: dark red when something was found
   Shape Shape2;       // holds the colour that Shape1 goes back to
   Animation Gif89a2;  // plays while a scan runs
+  ProgressBar bar3;   // how far a cleaning run has come
+  ProgressBar Bar2;   // how far a backup has come
   Label Label12_0;    // the current year
   Label Label12_1;    // the current year, on the second page
 
@@ -145,11 +158,16 @@ class Form7 final : public Window {
   Button cmd_custom;         // opens the user's own entries
   Button cmd_ignore;         // opens the ignore list
   Button cmd_report;         // writes a report
+  Button orvbutton2;         // holds the cleaning run
+  Button Command14;          // copies the ticked files aside
+  Button chameleonButton2;   // opens the shortcut window
   Button chameleonButton9;   // closes the window
   Button chameleonButton12;  // minimises the window
   Button chameleonButton13;  // opens and closes the language panel
   Button chameleonButton18;  // opens the about window
+  Picture Image44_0;         // opens the help
   Toolbar Toolbar1;          // the same commands as pictures
+  TrayArea TrayArea1;        // the icon of the minimised window
 
   // --- Menus.
   MenuEntry scf;  // "Scan": scans the clicked node again
@@ -179,7 +197,7 @@ class Form7 final : public Window {
   ListView View101;   // the table of file types
   ListBox List1;      // sub-key names of the registry, for the browser categories
 
-  Timer Timer2;  // the suite's quick run
+  Timer Timer2;  // the suite's quick run: an early reading each half second
 
  protected:
   void resized() override;
@@ -202,7 +220,12 @@ class Form7 final : public Window {
   void show_year();
   void read_system_temp_option();
   void read_ignore_list();
+
+  // suite_command.cpp
   void run_suite_command();
+  void tell_suite();
+  void finish_suite_run();
+  void write_junk_list();  // junktmp.txt: one line a row
 
   // drive_list.cpp
   void fill_drive_list();
@@ -227,13 +250,28 @@ class Form7 final : public Window {
   void reset_node_text(int node);  // drops the result behind the caption
   void node_checked(int node);
 
+  // cleaning/cleaning_run.cpp
+  void clean_button();
+  [[nodiscard]] bool remove_row(const std::string& path);
+  [[nodiscard]] bool remove_all_rows();
+
+  // window_commands.cpp
+  [[nodiscard]] int row_in_hand() const;
+  void locate_row();
+  void show_row_properties();
+  void start_eraser();
+  void show_help();
+  void leave_tray();
+
   // button_states.cpp
   void enter_state(ButtonState state);
   void enable_report(bool enabled);
   void enable_toolbar(std::initializer_list<int> numbers, bool enabled);
   void start_button();
   void cancel_button();
+  [[nodiscard]] bool confirm_cleaning();
   void toolbar_start();
+  void toolbar_clean();
   void toolbar_cancel();
   void toolbar_button(int number);
 
@@ -246,7 +284,7 @@ class Form7 final : public Window {
   void drop_rows(double above, double below);  // by category, both limits left out
   void scan_node_again(int node);
   void delete_rows(int node);
-  void add_to_statistics();
+  void delete_row(int node, const std::string& path);
 
   // result_views.cpp
   void show_node(int node);

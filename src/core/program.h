@@ -31,6 +31,12 @@ class Program {
   // more.
   void end() { ended_ = true; }
   [[nodiscard]] bool ended() const { return ended_; }
+  // Ends the program at once: handlers in progress return where they next look at stopped().
+  void stop() {
+    stopped_ = true;
+    ended_ = true;
+  }
+  [[nodiscard]] bool stopped() const { return stopped_; }
 
   // Lets the message loop run once.
   void do_events() {
@@ -57,6 +63,7 @@ class Program {
  private:
   std::unique_ptr<Form7> form7_;
   bool ended_ = false;
+  bool stopped_ = false;
 };
 
 }  // namespace quillvane

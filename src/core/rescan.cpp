@@ -1,21 +1,25 @@
 // The two commands of the tree's pop-up: scanning one node again, and cleaning one node at once.
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 #include "categories/catalogue.h"
 #include "categories/routines.h"
+#include "categories/url_cache_rows.h"
+#include "cleaning/statistics.h"
+#include "cleaning/thumbnail_policy.h"
 #include "core/form7.h"
 #include "core/hit_rows.h"
 #include "platform/file_system.h"
-#include "support/registry_text.h"
 #include "support/text.h"
-#include "support/val.h"
 
 namespace quillvane {
 
 namespace {
 
 constexpr std::chrono::milliseconds kScanPause{1000};
-constexpr const char* kStatisticsKey = "software\\Quillvane\\Tidewrack Deluxe\\statics\\junkfiles";
+constexpr int kThumbnailNode = 4;
+constexpr std::string_view kRenamedEnding = "1.db";
 
 // Limits of a shorter catalogue, meant as they stand: a browser's rescan resets the nodes up to 16
 // and drops the rows below 17; a custom rescan resets the nodes from 17 on.
@@ -135,33 +139,42 @@ void Form7::rescan_node() {
   Text13.hide();
 }
 
-void Form7::delete_rows(int node) {
+// The removal of one file. A database of the thumbnails is renamed first, so that Explorer lets go
+// of it.
+void Form7::delete_row(int node, const std::string& path) {
   FileSystem& files = platform().files;
-  view1.remove_if([&](int row) {
-    if (!cleaning_takes(node, view1.sub_item_number(row, kCategoryColumn))) return false;
-    const std::string path(Trim(view1.text(row)));
-    // A file that cannot be removed is passed over; the scan that follows finds it again.
-    static_cast<void>(files.set_attributes(path, kAttributeArchive));
-    static_cast<void>(files.remove_file(path));
-    return true;
-  });
+  // What cannot be removed is passed over; the scan that follows finds it again.
+  const auto pass_over = [](bool /*done*/) {};
+  const auto remove = [&](const std::string& file) {
+    pass_over(files.set_attributes(file, kAttributeArchive));
+    static_cast<void>(files.remove_file(file));
+  };
+  if (node != kThumbnailNode) {
+    remove(path);
+    return;
+  }
+  disablethumbcache(platform().registry);
+  constexpr std::size_t kCutLetters = 3;
+  const std::string renamed = path.substr(0, path.size() - std::min(kCutLetters, path.size())) +
+                              std::string(kRenamedEnding);
+  pass_over(files.set_attributes(path, kAttributeArchive));
+  pass_over(files.rename_file(path, renamed));
+  remove(renamed);
+  enablethumbcache(platform().registry);
 }
 
-void Form7::add_to_statistics() {
-  Registry& registry = platform().registry;
-  const auto add = [&](const std::string& name, const TextBox& number) {
-    const double old =
-        Val(ReadRegistryString(registry, Hive::kLocalMachine, kStatisticsKey, name).text);
-    static_cast<void>(WriteRegistryString(registry, Hive::kLocalMachine, kStatisticsKey, name,
-                                          number_text(old + Val(number.text()))));
-  };
-  add("count", txtfilecont);
-  add("size", txtfilesize);
+void Form7::delete_rows(int node) {
+  view1.remove_if([&](int row) {
+    if (!cleaning_takes(node, view1.sub_item_number(row, kCategoryColumn))) return false;
+    delete_row(node, std::string(Trim(view1.text(row))));
+    return true;
+  });
+  if (node == kBrowsersNode || node == kFirstBrowserLeaf) deleteiecach(*this);
 }
 
 void Form7::clean_node() {
   delete_rows(selnode);
-  add_to_statistics();
+  add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());
   txtfilecont.set_text("0");
   txtfilesize.set_text("0");
   totals.totalfiles = 0;

@@ -16,9 +16,6 @@ namespace {
 // Time for the animation to start.
 constexpr std::chrono::milliseconds kScanPause{1000};
 
-constexpr const char* kSessionManagerKey = "SYSTEM\\CurrentControlSet\\Control\\Session Manager";
-constexpr const char* kPendingValue = "PendingFileRenameOperations";
-
 void add_number(TextBox& box, double number) {
   box.set_text(number_text(Val(box.text()) + number));
 }
@@ -40,11 +37,13 @@ void Form7::autosearch() {
   Toolbar1.refresh();
   Gif89a2.show();
   program.PumpWait(kScanPause);
+  if (program.stopped()) return;
 
   pndtxt();
   startclean();
   startcleanexplorer();
   searchcustom();
+  if (program.stopped()) return;
 
   Tv1.select(kWindowsNode);
   loadfirstscan();
@@ -96,18 +95,11 @@ void Form7::add_group_result(int node, double files, double bytes) {
 }
 
 void Form7::pndtxt() {
-  std::string pending;
-  const auto value =
-      platform().registry.value(Hive::kLocalMachine, kSessionManagerKey, kPendingValue);
-  if (value && value->type == RegistryType::kMultiSz) {
-    std::string_view data = value->data;
-    if (data.ends_with('\0')) data.remove_suffix(1);  // ends the list
-    pending.reserve(data.size() + 1);
-    if (!data.empty()) pending += '|';
-    if (data.ends_with('\0')) data.remove_suffix(1);  // ends the last text
-    for (const char c : data) pending += c == '\0' ? '|' : c;
+  std::string filter;
+  if (const auto queued = read_pending_value(platform())) {
+    for (const std::string& text : *queued) filter.append("|").append(text);
   }
-  Text15.set_text(lower_case(pending));
+  Text15.set_text(lower_case(filter));
 }
 
 void Form7::show_summary(double files) {

@@ -121,12 +121,4 @@ void Form7::read_ignore_list() {
   ignorelist.set_text(lower_case(list));
 }
 
-// The suite's run: a scan whose result goes to junst.txt, and the end of the program.
-void Form7::run_suite_command() {
-  if (Val(Text9.text()) != 1) return;
-  autosearch();
-  write_result_file();
-  program.end();
-}
-
 }  // namespace quillvane

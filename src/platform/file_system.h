@@ -89,6 +89,18 @@ class FileSystem {
   // failure or a crash leaves the old content or none, never a part of the new.
   [[nodiscard]] virtual bool write_file(const std::string& path, std::string_view content) = 0;
 
+  // Whether the file can be opened for reading now.
+  [[nodiscard]] virtual bool can_open(const std::string& path) const = 0;
+
+  // Gives a file another name; false when it cannot be, or the new name is taken.
+  [[nodiscard]] virtual bool rename_file(const std::string& from, const std::string& to) = 0;
+
+  // Copies a file; one that is there under the new name is replaced.
+  [[nodiscard]] virtual bool copy_file(const std::string& from, const std::string& to) = 0;
+
+  // Makes one folder; false when it cannot be made or is there already.
+  [[nodiscard]] virtual bool make_folder(const std::string& path) = 0;
+
   // Removes one file. Never removes a folder.
   [[nodiscard]] virtual RemoveResult remove_file(const std::string& path) = 0;
 };

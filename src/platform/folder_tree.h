@@ -104,8 +104,8 @@ class ListedFolder {
   void set_next_sibling(ListedFolder* folder) { next_sibling_ = folder; }
   // Takes room for `count` records and `names_length` bytes of names behind them.
   FixedRecord* allocate_files(TreeArena& arena, std::uint32_t count, std::size_t names_length);
-  // Takes room for one word a file that tells which patterns it matches, bit 0 being the first; left
-  // out where all files match the only pattern.
+  // Takes room for one word a file that tells which patterns it matches, bit 0 being the first;
+  // left out where all files match the only pattern.
   std::uint32_t* allocate_matches(TreeArena& arena);
 
  private:

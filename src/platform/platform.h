@@ -13,7 +13,11 @@
 #include "platform/message_loop.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
+#include "platform/security.h"
+#include "platform/shell.h"
+#include "platform/suite_channel.h"
 #include "platform/system_info.h"
+#include "platform/tray.h"
 #include "platform/url_cache.h"
 
 namespace quillvane {
@@ -27,6 +31,10 @@ struct Platform {
   SystemEventLog& event_log;
   Processes& processes;
   UrlCache& url_cache;
+  Security& security;
+  Shell& shell;
+  SuiteChannel& suite;
+  Tray& tray;
   MessageLoop& loop;
   Dialogs& dialogs;
 };

@@ -1,0 +1,81 @@
+// Copying the ticked files aside before they go, with an index and a history in the registry.
+#include <array>
+#include <cstdio>
+#include <string>
+
+#include "core/form7.h"
+#include "support/file_date.h"
+#include "support/registry_text.h"
+#include "support/text.h"
+#include "support/val.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr const char* kHistoryKey = "software\\Quillvane\\Tidewrack Deluxe\\junkscan";
+
+// Date and time of the backup: "21_11_2026_10.00.00".
+std::string stamp_of(const DateTime& now) {
+  std::array<char, 64> buffer{};
+  std::snprintf(buffer.data(), buffer.size(), "%02d_%02d_%04d_%02d.%02d.%02d", now.day, now.month,
+                now.year, now.hour, now.minute, now.second);
+  return buffer.data();
+}
+
+// The path up to and including its last backslash.
+std::string GetFileFolder(const std::string& path) { return path.substr(0, path.rfind('\\') + 1); }
+
+// The path behind its last backslash.
+std::string GetFileName(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
+
+// Notes the backup in the history. "file" holds 0: it is written before anything is copied.
+void write_history(Registry& registry, const std::string& stamp) {
+  const std::string key = kHistoryKey;
+  const auto write = [&](const std::string& sub_key, const std::string& name,
+                         const std::string& text) {
+    static_cast<void>(  // a history that cannot be written is lost
+        WriteRegistryString(registry, Hive::kLocalMachine, sub_key, name, text));
+  };
+  const double before = Val(ReadRegistryString(registry, Hive::kLocalMachine, key, "cnt").text);
+  const std::string count = number_text(before + 1);
+  write(key, "cnt", count);
+  write(key + "\\dates", count, stamp);
+  write(key + "\\file", stamp, "0");
+}
+
+}  // namespace
+
+void Form7::back_up() {
+  double files = 0;
+  double bytes = 0;
+  const std::string stamp =
+      stamp_of(calendar_date(platform().loop.local_now()).value_or(DateTime{}));
+  FileSystem& file_system = platform().files;
+  std::string folder = program.data_file("backup");
+  for (const std::string& deeper : {std::string(), std::string("\\junk"), "\\" + stamp}) {
+    folder += deeper;
+    static_cast<void>(file_system.make_folder(folder));  // the first two are there after one run
+  }
+  write_history(platform().registry, stamp);
+
+  std::string index;
+  Bar2.set_range(1, view1.count());
+  Bar2.show();
+  for (int row = 1; row <= view1.count(); ++row) {
+    Bar2.set_value(row);
+    if (!view1.checked(row)) continue;
+    const std::string path = view1.text(row);
+    index += GetFileFolder(path) + "," + GetFileName(path) + "," + path + "\r\n";
+    const std::string copy = folder + "\\" + GetFileName(path);
+    static_cast<void>(file_system.copy_file(path, copy));  // it stands in the index all the same
+    files += 1;
+    bytes += static_cast<double>(file_system.file_size(path).value_or(0));
+  }
+  static_cast<void>(file_system.write_file(folder + ".txt", index));
+  txtfilecont.set_text(number_text(files));
+  txtfilesize.set_text(number_text(bytes));
+  Bar2.hide();
+}
+
+}  // namespace quillvane

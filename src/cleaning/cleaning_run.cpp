@@ -1,0 +1,109 @@
+// The cleaning run: every row of the hit list goes, whatever its tick. A file that stays is queued
+// for the next restart.
+#include <string>
+
+#include "categories/url_cache_rows.h"
+#include "cleaning/deletion.h"
+#include "cleaning/permission.h"
+#include "cleaning/statistics.h"
+#include "cleaning/thumbnail_policy.h"
+#include "core/form7.h"
+#include "platform/unicode_case.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr const char* kQuestion = "Are You sure you want to delete the selected file(s)";
+constexpr const char* kQuestionTitle = "Please Confirm";
+constexpr const char* kQueuedMessage =
+    "Some files cannot be deleted now, They will be deleted next time when you restart your PC.";
+
+// The bin's name at the very beginning of a path does not count.
+bool lies_in_recycle_bin(std::string_view path) {
+  return in_recycle_bin(path.substr(path.empty() ? 0 : 1));
+}
+
+}  // namespace
+
+bool Form7::confirm_cleaning() {
+  if (cleanmode == 1) return true;
+  return platform().dialogs.message_box(kQuestion, kQuestionTitle,
+                                        kBoxYesNo | kBoxIconInformation) == Answer::kYes;
+}
+
+void Form7::clean_button() {
+  if (!confirm_cleaning()) return;
+  orvbutton2.click();
+  enter_state(ButtonState::kScanning);
+  autosearch();
+  // The start and cancel buttons stay as the scan has left them.
+  for (Button* button : {&cmd_clean, &cmd_all, &cmd_non, &cmd_custom, &cmd_ignore}) {
+    button->set_enabled(true);
+  }
+  enable_report(true);
+}
+
+// True when the file stayed and was queued.
+bool Form7::remove_row(const std::string& row_text) {
+  std::string path = row_text;
+  if (lies_in_recycle_bin(path)) {
+    // One row of the bin is enough to empty all of it, on all drives; and each does so again.
+    platform().shell.empty_recycle_bin();
+    platform().shell.update_recycle_bin_icon();
+    return false;
+  }
+  DeleteAFile(platform(), path);
+  if (!StillThere(platform(), path) || pending_filter.contains(lower_case(path))) return false;
+  pending.add(path);
+  return true;
+}
+
+// Each handled row leaves the list, whatever came of it. True when one was queued.
+bool Form7::remove_all_rows() {
+  bool queued = false;
+  const int total = view1.count();
+  bar3.set_range(0, total + 2);
+  bar3.show();
+  for (int progress = 0; progress < total && view1.count() > 0; ++progress) {
+    const std::string path = view1.text(1);
+    if (remove_row(path)) queued = true;
+    Text13.set_text("Removing : " + path);
+    Text13.set_text(path);
+    view1.remove(1);
+    bar3.set_value(progress);
+    program.do_events();
+    if (program.stopped()) return false;
+  }
+  return queued;
+}
+
+void Form7::run_cleaning() {
+  if (view1.count() < 1) return;
+  Gif89a2.show();
+  pending.loadpending();
+  Label11.set_caption("Removing selected files please wait..");
+  disablethumbcache(platform().registry);
+  Text3.show();
+  pndtxt();
+  const bool queued = remove_all_rows();
+  if (program.stopped()) return;
+  if (queued && forceclean == 0 && suitemode == 0) {
+    // The queue is written only after the user has closed the box.
+    platform().dialogs.message_box(kQueuedMessage, std::string(kProgramName), kBoxIconInformation);
+    pending.savepending();
+  }
+  bar3.hide();
+  enablethumbcache(platform().registry);
+  Text3.hide();
+  deleteiecach(*this);
+  // The totals of the scan, whatever was really removed.
+  add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());
+  txtfilecont.set_text("0");
+  txtfilesize.set_text("0");
+  build_tree();
+  Gif89a2.hide();
+  if (forceclean == 1) program.end();
+}
+
+}  // namespace quillvane

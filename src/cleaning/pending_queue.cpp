@@ -1,0 +1,56 @@
+#include "cleaning/pending_queue.h"
+
+#include <utility>
+
+#include "platform/multi_string.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr const char* kKey = "SYSTEM\\CurrentControlSet\\Control\\Session Manager";
+constexpr const char* kValue = "PendingFileRenameOperations";
+constexpr std::string_view kNativePrefix = "\\??\\";
+
+void allow_access(const Platform& platform) {
+  platform.security.set_key_access(Hive::kLocalMachine, kKey, platform.environment.get("UserName"));
+}
+
+}  // namespace
+
+std::optional<std::vector<std::string>> read_pending_value(const Platform& platform) {
+  allow_access(platform);
+  const auto value = platform.registry.value(Hive::kLocalMachine, kKey, kValue);
+  if (!value || value->type != RegistryType::kMultiSz) return std::nullopt;
+  return multi_string_list(value->data);
+}
+
+void PendingQueue::loadpending() {
+  operations_.resize(1);
+  auto texts = read_pending_value(platform_);
+  if (!texts) return;
+  count_ = texts->size();
+  operations_ = std::move(*texts);
+  operations_.emplace_back();
+}
+
+void PendingQueue::append(std::string text) {
+  operations_.resize(count_ + 2);
+  operations_[count_] = std::move(text);
+  ++count_;
+}
+
+void PendingQueue::add(std::string_view path) {
+  append(std::string(kNativePrefix) + std::string(path));
+  append({});
+}
+
+void PendingQueue::savepending() {
+  allow_access(platform_);
+  if (!platform_.registry.create_key(Hive::kLocalMachine, kKey)) return;
+  // Nothing tests whether the write took effect.
+  static_cast<void>(platform_.registry.set_value(
+      Hive::kLocalMachine, kKey, kValue, {RegistryType::kMultiSz, multi_string_data(operations_)}));
+}
+
+}  // namespace quillvane

@@ -1,0 +1,43 @@
+// The queue of files that Windows removes at the next restart: one registry value, a list of pairs
+// of source and target, where an empty target means removal.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/platform.h"
+
+namespace quillvane {
+
+// What the value holds, each text as it is; empty ones, also at the end, are kept. Before it is
+// read the account of the environment is given access to the key.
+[[nodiscard]] std::optional<std::vector<std::string>> read_pending_value(const Platform& platform);
+
+// The mirror of the value during a cleaning run.
+class PendingQueue {
+ public:
+  explicit PendingQueue(const Platform& platform) : platform_(platform) {}
+
+  // Reads the value. When that fails, as it does where there is none, the count of entries goes on
+  // from the run before, and of that run's entries only the first is kept.
+  void loadpending();
+  // Adds the request to remove `path`.
+  void add(std::string_view path);
+  // Writes the whole mirror at one stroke, its last empty text included.
+  void savepending();
+
+  [[nodiscard]] const std::vector<std::string>& PendingOperations() const { return operations_; }
+  // Entries in use. The one behind them is always there and always empty.
+  [[nodiscard]] std::size_t PendingCount() const { return count_; }
+
+ private:
+  void append(std::string text);
+
+  const Platform& platform_;
+  std::vector<std::string> operations_;
+  std::size_t count_ = 0;
+};
+
+}  // namespace quillvane

@@ -1,0 +1,13 @@
+// How much was cleaned over the program's life.
+#pragma once
+
+#include <string_view>
+
+#include "platform/registry.h"
+
+namespace quillvane {
+
+// Adds the numbers that the two texts begin with to the counts of files and bytes in the registry.
+void add_to_statistics(Registry& registry, std::string_view files, std::string_view bytes);
+
+}  // namespace quillvane

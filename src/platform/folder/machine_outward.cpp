@@ -60,9 +60,9 @@ MachineShell::MachineShell(const MachineState& state, EffectLog& effects, const 
     : state_(state), effects_(effects), files_(files), empty_bin_(std::move(empty_bin)) {}
 
 int MachineShell::open(const ShellRequest& request) {
-  effects_.add("shell-open", {{"verb", request.verb},
-                              {"path", request.path},
-                              {"show", std::int64_t{request.show}}});
+  effects_.add(
+      "shell-open",
+      {{"verb", request.verb}, {"path", request.path}, {"show", std::int64_t{request.show}}});
   return files_.attributes(request.path) ? kOpened : kFileNotFound;
 }
 
@@ -77,8 +77,7 @@ std::string MachineShell::special_folder(int id) const {
     const auto variable =
         std::find_if(state_.environment.begin(), state_.environment.end(),
                      [&](const auto& entry) { return same_name(entry.first, folder.variable); });
-    return variable == state_.environment.end() ? std::string()
-                                                : variable->second + folder.suffix;
+    return variable == state_.environment.end() ? std::string() : variable->second + folder.suffix;
   }
   return {};
 }
@@ -99,14 +98,13 @@ void MachineSuiteChannel::publish(const std::string& text) {
 bool MachineSuiteChannel::notify(const std::string& title, std::size_t length) {
   const bool found = std::any_of(state_.windows.begin(), state_.windows.end(),
                                  [&](const std::string& w) { return same_name(w, title); });
-  effects_.add("suite-notify", {{"title", title},
-                                {"found", found},
-                                {"length", static_cast<std::int64_t>(length)}});
+  effects_.add("suite-notify",
+               {{"title", title}, {"found", found}, {"length", static_cast<std::int64_t>(length)}});
   return found;
 }
 
-void MachineTray::add(const std::string& tip, std::function<void()> /*double_click*/) {
-  effects_.add("tray-add", {{"tip", tip}});
+void MachineTray::add(const std::string& /*tip*/, std::function<void()> /*double_click*/) {
+  effects_.add("tray-add");
 }
 
 void MachineTray::modify(const std::string& tip) { effects_.add("tray-modify", {{"tip", tip}}); }

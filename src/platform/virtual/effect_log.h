@@ -11,7 +11,7 @@ namespace quillvane {
 
 // One effect: its kind ("shell-open") and its particulars in the order they are shown.
 struct Effect {
-  using Value = std::variant<std::string, std::int64_t, std::vector<std::string>>;
+  using Value = std::variant<std::string, std::int64_t, bool, std::vector<std::string>>;
 
   std::string kind;
   std::vector<std::pair<std::string, Value>> details;

@@ -9,7 +9,7 @@ include(GoogleTest)
 function(quillvane_register_tests program)
   if(NOT WIN32)
     gtest_discover_tests(${program} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
-      PROPERTIES TIMEOUT 120 ENVIRONMENT "${QUILLVANE_TEST_ENVIRONMENT}")
+      PROPERTIES TIMEOUT 120)
     return()
   endif()
   set(suites)

@@ -15,6 +15,10 @@ bool fits_32_bits(std::int64_t number) {
          number <= std::numeric_limits<std::int32_t>::max();
 }
 
+std::string with_backslash(const std::string& path) {
+  return path.ends_with('\\') ? path : path + '\\';
+}
+
 }  // namespace
 
 std::optional<double> FileSizeToDouble(std::uint32_t high, std::uint32_t low) {
@@ -82,32 +86,32 @@ File Files::Item(std::size_t index) const {
 }
 
 void Search::SearchFiles(const std::string& path, const std::string& pattern, bool recursive) {
-  const std::string root = path.ends_with('\\') ? path : path + '\\';
   recursive_ = recursive;
-  auto tree = file_system_.read_tree(root, pattern);
+  auto tree = file_system_.read_tree(with_backslash(path), pattern);
   if (tree == nullptr) return;
   const ListedFolder& folder = tree->root();
-  search_listing({std::move(tree), &folder, 0}, root, pattern);
+  search_listing({std::move(tree), &folder, 0}, path, pattern);
 }
 
 void Search::search_listing(const ListedPart& part, const std::string& path,
                             const std::string& pattern) {
-  const std::string root = path.ends_with('\\') ? path : path + '\\';
   pattern_ = pattern;
   pattern_number_ = part.pattern;
-  found_ = std::make_shared<class Files>(part.tree, *part.folder, root);
-  search_folder(*part.folder, root);
+  found_ = std::make_shared<class Files>(part.tree, *part.folder, with_backslash(path));
+  search_folder(*part.folder, path);
 }
 
+// The trail tells each path as it was handed over, so without the backslash that is added here.
 void Search::search_folder(const ListedFolder& folder, const std::string& path) {
   trail_.push("Search", "SearchFiles",
               "FilePath: " + path + ", FileName: " + pattern_ +
                   ", Recursive: " + (recursive_ ? "True" : "False"),
               "");
   if (recursive_) {
+    const std::string root = with_backslash(path);
     for (const ListedFolder* sub = folder.first_subfolder(); sub != nullptr;
          sub = sub->next_sibling()) {
-      search_folder(*sub, path + std::string(sub->name()) + '\\');
+      search_folder(*sub, root + std::string(sub->name()));
     }
   }
   add_files(folder);

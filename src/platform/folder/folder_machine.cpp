@@ -25,9 +25,11 @@ namespace {
 FileTime local_clock(int utc_offset_minutes) {
   using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
   constexpr auto kEpoch = std::chrono::sys_days(std::chrono::year{1601} / 1 / 1);
-  const auto now = std::chrono::system_clock::now() - kEpoch;
-  const auto local = now + std::chrono::minutes(utc_offset_minutes);
-  return {std::chrono::floor<Ticks>(local).count()};
+  // In ticks before anything is added: the nanoseconds since 1601 do not fit 64 bits.
+  const auto since_1970 =
+      std::chrono::floor<Ticks>(std::chrono::system_clock::now().time_since_epoch());
+  const Ticks now = since_1970 - kEpoch.time_since_epoch();
+  return {(now + std::chrono::minutes(utc_offset_minutes)).count()};
 }
 
 }  // namespace

@@ -68,6 +68,10 @@ std::optional<std::string> read_whole_file(const std::wstring& path) {
 }
 
 bool replace_whole_file(const std::wstring& path, std::string_view content) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
+    return false;
+  }
   FileBeside beside = open_beside(path);
   if (!beside.file.is_valid()) return false;
   const bool is_complete = write_all(beside.file.get(), content);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/file_system.h"
 #include "platform/unicode_case.h"
 #include "platform/win32/folder_listing.h"
 #include "platform/win32/wide_text.h"
@@ -21,7 +20,6 @@ constexpr std::size_t kFolderPatternLength = 3;
 TreeReader::TreeReader(std::string_view pattern, FolderTree& tree)
     : pattern_(pattern),
       pattern_length_(utf16_length(pattern)),
-      takes_all_(pattern == "*.*" || pattern == "*"),
       arena_(tree.add_arena()),
       tree_(tree) {}
 
@@ -40,8 +38,9 @@ bool TreeReader::read_folder(ListedFolder& folder) {
   const bool folders_fit = path_.size() + kFolderPatternLength < kPathLimit;
   if (!files_fit && !folders_fit) return false;
 
-  FolderListing listing(
-      path_ + L'*', takes_all_ ? FolderListing::ShortNames::kNo : FolderListing::ShortNames::kYes);
+  FolderListing listing(path_ + L'*', pattern_.matches_every_name()
+                                          ? FolderListing::ShortNames::kNo
+                                          : FolderListing::ShortNames::kYes);
   if (!listing.is_open()) return false;
   std::vector<Subfolder> subfolders;
   while (const WIN32_FIND_DATAW* entry = listing.next()) {
@@ -91,9 +90,8 @@ void TreeReader::note_file(const WIN32_FIND_DATAW& entry) {
 }
 
 bool TreeReader::matches(const WIN32_FIND_DATAW& entry, std::string_view name) const {
-  if (takes_all_ || matches_file_pattern(name, pattern_)) return true;
-  return entry.cAlternateFileName[0] != L'\0' &&
-         matches_file_pattern(narrow(entry.cAlternateFileName), pattern_);
+  if (pattern_.matches(name)) return true;
+  return entry.cAlternateFileName[0] != L'\0' && pattern_.matches(narrow(entry.cAlternateFileName));
 }
 
 TreeReader::Subfolder TreeReader::make_subfolder(const WIN32_FIND_DATAW& entry,

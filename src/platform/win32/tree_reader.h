@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/file_pattern.h"
 #include "platform/folder_tree.h"
 #include "platform/win32/link_guard.h"
 
@@ -34,9 +35,8 @@ class TreeReader {
   [[nodiscard]] Subfolder make_subfolder(const WIN32_FIND_DATAW& entry, const ListedFolder& parent);
   void store_files(ListedFolder& folder);
 
-  std::string pattern_;
+  FilePattern pattern_;
   std::size_t pattern_length_;  // as it counts in a path
-  bool takes_all_;
   TreeArena& arena_;
   FolderTree& tree_;
   LinkGuard guard_;

@@ -1,0 +1,113 @@
+#include "tests/architecture/include_rules.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace quillvane {
+namespace {
+
+struct Sample {
+  const char* file;
+  const char* line;
+};
+
+constexpr Sample kAllowed[] = {
+    {"core/form7.cpp", "#include \"forms/window.h\""},
+    {"core/form7.cpp", "#include \"platform/file_system.h\""},
+    {"core/form7.cpp", "#include \"categories/routines.h\""},
+    {"core/form7.cpp", "#include <string>"},
+    {"core/form7_test.cpp", "#include \"tests/support/temp_machine.h\""},
+    {"core/form7_test.cpp", "#include <gtest/gtest.h>"},
+    {"forms/window.h", "#include \"support/text.h\""},
+    {"platform/platform.h", "#include \"platform/drives.h\""},
+    {"platform/win32/win32_drives.cpp", "#include <windows.h>"},
+    {"platform/folder/folder_registry.cpp", "#include <sqlite3.h>"},
+    {"view/console/scan/report.cpp", "#include <nlohmann/json.hpp>"},
+    {"view/console/scan/report.cpp", "#include \"core/form7.h\""},
+    {"app/console_main.cpp", "#include \"view/console/commands/run.h\""},
+    {"app/machine_win32.cpp", "#include \"platform/win32/win32_machine.h\""},
+};
+
+constexpr Sample kForbidden[] = {
+    // Behaviour knows no view and no particular platform.
+    {"core/form7.cpp", "#include \"view/console/console.h\""},
+    {"core/form7.cpp", "#include \"view/win32/list_binding.h\""},
+    {"core/form7.cpp", "#include \"platform/win32/win32_drives.h\""},
+    {"core/form7.cpp", "#include \"platform/folder/folder_machine.h\""},
+    {"core/form7.cpp", "#include \"platform/virtual/virtual_loop.h\""},
+    {"core/form7.cpp", "#include \"app/terminal.h\""},
+    {"categories/routines.cpp", "#include \"view/console/console.h\""},
+    {"cleaning/run.h", "#include \"platform/win32/win32_drives.h\""},
+    {"drivesearch/lists.h", "#include \"platform/folder/folder_machine.h\""},
+    {"shortcuts/form3.cpp", "#include \"view/console/console.h\""},
+    {"lang/language.cpp", "#include \"view/console/console.h\""},
+    // Nor the system, nor a library.
+    {"core/form7.cpp", "#include <windows.h>"},
+    {"core/form7.cpp", "#include <unistd.h>"},
+    {"support/text.cpp", "#include <sys/stat.h>"},
+    {"forms/window.cpp", "#include <nlohmann/json.hpp>"},
+    {"core/form7.cpp", "#ifdef _WIN32"},
+    {"view/console/console.cpp", "#if defined(_WIN32)"},
+    // Lower layers know nothing of the upper.
+    {"support/text.h", "#include \"core/form7.h\""},
+    {"support/text.h", "#include \"forms/window.h\""},
+    {"forms/window.h", "#include \"core/form7.h\""},
+    {"controls/chameleon_button.h", "#include \"core/form7.h\""},
+    {"platform/platform.h", "#include \"support/text.h\""},
+    {"platform/platform.h", "#include \"platform/folder/folder_machine.h\""},
+    {"platform/folder/folder_machine.h", "#include \"core/form7.h\""},
+    {"platform/folder/folder_machine.h", "#include \"platform/win32/win32_drives.h\""},
+    {"platform/win32/win32_drives.h", "#include \"platform/folder/folder_machine.h\""},
+    {"platform/virtual/virtual_loop.h", "#include \"platform/folder/folder_machine.h\""},
+    {"view/console/console.h", "#include \"view/win32/list_binding.h\""},
+    {"view/console/console.h", "#include \"platform/folder/folder_machine.h\""},
+    {"view/console/console.h", "#include \"app/terminal.h\""},
+    // Windows' headers stay where Windows is.
+    {"view/console/console.cpp", "#include <windows.h>"},
+    {"platform/folder/host_file.cpp", "#include <windows.h>"},
+    {"app/console_main.cpp", "#include <windows.h>"},
+    {"core/form7_test.cpp", "#include <windows.h>"},
+    // A folder that no layer is told for.
+    {"utils/all.h", "#include <string>"},
+};
+
+TEST(IncludeRules, TheseLinesAreAllowed) {
+  for (const auto& [file, line] : kAllowed) {
+    EXPECT_EQ(broken_rules(file, line), std::vector<std::string>{}) << file << ": " << line;
+  }
+}
+
+TEST(IncludeRules, EachOfTheseLinesBreaksARule) {
+  for (const auto& [file, line] : kForbidden) {
+    EXPECT_EQ(broken_rules(file, line).size(), 1U) << file << ": " << line;
+  }
+}
+
+TEST(IncludeRules, EveryLineOfAFileIsLookedAt) {
+  const std::string content =
+      "// A comment.\n#include <string>\n#include <unistd.h>\n\n#include \"view/console/x.h\"";
+  EXPECT_EQ(broken_rules("core/a.cpp", content).size(), 2U);
+}
+
+TEST(IncludeRules, TheSourcesKeepThem) {
+  const std::filesystem::path root = QUILLVANE_SOURCES;
+  std::size_t files = 0;
+  for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
+    const std::string extension = entry.path().extension();
+    if (extension != ".h" && extension != ".cpp") continue;
+    ++files;
+    std::ifstream file(entry.path());
+    const std::string content(std::istreambuf_iterator<char>(file), {});
+    const std::string name = entry.path().lexically_relative(root).generic_string();
+    for (const std::string& broken : broken_rules(name, content)) ADD_FAILURE() << broken;
+  }
+  EXPECT_GT(files, 50U) << "the sources are not where they are looked for: " << root;
+}
+
+}  // namespace
+}  // namespace quillvane

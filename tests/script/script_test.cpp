@@ -1,0 +1,150 @@
+// The windows driven by scripts: each *.qvs of this folder runs on a machine of its own, through
+// the console program's own entry.
+//
+// A script is staged by remarks at its head:
+//   #:machine JSON           the content of machine.json
+//   #:folder PATH            a folder
+//   #:file BYTES PATH        a file of that length
+//   #:line PATH | TEXT       one more line of a text file
+// What it must print stands in NAME.expected. A script that ends early has NAME.problem with what
+// is told on standard error.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <sstream>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "app/make_machine_host.h"
+#include "platform/folder/machine_json.h"
+#include "platform/folder/machine_staging.h"
+#include "tests/script/expected_output.h"
+#include "tests/support/temp_folder.h"
+#include "view/console/console.h"
+
+namespace quillvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kFolder = fs::path(__FILE__).parent_path();
+
+std::string text_of(const fs::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::vector<std::string> script_names() {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::directory_iterator(kFolder)) {
+    if (entry.path().extension() == ".qvs") names.push_back(entry.path().stem().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+// A machine made by the program itself, with what the remarks of a script ask for.
+class StagedMachine {
+ public:
+  explicit StagedMachine(const std::string& script) {
+    EXPECT_EQ(run({"machine", "create", dir()}), 0) << err;
+    std::istringstream lines(script);
+    std::string line;
+    while (std::getline(lines, line)) {
+      if (line.starts_with("#:")) stage(line.substr(2));
+    }
+    for (const auto& [path, text] : texts_) put(path, {.text = text, .bytes = 0, .time = {}});
+  }
+
+  // Runs the console program; `out` and `err` hold what it wrote.
+  int run(const std::vector<std::string>& words) {
+    std::istringstream in;
+    std::ostringstream out_stream;
+    std::ostringstream err_stream;
+    ConsoleIo io{in, out_stream, err_stream};
+    const int status = run_console(words, io, *host_);
+    out = out_stream.str();
+    err = err_stream.str();
+    return status;
+  }
+
+  [[nodiscard]] std::string dir() const { return folder_.path() + "/machine"; }
+
+  std::string out;
+  std::string err;
+
+ private:
+  void stage(const std::string& remark) {
+    std::istringstream words(remark);
+    std::string what;
+    std::string rest;
+    words >> what >> std::ws;
+    if (what == "file") {
+      std::uint64_t bytes = 0;
+      words >> bytes >> std::ws;
+      std::getline(words, rest);
+      put(rest, {.text = {}, .bytes = bytes, .time = {}});
+    } else if (std::getline(words, rest); what == "line") {
+      const std::size_t bar = rest.find(" | ");
+      ASSERT_NE(bar, std::string::npos) << remark;
+      texts_[rest.substr(0, bar)] += rest.substr(bar + 3) + "\r\n";
+    } else if (what == "machine") {
+      folder_.write("machine/machine.json", rest);
+    } else if (what == "folder") {
+      EXPECT_FALSE(stage_folder(state(), rest)) << rest;
+    } else {
+      FAIL() << "a remark that stages nothing: " << remark;
+    }
+  }
+
+  void put(const std::string& path, const StagedContent& content) {
+    EXPECT_FALSE(stage_file(state(), path, content)) << path;
+  }
+
+  MachineState state() {
+    auto loaded = load_machine_json(dir());
+    const auto* error = std::get_if<std::string>(&loaded);
+    EXPECT_EQ(error, nullptr) << (error == nullptr ? "" : *error);
+    return error == nullptr ? std::get<MachineState>(std::move(loaded)) : MachineState();
+  }
+
+  TempFolder folder_;
+  std::unique_ptr<MachineHost> host_ = make_machine_host();
+  std::map<std::string, std::string> texts_;
+};
+
+class Script : public testing::TestWithParam<std::string> {};
+
+TEST_P(Script, Behaves) {
+  const fs::path script = kFolder / (GetParam() + ".qvs");
+  const std::string problem = text_of(kFolder / (GetParam() + ".problem"));
+  StagedMachine machine(text_of(script));
+
+  const int status = machine.run({"script", script.string(), "--machine", machine.dir()});
+
+  const std::string expected = text_of(kFolder / (GetParam() + ".expected"));
+  EXPECT_EQ(difference(expected_values(expected), printed_values(machine.out)), "");
+  EXPECT_EQ(machine.err, problem);
+  EXPECT_EQ(status, problem.empty() ? 0 : 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(OfFolder, Script, testing::ValuesIn(script_names()),
+                         [](const auto& name) { return name.param; });
+
+TEST(ScriptFolder, EachExpectationHasItsScript) {
+  for (const auto& entry : fs::directory_iterator(kFolder)) {
+    const auto kind = entry.path().extension();
+    if (kind != ".expected" && kind != ".problem") continue;
+    EXPECT_TRUE(fs::exists(fs::path(entry.path()).replace_extension(".qvs"))) << entry.path();
+  }
+  EXPECT_FALSE(script_names().empty());
+}
+
+}  // namespace
+}  // namespace quillvane

@@ -1,0 +1,137 @@
+#include "tests/windows/folder_link.h"
+
+#include <windows.h>
+#include <winioctl.h>
+
+#include <cstring>
+#include <vector>
+
+#include "platform/win32/system_handle.h"
+#include "platform/win32/wide_text.h"
+
+namespace quillvane {
+
+namespace {
+
+// What FSCTL_SET_REPARSE_POINT takes for a junction: this, then both names with a zero each.
+struct JunctionHeader {
+  ULONG tag;
+  USHORT data_bytes;  // of all that follows the next field
+  USHORT reserved;
+  USHORT target_offset;
+  USHORT target_bytes;
+  USHORT shown_offset;
+  USHORT shown_bytes;
+};
+static_assert(sizeof(JunctionHeader) == 16);
+constexpr std::size_t kUncountedBytes = 8;  // the first three fields
+
+std::vector<char> junction_data(const std::wstring& target) {
+  const std::wstring nt_target = L"\\??\\" + target;
+  const auto target_bytes = static_cast<USHORT>(nt_target.size() * sizeof(wchar_t));
+  const auto shown_bytes = static_cast<USHORT>(target.size() * sizeof(wchar_t));
+  const std::size_t total =
+      sizeof(JunctionHeader) + target_bytes + shown_bytes + 2 * sizeof(wchar_t);
+  const JunctionHeader header{IO_REPARSE_TAG_MOUNT_POINT,
+                              static_cast<USHORT>(total - kUncountedBytes),
+                              0,
+                              0,
+                              target_bytes,
+                              static_cast<USHORT>(target_bytes + sizeof(wchar_t)),
+                              shown_bytes};
+  std::vector<char> data(total);
+  std::memcpy(data.data(), &header, sizeof(header));
+  char* names = data.data() + sizeof(header);
+  std::memcpy(names, nt_target.data(), target_bytes);
+  std::memcpy(names + header.shown_offset, target.data(), shown_bytes);
+  return data;
+}
+
+bool make_junction(const std::wstring& path, const std::wstring& target) {
+  if (!CreateDirectoryW(path.c_str(), nullptr)) return false;
+  const FileHandle folder(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                      FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS,
+                                      nullptr));
+  std::vector<char> data = junction_data(target);
+  DWORD returned = 0;
+  return folder.is_valid() &&
+         DeviceIoControl(folder.get(), FSCTL_SET_REPARSE_POINT, data.data(),
+                         static_cast<DWORD>(data.size()), nullptr, 0, &returned, nullptr);
+}
+
+using UnixName = char*(CDECL*)(const wchar_t*);
+
+// Wine's call that tells where a file lies on the host; null on Windows.
+UnixName wine_unix_name() {
+  const HMODULE kernel = GetModuleHandleW(L"kernel32.dll");
+  return reinterpret_cast<UnixName>(
+      reinterpret_cast<void*>(GetProcAddress(kernel, "wine_get_unix_file_name")));
+}
+
+// The host's path of a file, or of one that could be made in an existing folder.
+std::wstring host_path(UnixName unix_name, const std::wstring& path) {
+  char* name = unix_name(path.c_str());
+  const std::wstring host = widen(name == nullptr ? "" : name);
+  HeapFree(GetProcessHeap(), 0, name);
+  return host;
+}
+
+bool exists(const std::wstring& path) {
+  return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
+}
+
+// Runs a program of the host until `path` exists, or doesn't, as wanted: Wine can start such a
+// program but not wait for its end.
+bool run_on_host(const wchar_t* program, std::wstring command, const std::wstring& path,
+                 bool wanted) {
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessW(program, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
+                      &startup, &process)) {
+    return false;
+  }
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  constexpr ULONGLONG kPatienceMs = 30'000;
+  const ULONGLONG begin = GetTickCount64();
+  while (exists(path) != wanted) {
+    if (GetTickCount64() - begin > kPatienceMs) return false;
+    SwitchToThread();
+  }
+  return true;
+}
+
+// The host's path of a link, which itself is not followed.
+std::wstring host_link_path(UnixName unix_name, const std::wstring& path) {
+  const std::size_t slash = path.find_last_of(L'\\');
+  return host_path(unix_name, path.substr(0, slash)) + L"/" + path.substr(slash + 1);
+}
+
+bool make_host_link(UnixName unix_name, const std::wstring& path, const std::wstring& target) {
+  return run_on_host(L"Z:\\bin\\ln",
+                     L"ln -s \"" + host_path(unix_name, target) + L"\" \"" +
+                         host_link_path(unix_name, path) + L"\"",
+                     path, /*wanted=*/true);
+}
+
+bool remove_host_link(UnixName unix_name, const std::wstring& path) {
+  return run_on_host(L"Z:\\bin\\rm", L"rm \"" + host_link_path(unix_name, path) + L"\"", path,
+                     /*wanted=*/false);
+}
+
+}  // namespace
+
+bool make_folder_link(const std::wstring& path, const std::wstring& target) {
+  const UnixName unix_name = wine_unix_name();
+  return unix_name == nullptr ? make_junction(path, target)
+                              : make_host_link(unix_name, path, target);
+}
+
+bool remove_folder_link(const std::wstring& path) {
+  const UnixName unix_name = wine_unix_name();
+  return unix_name == nullptr ? RemoveDirectoryW(path.c_str()) != 0
+                              : remove_host_link(unix_name, path);
+}
+
+}  // namespace quillvane

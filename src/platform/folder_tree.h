@@ -108,8 +108,8 @@ class ListedFolder {
   FixedRecord* allocate_files(TreeArena& arena, std::uint32_t count, std::size_t names_length);
   // Counts only the first `count` of them; the names then begin behind those.
   void keep_files(std::uint32_t count) { file_count_ = count; }
-  // Takes room for one word a file that tells which patterns it matches, bit 0 being the first; left
-  // out where all files match the only pattern.
+  // Takes room for one word a file that tells which patterns it matches, bit 0 being the first;
+  // left out where all files match the only pattern.
   std::uint32_t* allocate_matches(TreeArena& arena);
 
  private:

@@ -1,3 +1,5 @@
+# shellcheck shell=bash
+# shellcheck disable=SC2034  # the lists are for those who source this
 # Sourced by ./run and ./test: install_missing PACKAGES... installs with apt what this machine lacks
 # of these Debian packages, and says so.
 

@@ -17,11 +17,13 @@ constexpr std::size_t kFolderPatternLength = 3;
 
 }  // namespace
 
-TreeReader::TreeReader(std::string_view pattern, FolderTree& tree)
-    : pattern_(pattern),
-      pattern_length_(utf16_length(pattern)),
-      arena_(tree.add_arena()),
-      tree_(tree) {}
+TreeReader::TreeReader(const std::vector<std::string>& patterns, FolderTree& tree)
+    : short_names_(FolderListing::ShortNames::kNo), arena_(tree.add_arena()), tree_(tree) {
+  for (const std::string& pattern : patterns) {
+    patterns_.push_back({FilePattern(pattern), utf16_length(pattern)});
+    if (!patterns_.back().rule.matches_every_name()) short_names_ = FolderListing::ShortNames::kYes;
+  }
+}
 
 bool TreeReader::read(std::wstring folder) {
   path_ = std::move(folder);
@@ -31,21 +33,19 @@ bool TreeReader::read(std::wstring folder) {
   return is_new && read_folder(*root);
 }
 
-// One listing serves for files and subfolders. The two have limits of their own, since a path
-// is too long by the pattern that is put behind it.
+// One listing serves for files and subfolders. Each has a limit of its own, since a path is too
+// long by the pattern that is put behind it.
 bool TreeReader::read_folder(ListedFolder& folder) {
-  const bool files_fit = path_.size() + pattern_length_ < kPathLimit;
+  const std::uint32_t fitting = fitting_patterns(path_.size());
   const bool folders_fit = path_.size() + kFolderPatternLength < kPathLimit;
-  if (!files_fit && !folders_fit) return false;
+  if (fitting == 0 && !folders_fit) return false;
 
-  FolderListing listing(path_ + L'*', pattern_.matches_every_name()
-                                          ? FolderListing::ShortNames::kNo
-                                          : FolderListing::ShortNames::kYes);
+  FolderListing listing(path_ + L'*', short_names_);
   if (!listing.is_open()) return false;
   std::vector<Subfolder> subfolders;
   while (const WIN32_FIND_DATAW* entry = listing.next()) {
     if ((entry->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
-      if (files_fit) note_file(*entry);
+      if (fitting != 0) note_file(*entry, fitting);
     } else if (folders_fit) {
       subfolders.push_back(make_subfolder(*entry, folder));
     }
@@ -70,28 +70,49 @@ void TreeReader::read_subfolder(const Subfolder& subfolder) {
     // One that cannot be read stays in the tree, empty.
     static_cast<void>(read_folder(*subfolder.folder));
     guard_.leave();
+  } else {
+    tree_.set_left_out_loops();
   }
   path_.resize(length);
 }
 
-void TreeReader::note_file(const WIN32_FIND_DATAW& entry) {
+std::uint32_t TreeReader::fitting_patterns(std::size_t path_length) const {
+  std::uint32_t fitting = 0;
+  for (std::size_t i = 0; i < patterns_.size(); ++i) {
+    if (path_length + patterns_[i].length < kPathLimit) fitting |= std::uint32_t{1} << i;
+  }
+  return fitting;
+}
+
+std::uint32_t TreeReader::matching_patterns(const WIN32_FIND_DATAW& entry, std::string_view name,
+                                            std::uint32_t fitting) const {
+  const std::string short_name = narrow(entry.cAlternateFileName);
+  std::uint32_t matching = 0;
+  for (std::size_t i = 0; i < patterns_.size(); ++i) {
+    const FilePattern& rule = patterns_[i].rule;
+    if (rule.matches(name) || (!short_name.empty() && rule.matches(short_name))) {
+      matching |= std::uint32_t{1} << i;
+    }
+  }
+  return matching & fitting;
+}
+
+void TreeReader::note_file(const WIN32_FIND_DATAW& entry, std::uint32_t fitting) {
   const std::size_t begin = names_.size();
   append_narrow(entry.cFileName, names_);
-  if (!matches(entry, std::string_view(names_).substr(begin))) {
+  const std::uint32_t matching =
+      matching_patterns(entry, std::string_view(names_).substr(begin), fitting);
+  if (matching == 0) {
     names_.resize(begin);
     return;
   }
+  matches_.push_back(matching);
   records_.push_back({entry.nFileSizeLow,
                       entry.nFileSizeHigh,
                       {entry.ftCreationTime.dwLowDateTime, entry.ftCreationTime.dwHighDateTime},
                       {entry.ftLastAccessTime.dwLowDateTime, entry.ftLastAccessTime.dwHighDateTime},
                       {entry.ftLastWriteTime.dwLowDateTime, entry.ftLastWriteTime.dwHighDateTime},
                       static_cast<std::uint32_t>(names_.size())});
-}
-
-bool TreeReader::matches(const WIN32_FIND_DATAW& entry, std::string_view name) const {
-  if (pattern_.matches(name)) return true;
-  return entry.cAlternateFileName[0] != L'\0' && pattern_.matches(narrow(entry.cAlternateFileName));
 }
 
 TreeReader::Subfolder TreeReader::make_subfolder(const WIN32_FIND_DATAW& entry,
@@ -106,7 +127,11 @@ void TreeReader::store_files(ListedFolder& folder) {
     ListedFolder::FixedRecord* stored = folder.allocate_files(arena_, count, names_.size());
     std::copy(records_.begin(), records_.end(), stored);
     std::copy(names_.begin(), names_.end(), reinterpret_cast<char*>(stored + count));
+    if (patterns_.size() > 1) {
+      std::copy(matches_.begin(), matches_.end(), folder.allocate_matches(arena_));
+    }
   }
+  matches_.clear();
   records_.clear();
   names_.clear();
 }

@@ -3,20 +3,23 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "platform/file_pattern.h"
 #include "platform/folder_tree.h"
+#include "platform/win32/folder_listing.h"
 #include "platform/win32/link_guard.h"
 
 namespace quillvane {
 
 class TreeReader {
  public:
-  // Takes the files that match `pattern`; `tree` must outlive the reader.
-  TreeReader(std::string_view pattern, FolderTree& tree);
+  // Takes the files that match one of `patterns`, of which there are at most
+  // FolderTree::kMostPatterns; `tree` must outlive the reader.
+  TreeReader(const std::vector<std::string>& patterns, FolderTree& tree);
 
   // Reads the tree from `folder` on, which ends in a backslash. False when the folder cannot be
   // listed.
@@ -30,13 +33,20 @@ class TreeReader {
 
   [[nodiscard]] bool read_folder(ListedFolder& folder);
   void read_subfolder(const Subfolder& subfolder);
-  void note_file(const WIN32_FIND_DATAW& entry);
-  [[nodiscard]] bool matches(const WIN32_FIND_DATAW& entry, std::string_view name) const;
+  // The patterns, one bit each, that may be used in a folder whose path has this length.
+  [[nodiscard]] std::uint32_t fitting_patterns(std::size_t path_length) const;
+  [[nodiscard]] std::uint32_t matching_patterns(const WIN32_FIND_DATAW& entry,
+                                                std::string_view name, std::uint32_t fitting) const;
+  void note_file(const WIN32_FIND_DATAW& entry, std::uint32_t fitting);
   [[nodiscard]] Subfolder make_subfolder(const WIN32_FIND_DATAW& entry, const ListedFolder& parent);
   void store_files(ListedFolder& folder);
 
-  FilePattern pattern_;
-  std::size_t pattern_length_;  // as it counts in a path
+  struct Pattern {
+    FilePattern rule;
+    std::size_t length;  // as it counts in a path
+  };
+  std::vector<Pattern> patterns_;
+  FolderListing::ShortNames short_names_;
   TreeArena& arena_;
   FolderTree& tree_;
   LinkGuard guard_;
@@ -44,6 +54,7 @@ class TreeReader {
 
   // The files of the folder being read; done with before a subfolder is begun.
   std::vector<ListedFolder::FixedRecord> records_;
+  std::vector<std::uint32_t> matches_;  // the patterns that each matches
   std::string names_;
 };
 

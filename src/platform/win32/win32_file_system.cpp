@@ -50,10 +50,15 @@ RemoveResult refused(const std::wstring& path) {
 
 std::shared_ptr<const FolderTree> Win32FileSystem::read_tree(const std::string& folder,
                                                              const std::string& pattern) const {
+  return read_tree_for(folder, {pattern});
+}
+
+std::shared_ptr<const FolderTree> Win32FileSystem::read_tree_for(
+    const std::string& folder, const std::vector<std::string>& patterns) const {
   auto prefix = folder_prefix(folder);
-  if (!prefix) return nullptr;
+  if (!prefix || patterns.empty() || patterns.size() > FolderTree::kMostPatterns) return nullptr;
   auto tree = std::make_shared<FolderTree>();
-  TreeReader reader(pattern, *tree);
+  TreeReader reader(patterns, *tree);
   if (!reader.read(std::move(*prefix))) return nullptr;
   return tree;
 }

@@ -9,6 +9,8 @@ class Win32FileSystem final : public FileSystem {
  public:
   [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(
       const std::string& folder, const std::string& pattern) const override;
+  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_for(
+      const std::string& folder, const std::vector<std::string>& patterns) const override;
   [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
                                                      const std::string& pattern) const override;
   [[nodiscard]] std::optional<std::uint32_t> attributes(const std::string& path) const override;

@@ -62,7 +62,8 @@ std::string reason_of(const CLI::App& app, const CLI::ParseError& error) {
 
 int run_words(const std::vector<std::string>& words, ConsoleIo& io, ConsoleSession& session) {
   CLI::App app("Finds junk files on a Windows machine.", "quillvane");
-  app.fallthrough();  // common options may stand behind the command too
+  app.allow_windows_style_options(false);  // the same words mean the same on either system
+  app.fallthrough();                       // common options may stand behind the command too
   app.require_subcommand(1);
   add_common_options(app, session);
   const std::vector<PreparedCommand> commands = add_commands(app, session);

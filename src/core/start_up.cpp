@@ -1,5 +1,7 @@
 // Load and close of the main window.
 #include <charconv>
+#include <cmath>
+#include <cstdint>
 #include <string>
 
 #include "core/form7.h"
@@ -106,7 +108,11 @@ void Form7::read_system_temp_option() {
   const double days =
       Val(ReadRegistryString(registry, Hive::kLocalMachine, kSystemTempKey, "days").text);
   constexpr double kTicksOfDay = 864e9;
-  systempdate = {platform().loop.local_now().ticks - static_cast<std::int64_t>(days * kTicksOfDay)};
+  constexpr double kMostDays = 10'000'000;  // further away than any date
+  if (std::abs(days) > kMostDays) return;
+  const FileTime date{platform().loop.local_now().ticks -
+                      static_cast<std::int64_t>(days * kTicksOfDay)};
+  if (calendar_date(date)) systempdate = date;
 }
 
 void Form7::read_ignore_list() {

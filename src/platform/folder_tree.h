@@ -100,10 +100,14 @@ class ListedFolder {
   };
   static_assert(sizeof(FixedRecord) == 36);
   static ListedFolder* make(TreeArena& arena, std::string_view name, const ListedFolder* parent);
+  [[nodiscard]] ListedFolder* first_subfolder() { return first_subfolder_; }
+  [[nodiscard]] ListedFolder* next_sibling() { return next_sibling_; }
   void set_first_subfolder(ListedFolder* folder) { first_subfolder_ = folder; }
   void set_next_sibling(ListedFolder* folder) { next_sibling_ = folder; }
   // Takes room for `count` records and `names_length` bytes of names behind them.
   FixedRecord* allocate_files(TreeArena& arena, std::uint32_t count, std::size_t names_length);
+  // Counts only the first `count` of them; the names then begin behind those.
+  void keep_files(std::uint32_t count) { file_count_ = count; }
   // Takes room for one word a file that tells which patterns it matches, bit 0 being the first;
   // left out where all files match the only pattern.
   std::uint32_t* allocate_matches(TreeArena& arena);

@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "platform/file_system.h"
+#include "platform/folder/machine_paths.h"
 #include "platform/folder/machine_state.h"
 
 namespace quillvane {
@@ -30,12 +31,20 @@ class FolderFileSystem final : public FileSystem {
 
   [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(
       const std::string& folder, const std::string& pattern) const override;
+  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_for(
+      const std::string& folder, const std::vector<std::string>& patterns) const override;
   [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
                                                      const std::string& pattern) const override;
+
+  // A link to a file is archive and no more, and nothing can be set on a link: what its target has
+  // is not the link's.
   [[nodiscard]] std::optional<std::uint32_t> attributes(const std::string& path) const override;
   [[nodiscard]] bool set_attributes(const std::string& path, std::uint32_t bits) override;
+
   [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string& path) const override;
   [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override;
+
+  // A link stays; the file that it leads to is written.
   [[nodiscard]] bool write_file(const std::string& path, std::string_view content) override;
 
   // A link to a file is removed itself; where it leads nothing changes. A link to a folder is
@@ -43,7 +52,7 @@ class FolderFileSystem final : public FileSystem {
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override;
 
  private:
-  const MachineState& machine_;
+  MachinePaths paths_;
   unsigned reading_threads_;
 };
 

@@ -1,0 +1,165 @@
+#include "platform/folder/folder_file_system.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <span>
+#include <thread>
+#include <utility>
+
+#include "platform/folder/drive_file.h"
+#include "platform/folder/file_attributes.h"
+#include "platform/folder/folder_listing.h"
+#include "platform/folder/folder_walk.h"
+#include "platform/folder/named_file.h"
+#include "platform/folder/tree_scope.h"
+#include "platform/unicode_case.h"
+
+namespace quillvane {
+
+namespace {
+
+// More threads than this only wait for each other in the host's file system.
+constexpr unsigned kMostReadingThreads = 4;
+
+unsigned worthwhile_threads() {
+  return std::clamp(std::thread::hardware_concurrency(), 1U, kMostReadingThreads);
+}
+
+RemoveResult result_of(int error) {
+  switch (error) {
+    case ENOENT:
+      return RemoveResult::kMissing;
+    case EBUSY:
+    case ETXTBSY:
+      return RemoveResult::kInUse;
+    default:
+      return RemoveResult::kDenied;
+  }
+}
+
+bool is_read_only(std::uint32_t attributes) { return (attributes & kAttributeReadOnly) != 0; }
+
+// A name that is there, and what stands under it.
+struct FoundFile {
+  DriveFolder drive;
+  HostEntry entry;
+  NamedFile file;
+};
+
+std::optional<FoundFile> find_named(const MachinePaths& paths, const std::string& path) {
+  const auto parsed = paths.parse(path);
+  if (!parsed) return std::nullopt;
+  DriveFolder drive = paths.drive(parsed->drive);
+  auto entry = drive.find_entry(parsed->names);
+  auto file = entry ? open_named(drive, *entry) : std::nullopt;
+  if (!file) return std::nullopt;
+  return FoundFile{std::move(drive), std::move(*entry), std::move(*file)};
+}
+
+bool write_new_file(const MachinePaths& paths, const std::string& path, std::string_view content) {
+  const auto parsed = paths.parse(path);
+  if (!parsed || parsed->names.empty() || !can_be_created(parsed->names.back())) return false;
+  const DriveFolder drive = paths.drive(parsed->drive);
+  // What Windows does not know or a link that leads nowhere may bear the name: it stays.
+  if (drive.find_entry(parsed->names)) return false;
+  auto folder = drive.find(std::span(parsed->names).first(parsed->names.size() - 1));
+  if (!folder || !is_folder(folder->status)) return false;
+  return replace_drive_file({std::move(*folder), parsed->names.back()}, nullptr, content);
+}
+
+}  // namespace
+
+FolderFileSystem::FolderFileSystem(const MachineState& machine, unsigned reading_threads)
+    : paths_(machine),
+      reading_threads_(reading_threads == 0 ? worthwhile_threads() : reading_threads) {}
+
+std::shared_ptr<const FolderTree> FolderFileSystem::read_tree(const std::string& folder,
+                                                              const std::string& pattern) const {
+  return read_tree_for(folder, {pattern});
+}
+
+std::shared_ptr<const FolderTree> FolderFileSystem::read_tree_for(
+    const std::string& folder, const std::vector<std::string>& patterns) const {
+  const auto path = paths_.parse(folder);
+  if (!path || patterns.size() > FolderTree::kMostPatterns) return nullptr;
+  const DriveFolder drive = paths_.drive(path->drive);
+  const auto place = drive.find(path->names);
+  if (!place || !is_folder(place->status)) return nullptr;
+
+  const TreeScope scope(drive, patterns, paths_.denied());
+  const std::size_t path_units = utf16_length(with_backslash(folder));
+  if (!scope.can_list(path_units) || scope.is_denied(HostIdentity::of(place->status))) {
+    return nullptr;
+  }
+  Descriptor readable = open_for_listing(*place);
+  if (!readable.is_open()) return nullptr;
+  auto tree = std::make_shared<FolderTree>();
+  FolderWalk(scope, reading_threads_, *tree).read(*place, std::move(readable), path_units);
+  return tree;
+}
+
+std::vector<FolderEntry> FolderFileSystem::list_folder(const std::string& folder,
+                                                       const std::string& pattern) const {
+  const auto path = paths_.parse(folder);
+  if (!path || !fits_path_limit(utf16_length(with_backslash(folder) + pattern))) return {};
+  const DriveFolder drive = paths_.drive(path->drive);
+  auto place = drive.find(path->names);
+  if (!place || !is_folder(place->status)) return {};
+  const auto denied = paths_.denied();
+  if (std::find(denied.begin(), denied.end(), HostIdentity::of(place->status)) != denied.end()) {
+    return {};
+  }
+  return list_entries(drive, std::move(*place), pattern);
+}
+
+std::optional<std::uint32_t> FolderFileSystem::attributes(const std::string& path) const {
+  if (const auto found = find_named(paths_, path)) return found->file.attributes();
+  // The drive itself has no name.
+  const auto place = paths_.find(path);
+  return place && place->path.empty() ? std::optional(kAttributeFolder) : std::nullopt;
+}
+
+bool FolderFileSystem::set_attributes(const std::string& path, std::uint32_t bits) {
+  const auto found = find_named(paths_, path);
+  if (!found || found->file.is_link()) return false;
+  if (paths_.is_in_use(HostIdentity::of(found->file.named.status))) return false;
+  return write_file_attributes(found->file.named, bits);
+}
+
+std::optional<std::uint64_t> FolderFileSystem::file_size(const std::string& path) const {
+  const auto place = paths_.find(path);
+  if (!place || !is_file(place->status)) return std::nullopt;
+  return place->status.stx_size;
+}
+
+std::optional<std::string> FolderFileSystem::read_file(const std::string& path) const {
+  const auto place = paths_.find(path);
+  return place ? read_drive_file(*place) : std::nullopt;
+}
+
+bool FolderFileSystem::write_file(const std::string& path, std::string_view content) {
+  const auto found = find_named(paths_, path);
+  if (!found) return write_new_file(paths_, path, content);
+  const HostPlace& old = found->file.place();
+  if (!is_file(old.status) || is_read_only(read_file_attributes(old))) return false;
+  if (paths_.is_in_use(HostIdentity::of(old.status))) return false;
+  if (!found->file.is_link()) return replace_drive_file(found->entry, &old, content);
+  const auto entry = found->drive.entry_of(old);
+  return entry && replace_drive_file(*entry, &old, content);
+}
+
+RemoveResult FolderFileSystem::remove_file(const std::string& path) {
+  const auto found = find_named(paths_, path);
+  if (!found) return RemoveResult::kMissing;
+  const HostStatus& status = found->file.place().status;
+  if (!is_file(status)) return RemoveResult::kDenied;
+  if (paths_.is_in_use(HostIdentity::of(status))) return RemoveResult::kInUse;
+  if (is_read_only(found->file.attributes())) return RemoveResult::kDenied;
+  const int folder = found->entry.folder.object.number();
+  if (unlinkat(folder, found->entry.name.c_str(), 0) == 0) return RemoveResult::kRemoved;
+  return result_of(errno);
+}
+
+}  // namespace quillvane

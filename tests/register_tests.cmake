@@ -25,8 +25,10 @@ function(quillvane_register_tests program)
   foreach(suite ${suites})
     add_test(NAME ${program}.${suite}
       COMMAND ${program} "--gtest_filter=${suite}.*:*/${suite}.*")
-    # A filter that picks nothing would pass.
+    # A filter that picks nothing would pass. The suites of one program share the machine they work
+    # on, so they run one after the other.
     set_tests_properties(${program}.${suite} PROPERTIES TIMEOUT 300
-      FAIL_REGULAR_EXPRESSION "Running 0 tests")
+      FAIL_REGULAR_EXPRESSION "Running 0 tests" RESOURCE_LOCK ${program}
+      FIXTURES_REQUIRED wine)
   endforeach()
 endfunction()

@@ -34,8 +34,8 @@ std::optional<DateTime> calendar_date(FileTime time) {
 
 FileTime file_time_of(const DateTime& date) {
   const std::chrono::sys_days day = std::chrono::year{date.year} /
-                                    static_cast<unsigned>(date.month) /
-                                    static_cast<unsigned>(date.day);
+                                    std::chrono::month{static_cast<unsigned>(date.month)} /
+                                    std::chrono::day{static_cast<unsigned>(date.day)};
   const auto since_epoch = std::chrono::duration_cast<Ticks>(day - kEpoch) +
                            std::chrono::hours{date.hour} + std::chrono::minutes{date.minute} +
                            std::chrono::seconds{date.second};

@@ -52,8 +52,41 @@ struct ScanFixture {
     });
   }
 
+  // Calls `act` once, when the message loop is served and `holds` answers true for the first time.
+  void when(std::function<bool()> holds, std::function<void()> act) {
+    machine.loop().set_served_hook(
+        [holds = std::move(holds), act = std::move(act), done = false]() mutable {
+          if (done || !holds()) return;
+          done = true;
+          act();
+        });
+  }
+
   TempMachine machine;
   std::optional<Program> program;
+};
+
+// A machine with one file of 10 bytes for each category that lists files on every Windows, and for
+// Internet Explorer; `junk` names them in the order in which a scan finds them.
+//
+// A whole scan finds 10 files and counts 11: the memory dumps add the thumbnails a second time.
+struct JunkEverywhere : ScanFixture {
+  JunkEverywhere() {
+    for (const std::string& path : junk) machine.add_file(path, 10);
+  }
+
+  const Texts junk = {
+      "C:\\Windows\\Temp\\a.tmp",
+      "C:\\Users\\User\\AppData\\Local\\Temp\\b.tmp",
+      "C:\\Users\\User\\AppData\\Local\\Microsoft\\Windows\\Explorer\\c.db",
+      "C:\\ProgramData\\Microsoft\\Windows\\WER\\ReportQueue\\d.wer",
+      "C:\\Windows\\Logs\\e.log",
+      "C:\\$RECYCLE.BIN\\f.txt",
+      "C:\\Windows\\Downloaded Program Files\\g.dll",
+      "C:\\Windows\\SoftwareDistribution\\Download\\h.cab",
+      "C:\\Users\\User\\AppData\\Roaming\\microsoft\\windows\\recent\\i.lnk",
+      "C:\\Users\\User\\AppData\\Local\\Microsoft\\Windows\\Temporary Internet Files\\j.htm",
+  };
 };
 
 // The texts of a list's rows; of a column, when one is given.

@@ -15,6 +15,7 @@
 #include "forms/timer.h"
 #include "forms/toolbar.h"
 #include "forms/tree_view.h"
+#include "platform/unicode_case.h"
 #include "tests/support/temp_console_machine.h"
 #include "view/console/script/driven_program.h"
 #include "view/console/script/script_runner.h"
@@ -80,7 +81,7 @@ class SmallProgram final : public DrivenProgram {
     return started_ && has_window(name) ? const_cast<SmallWindow*>(&window) : nullptr;
   }
   [[nodiscard]] bool has_window(std::string_view name) const override {
-    return name == "Form7" || name == "form7";
+    return same_name(name, "Form7");
   }
 
   SmallWindow window;

@@ -1,8 +1,11 @@
 #!/bin/bash
-# run_wine.sh PREFIX PROGRAM ARGUMENTS... runs a Windows program through Wine.
+# run_wine.sh PREFIX PROGRAM ARGUMENTS...   runs a Windows program through Wine
+# run_wine.sh PREFIX --start                makes Wine ready, so that programs start at once
+# run_wine.sh PREFIX --stop                 ends what --start began
 #
-# PREFIX is the folder that holds the Windows it runs on; it is made at the first use. No window
-# and no sound: what the program needs of a screen it gets from Wine's own null driver.
+# PREFIX is the folder that holds the Windows the programs run on; it is made at the first use. That
+# Windows stands by itself: its user's folders are its own, not links to those of whoever runs the
+# tests, and its settings are those of the United States. It needs no screen.
 set -euo pipefail
 
 prefix=$1
@@ -15,13 +18,27 @@ for candidate in /usr/lib/wine/wine64 /usr/bin/wine64 /usr/bin/wine; do
     break
   fi
 done
-if [ -z "$loader" ]; then
+if [ -z "$loader" ] || ! command -v wineserver >/dev/null; then
   echo "run_wine.sh: Wine is missing: install wine64 and wine" >&2
   exit 127
 fi
 
 export WINEPREFIX=$prefix WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
+export LC_ALL=C.UTF-8
 unset DISPLAY
+
+make_prefix() {
+  "$loader" wineboot.exe -i >"$prefix/boot.log" 2>&1 </dev/null
+  find "$prefix/drive_c/users" -type l | while read -r link; do
+    rm "$link"
+    mkdir "$link"
+  done
+}
+
+stop_wine() {
+  wineserver --kill >/dev/null 2>&1 || true # nothing to end is as good
+  wineserver --wait >/dev/null 2>&1
+}
 
 # Several tests may start at once; the first makes the prefix, the others wait for it.
 if [ ! -e "$prefix/ready" ]; then
@@ -29,10 +46,24 @@ if [ ! -e "$prefix/ready" ]; then
   (
     flock 9
     if [ ! -e "$prefix/ready" ]; then
-      "$loader" wineboot.exe -i >"$prefix/boot.log" 2>&1
+      make_prefix
       touch "$prefix/ready"
     fi
   ) 9>"$prefix/lock"
 fi
 
-exec "$loader" "$@"
+case $1 in
+  --start)
+    # Wine's server and the services of its Windows would otherwise belong to the first program,
+    # keep its output open and end with it.
+    stop_wine
+    wineserver --persistent >/dev/null 2>&1 </dev/null
+    "$loader" wineboot.exe >/dev/null 2>&1 </dev/null
+    ;;
+  --stop)
+    stop_wine
+    ;;
+  *)
+    exec "$loader" "$@"
+    ;;
+esac

@@ -3,11 +3,11 @@
 #include <chrono>
 #include <filesystem>
 #include <functional>
-#include <ratio>
 #include <system_error>
 #include <utility>
 
 #include "platform/folder/folder_file_system.h"
+#include "platform/folder/machine_clock.h"
 #include "platform/folder/machine_drives.h"
 #include "platform/folder/machine_environment.h"
 #include "platform/folder/machine_event_log.h"
@@ -18,21 +18,6 @@
 #include "platform/folder/registry_store.h"
 
 namespace quillvane {
-
-namespace {
-
-// The host's clock in the machine's time zone.
-FileTime local_clock(int utc_offset_minutes) {
-  using Ticks = std::chrono::duration<std::int64_t, std::ratio<1, 10'000'000>>;
-  constexpr auto kEpoch = std::chrono::sys_days(std::chrono::year{1601} / 1 / 1);
-  // In ticks before anything is added: the nanoseconds since 1601 do not fit 64 bits.
-  const auto since_1970 =
-      std::chrono::floor<Ticks>(std::chrono::system_clock::now().time_since_epoch());
-  const Ticks now = since_1970 - kEpoch.time_since_epoch();
-  return {(now + std::chrono::minutes(utc_offset_minutes)).count()};
-}
-
-}  // namespace
 
 struct FolderMachine::Parts {
   Parts(MachineState& state, EffectLog& effects, const std::function<void()>& save)
@@ -71,7 +56,7 @@ std::variant<std::unique_ptr<FolderMachine>, std::string> FolderMachine::open(
 FolderMachine::FolderMachine(std::string dir, MachineState state)
     : dir_(std::move(dir)),
       state_(std::move(state)),
-      loop_(local_clock(state_.utc_offset_minutes)),
+      loop_(machine_clock(std::chrono::system_clock::now(), state_.utc_offset_minutes)),
       files_(std::make_unique<FolderFileSystem>(state_)),
       parts_(std::make_unique<Parts>(state_, effects_, [this] { save(); })) {}
 

@@ -39,18 +39,21 @@ std::vector<PreparedCommand> add_commands(CLI::App& app, ConsoleSession& session
   std::vector<PreparedCommand> prepared;
   for (const ConsoleCommand& command : console_commands()) {
     CLI::App* added = group_of(app, command).add_subcommand(command.name, command.description);
+    added->footer("quillvane --help tells the options that all commands share.");
     prepared.push_back({added, command.prepare(*added, session)});
   }
   return prepared;
 }
 
 // What is wrong with the words, in one line.
-std::string reason_of(const CLI::ParseError& error) {
-  if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
-      std::string(error.what()).find("subcommand") != std::string::npos) {
-    return "a command is missing (quillvane --help lists them)";
-  }
+std::string reason_of(const CLI::App& app, const CLI::ParseError& error) {
   std::string reason = error.what();
+  const bool command_missing =
+      error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
+      reason.find("subcommand") != std::string::npos;
+  const std::vector<std::string> unknown = app.remaining(true);
+  if (command_missing && !unknown.empty()) return unknown.front() + ": there is no such command";
+  if (command_missing) return "a command is missing (quillvane --help lists them)";
   for (char& c : reason) {
     if (c == '\n') c = ' ';
   }
@@ -59,7 +62,8 @@ std::string reason_of(const CLI::ParseError& error) {
 
 int run_words(const std::vector<std::string>& words, ConsoleIo& io, ConsoleSession& session) {
   CLI::App app("Finds junk files on a Windows machine.", "quillvane");
-  app.fallthrough();  // common options may stand behind the command too
+  app.allow_windows_style_options(false);  // the same words mean the same on either system
+  app.fallthrough();                       // common options may stand behind the command too
   app.require_subcommand(1);
   add_common_options(app, session);
   const std::vector<PreparedCommand> commands = add_commands(app, session);
@@ -69,7 +73,7 @@ int run_words(const std::vector<std::string>& words, ConsoleIo& io, ConsoleSessi
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
       return app.exit(error, io.out, io.err);  // help or version
     }
-    session.problem("command line: " + reason_of(error));
+    session.problem("command line: " + reason_of(app, error));
     return kWrongWords;
   }
   for (const PreparedCommand& command : commands) {

@@ -108,6 +108,15 @@ TEST(Console, WordsThatAreOffAreToldInOneLineWithStatus2) {
   }
 }
 
+TEST(Console, AWordThatIsNoCommandIsNamed) {
+  Stage stage;
+  EXPECT_EQ(stage.run({"sweep", "C:"}), 2);
+  EXPECT_EQ(stage.run({"machine", "melt"}), 2);
+  EXPECT_EQ(stage.err.str(),
+            "quillvane: command line: sweep: there is no such command\n"
+            "quillvane: command line: melt: there is no such command\n");
+}
+
 TEST(Console, CommonOptionsStandBeforeOrBehindTheCommand) {
   for (const Words& words : {Words{"--machine", "here", "scan"}, Words{"scan", "--machine", "here"},
                              Words{"scan", "--json", "--machine=here", "--list"}}) {

@@ -27,9 +27,19 @@ FolderEntry folder_entry(const WIN32_FIND_DATAW& entry) {
           file_time(entry.ftLastWriteTime)};
 }
 
-// Windows drops blanks and dots at the end of a name, so such a path means another file.
-bool means_another_file(const std::wstring& path) {
-  return path.back() == L'.' || path.back() == L' ';
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+// The path, unless it means another file than it says: Windows drops blanks and dots at the end of
+// a name.
+std::optional<std::wstring> exact_path(const std::string& path) {
+  auto wide = openable_path(path);
+  if (wide && (wide->back() == L'.' || wide->back() == L' ')) return std::nullopt;
+  return wide;
+}
+
+bool is_folder(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
 // What a refused deletion means. A program that runs can be opened for deletion, but not deleted;
@@ -40,7 +50,6 @@ RemoveResult refused(const std::wstring& path) {
       (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) {
     return RemoveResult::kDenied;
   }
-  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const FileHandle file(
       CreateFileW(path.c_str(), DELETE, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
   return file.is_valid() ? RemoveResult::kInUse : RemoveResult::kDenied;
@@ -114,9 +123,36 @@ bool Win32FileSystem::write_file(const std::string& path, std::string_view conte
   return wide && replace_whole_file(*wide, content);
 }
 
-RemoveResult Win32FileSystem::remove_file(const std::string& path) {
+bool Win32FileSystem::can_open(const std::string& path) const {
   const auto wide = openable_path(path);
-  if (!wide || means_another_file(*wide)) return RemoveResult::kMissing;
+  if (!wide) return false;
+  const FileHandle file(
+      CreateFileW(wide->c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING, 0, nullptr));
+  return file.is_valid();
+}
+
+bool Win32FileSystem::rename_file(const std::string& from, const std::string& to) {
+  const auto wide_from = exact_path(from);
+  const auto wide_to = exact_path(to);
+  return wide_from && wide_to && !is_folder(*wide_from) &&
+         MoveFileExW(wide_from->c_str(), wide_to->c_str(), /*dwFlags=*/0) != 0;
+}
+
+bool Win32FileSystem::copy_file(const std::string& from, const std::string& to) {
+  const auto wide_from = exact_path(from);
+  const auto wide_to = exact_path(to);
+  return wide_from && wide_to &&
+         CopyFileW(wide_from->c_str(), wide_to->c_str(), /*bFailIfExists=*/FALSE) != 0;
+}
+
+bool Win32FileSystem::make_folder(const std::string& path) {
+  const auto wide = exact_path(path);
+  return wide && CreateDirectoryW(wide->c_str(), nullptr) != 0;
+}
+
+RemoveResult Win32FileSystem::remove_file(const std::string& path) {
+  const auto wide = exact_path(path);
+  if (!wide) return RemoveResult::kMissing;
   if (DeleteFileW(wide->c_str())) return RemoveResult::kRemoved;
   switch (GetLastError()) {
     case ERROR_FILE_NOT_FOUND:

@@ -8,7 +8,11 @@
 #include "platform/win32/win32_file_system.h"
 #include "platform/win32/win32_processes.h"
 #include "platform/win32/win32_registry.h"
+#include "platform/win32/win32_security.h"
+#include "platform/win32/win32_shell.h"
+#include "platform/win32/win32_suite_channel.h"
 #include "platform/win32/win32_system_info.h"
+#include "platform/win32/win32_tray.h"
 #include "platform/win32/win32_url_cache.h"
 
 namespace quillvane {
@@ -22,8 +26,20 @@ class Win32Machine {
   // Everything but what the user sees and when: boxes and time are the view's choice. All three
   // must outlive the result.
   [[nodiscard]] Platform platform(Dialogs& dialogs, MessageLoop& loop) {
-    return {files_,     drives_,    registry_,  environment_, system_,
-            event_log_, processes_, url_cache_, loop,         dialogs};
+    return {.files = files_,
+            .drives = drives_,
+            .registry = registry_,
+            .environment = environment_,
+            .system = system_,
+            .event_log = event_log_,
+            .processes = processes_,
+            .url_cache = url_cache_,
+            .security = security_,
+            .shell = shell_,
+            .suite = suite_,
+            .tray = tray_,
+            .loop = loop,
+            .dialogs = dialogs};
   }
 
  private:
@@ -35,6 +51,10 @@ class Win32Machine {
   Win32EventLog event_log_;
   Win32Processes processes_;
   Win32UrlCache url_cache_;
+  Win32Security security_;
+  Win32Shell shell_;
+  Win32SuiteChannel suite_;
+  Win32Tray tray_;
 };
 
 }  // namespace quillvane

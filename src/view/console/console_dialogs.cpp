@@ -4,23 +4,6 @@
 
 namespace quillvane {
 
-Platform with_dialogs(const Platform& machine, Dialogs& dialogs) {
-  return {.files = machine.files,
-          .drives = machine.drives,
-          .registry = machine.registry,
-          .environment = machine.environment,
-          .system = machine.system,
-          .event_log = machine.event_log,
-          .processes = machine.processes,
-          .url_cache = machine.url_cache,
-          .security = machine.security,
-          .shell = machine.shell,
-          .suite = machine.suite,
-          .tray = machine.tray,
-          .loop = machine.loop,
-          .dialogs = dialogs};
-}
-
 bool ConsoleDialogs::said_yes(const std::string& title) const {
   const auto given = given_.find(title);
   return given != given_.end() && given->second == Answer::kYes;

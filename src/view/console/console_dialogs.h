@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-#include "platform/platform.h"
+#include "platform/dialogs.h"
 #include "view/console/console_io.h"
 
 namespace quillvane {
@@ -36,8 +36,5 @@ class ConsoleDialogs final : public Dialogs {
   std::map<std::string, Answer> answers_;  // in advance, by title
   std::map<std::string, Answer> given_;    // the last of each title
 };
-
-// The machine with other dialogs than its own.
-[[nodiscard]] Platform with_dialogs(const Platform& machine, Dialogs& dialogs);
 
 }  // namespace quillvane

@@ -8,23 +8,6 @@ namespace quillvane {
 
 CleaningWatch::CleaningWatch(const Platform& machine) : machine_(machine) {}
 
-Platform CleaningWatch::platform(Dialogs& dialogs) {
-  return {.files = *this,
-          .drives = machine_.drives,
-          .registry = machine_.registry,
-          .environment = machine_.environment,
-          .system = machine_.system,
-          .event_log = machine_.event_log,
-          .processes = machine_.processes,
-          .url_cache = machine_.url_cache,
-          .security = machine_.security,
-          .shell = machine_.shell,
-          .suite = machine_.suite,
-          .tray = machine_.tray,
-          .loop = machine_.loop,
-          .dialogs = dialogs};
-}
-
 void CleaningWatch::begin(std::vector<std::string> bin_files) {
   counting_ = true;
   bin_files_ = std::move(bin_files);

@@ -25,9 +25,6 @@ class CleaningWatch final : public FileSystem {
  public:
   explicit CleaningWatch(const Platform& machine);
 
-  // The machine with this in place of its files.
-  [[nodiscard]] Platform platform(Dialogs& dialogs);
-
   // Begins to count; `bin_files` are the rows of the recycle bin, which goes as a whole.
   void begin(std::vector<std::string> bin_files);
   // Looks where the files are now.

@@ -109,7 +109,11 @@ struct Results {
 };
 
 int run(const Options& options) {
-  if (!make_tree({options.folder, options.files})) return 1;
+  // In a process of its own too: memory that this one has had would be given to the walks.
+  const auto made = measure([&] {
+    return make_tree({options.folder, options.files}) ? std::size_t{options.files} : 0;
+  });
+  if (!made || made->files != options.files) return 1;
   Results results;
   for (std::uint32_t pair = 0; pair <= options.pairs; ++pair) {
     const auto yardstick = measure([&] { return walk_bare(options); });

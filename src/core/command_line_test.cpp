@@ -1,6 +1,7 @@
 // The run switches of the command line.
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 #include <string_view>
 

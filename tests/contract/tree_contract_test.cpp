@@ -123,6 +123,35 @@ TEST_F(TreeContract, ATreeKeepsItsNamesAfterTheFilesAreGone) {
   EXPECT_EQ(tree->root().name_of(1), "b.txt");
 }
 
+TEST_F(TreeContract, OneReadingServesSeveralPatterns) {
+  stage({"a"}, {"a\\1.log", "a\\report.tmpx", "2.txt", "3.log", "History"});
+  const auto tree =
+      platform.files.read_tree_for(machine->folder(), {"*.log", "*.tmp", "History.*", "3.*"});
+  ASSERT_NE(tree, nullptr);
+  const ListedFolder& root = tree->root();
+  ASSERT_EQ(root.file_count(), 2U);  // 2.txt matches none of them
+  EXPECT_EQ(root.name_of(0), "3.log");
+  EXPECT_TRUE(root.matches(0, 0) && !root.matches(0, 1) && !root.matches(0, 2) &&
+              root.matches(0, 3));
+  EXPECT_EQ(root.name_of(1), "History");
+  EXPECT_TRUE(!root.matches(1, 0) && !root.matches(1, 1) && root.matches(1, 2) &&
+              !root.matches(1, 3));
+  const ListedFolder* sub = root.first_subfolder();
+  ASSERT_NE(sub, nullptr);
+  ASSERT_EQ(sub->file_count(), 2U);
+  EXPECT_EQ(sub->name_of(0), "1.log");
+  EXPECT_TRUE(sub->matches(0, 0) && !sub->matches(0, 1));
+  EXPECT_EQ(sub->name_of(1), "report.tmpx");
+  EXPECT_TRUE(!sub->matches(1, 0) && sub->matches(1, 1));
+}
+
+TEST_F(TreeContract, ATreeTellsWhetherALoopWasLeftOut) {
+  stage({"a"}, {});
+  EXPECT_FALSE(platform.files.read_tree(machine->folder(), "*.*")->left_out_loops());
+  machine->add_link(path_of("a\\up"), path_of("a"));
+  EXPECT_TRUE(platform.files.read_tree(machine->folder(), "*.*")->left_out_loops());
+}
+
 TEST_F(TreeContract, ALinkIsEnteredLikeAFolder) {
   stage({"real", "walked"}, {"real\\1.txt"});
   machine->add_link(path_of("walked\\link"), path_of("real"));

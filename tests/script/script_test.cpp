@@ -129,7 +129,8 @@ TEST_P(Script, Behaves) {
   const int status = machine.run({"script", script.string(), "--machine", machine.dir()});
 
   const std::string expected = text_of(kFolder / (GetParam() + ".expected"));
-  EXPECT_EQ(difference(expected_values(expected), printed_values(machine.out)), "");
+  const std::string differs = difference(expected_values(expected), printed_values(machine.out));
+  EXPECT_TRUE(differs.empty()) << differs;
   EXPECT_EQ(machine.err, problem);
   EXPECT_EQ(status, problem.empty() ? 0 : 1);
 }

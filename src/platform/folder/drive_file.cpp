@@ -7,7 +7,6 @@
 
 #include <atomic>
 #include <cerrno>
-#include <new>
 
 #include "platform/folder/file_attributes.h"
 
@@ -16,6 +15,9 @@ namespace quillvane {
 namespace {
 
 constexpr std::size_t kLeastRead = 4096;
+// The program's own files are lists and texts. What is larger is none of them, and could take the
+// whole memory.
+constexpr std::size_t kMostRead = std::size_t{1} << 30U;
 
 // The descriptor of a place is good for finding only; this leads to the same file.
 Descriptor open_for_reading(const HostPlace& place) {
@@ -31,8 +33,8 @@ std::optional<std::string> read_to_end(int file, std::size_t expected) {
     if (used == content.size()) content.resize(2 * content.size());
     const ssize_t got = read(file, content.data() + used, content.size() - used);
     if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return std::nullopt;
     if (got == 0) break;
+    if (got < 0 || used + static_cast<std::size_t>(got) > kMostRead) return std::nullopt;
     used += static_cast<std::size_t>(got);
   }
   content.resize(used);
@@ -83,14 +85,10 @@ class FileBeside {
 }  // namespace
 
 std::optional<std::string> read_drive_file(const HostPlace& place) {
-  if (!is_file(place.status)) return std::nullopt;
+  if (!is_file(place.status) || place.status.stx_size > kMostRead) return std::nullopt;
   const Descriptor file = open_for_reading(place);
   if (!file.is_open()) return std::nullopt;
-  try {
-    return read_to_end(file.number(), place.status.stx_size);
-  } catch (const std::exception&) {
-    return std::nullopt;  // larger than the memory
-  }
+  return read_to_end(file.number(), place.status.stx_size);
 }
 
 bool replace_drive_file(const HostEntry& entry, const HostPlace* old, std::string_view content) {

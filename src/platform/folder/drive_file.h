@@ -9,7 +9,7 @@
 
 namespace quillvane {
 
-// Nothing when it is no file or cannot be read.
+// Nothing when it is no file, cannot be read, or is larger than 1 GiB.
 [[nodiscard]] std::optional<std::string> read_drive_file(const HostPlace& place);
 
 // Puts a file of this content under the entry's name. It is written beside and then takes the place

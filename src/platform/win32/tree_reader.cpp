@@ -18,11 +18,11 @@ constexpr std::size_t kFolderPatternLength = 3;
 }  // namespace
 
 TreeReader::TreeReader(const std::vector<std::string>& patterns, FolderTree& tree)
-    : patterns_(patterns.begin(), patterns.end()), arena_(tree.add_arena()), tree_(tree) {
-  for (const std::string& pattern : patterns) pattern_lengths_.push_back(utf16_length(pattern));
-  needs_short_names_ =
-      !std::all_of(patterns_.begin(), patterns_.end(),
-                   [](const FilePattern& pattern) { return pattern.matches_every_name(); });
+    : short_names_(FolderListing::ShortNames::kNo), arena_(tree.add_arena()), tree_(tree) {
+  for (const std::string& pattern : patterns) {
+    patterns_.push_back({FilePattern(pattern), utf16_length(pattern)});
+    if (!patterns_.back().rule.matches_every_name()) short_names_ = FolderListing::ShortNames::kYes;
+  }
 }
 
 bool TreeReader::read(std::wstring folder) {
@@ -33,20 +33,19 @@ bool TreeReader::read(std::wstring folder) {
   return is_new && read_folder(*root);
 }
 
-// One listing serves for files and subfolders. Each pattern and the subfolders have limits of their
-// own, since a path is too long by the pattern that is put behind it.
+// One listing serves for files and subfolders. Each has a limit of its own, since a path is too
+// long by the pattern that is put behind it.
 bool TreeReader::read_folder(ListedFolder& folder) {
-  const PatternSet usable = usable_patterns();
+  const std::uint32_t fitting = fitting_patterns(path_.size());
   const bool folders_fit = path_.size() + kFolderPatternLength < kPathLimit;
-  if (usable == 0 && !folders_fit) return false;
+  if (fitting == 0 && !folders_fit) return false;
 
-  FolderListing listing(path_ + L'*', needs_short_names_ ? FolderListing::ShortNames::kYes
-                                                         : FolderListing::ShortNames::kNo);
+  FolderListing listing(path_ + L'*', short_names_);
   if (!listing.is_open()) return false;
   std::vector<Subfolder> subfolders;
   while (const WIN32_FIND_DATAW* entry = listing.next()) {
     if ((entry->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
-      if (usable != 0) note_file(*entry, usable);
+      if (fitting != 0) note_file(*entry, fitting);
     } else if (folders_fit) {
       subfolders.push_back(make_subfolder(*entry, folder));
     }
@@ -77,40 +76,43 @@ void TreeReader::read_subfolder(const Subfolder& subfolder) {
   path_.resize(length);
 }
 
-TreeReader::PatternSet TreeReader::usable_patterns() const {
-  PatternSet usable = 0;
-  for (std::size_t i = 0; i < pattern_lengths_.size(); ++i) {
-    if (path_.size() + pattern_lengths_[i] < kPathLimit) usable |= PatternSet{1} << i;
+std::uint32_t TreeReader::fitting_patterns(std::size_t path_length) const {
+  std::uint32_t fitting = 0;
+  for (std::size_t i = 0; i < patterns_.size(); ++i) {
+    if (path_length + patterns_[i].length < kPathLimit) fitting |= std::uint32_t{1} << i;
   }
-  return usable;
+  return fitting;
 }
 
-void TreeReader::note_file(const WIN32_FIND_DATAW& entry, PatternSet usable) {
+std::uint32_t TreeReader::matching_patterns(const WIN32_FIND_DATAW& entry, std::string_view name,
+                                            std::uint32_t fitting) const {
+  const std::string short_name = narrow(entry.cAlternateFileName);
+  std::uint32_t matching = 0;
+  for (std::size_t i = 0; i < patterns_.size(); ++i) {
+    const FilePattern& rule = patterns_[i].rule;
+    if (rule.matches(name) || (!short_name.empty() && rule.matches(short_name))) {
+      matching |= std::uint32_t{1} << i;
+    }
+  }
+  return matching & fitting;
+}
+
+void TreeReader::note_file(const WIN32_FIND_DATAW& entry, std::uint32_t fitting) {
   const std::size_t begin = names_.size();
   append_narrow(entry.cFileName, names_);
-  PatternSet matched = matches(std::string_view(names_).substr(begin)) & usable;
-  if (matched != usable && entry.cAlternateFileName[0] != L'\0') {
-    matched |= matches(narrow(entry.cAlternateFileName)) & usable;
-  }
-  if (matched == 0) {
+  const std::uint32_t matching =
+      matching_patterns(entry, std::string_view(names_).substr(begin), fitting);
+  if (matching == 0) {
     names_.resize(begin);
     return;
   }
-  matches_.push_back(matched);
+  matches_.push_back(matching);
   records_.push_back({entry.nFileSizeLow,
                       entry.nFileSizeHigh,
                       {entry.ftCreationTime.dwLowDateTime, entry.ftCreationTime.dwHighDateTime},
                       {entry.ftLastAccessTime.dwLowDateTime, entry.ftLastAccessTime.dwHighDateTime},
                       {entry.ftLastWriteTime.dwLowDateTime, entry.ftLastWriteTime.dwHighDateTime},
                       static_cast<std::uint32_t>(names_.size())});
-}
-
-TreeReader::PatternSet TreeReader::matches(std::string_view name) const {
-  PatternSet matched = 0;
-  for (std::size_t i = 0; i < patterns_.size(); ++i) {
-    if (patterns_[i].matches(name)) matched |= PatternSet{1} << i;
-  }
-  return matched;
 }
 
 TreeReader::Subfolder TreeReader::make_subfolder(const WIN32_FIND_DATAW& entry,
@@ -125,13 +127,12 @@ void TreeReader::store_files(ListedFolder& folder) {
     ListedFolder::FixedRecord* stored = folder.allocate_files(arena_, count, names_.size());
     std::copy(records_.begin(), records_.end(), stored);
     std::copy(names_.begin(), names_.end(), reinterpret_cast<char*>(stored + count));
-    // With one pattern whatever is there matches it.
     if (patterns_.size() > 1) {
       std::copy(matches_.begin(), matches_.end(), folder.allocate_matches(arena_));
     }
   }
-  records_.clear();
   matches_.clear();
+  records_.clear();
   names_.clear();
 }
 

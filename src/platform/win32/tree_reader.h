@@ -10,14 +10,15 @@
 
 #include "platform/file_pattern.h"
 #include "platform/folder_tree.h"
+#include "platform/win32/folder_listing.h"
 #include "platform/win32/link_guard.h"
 
 namespace quillvane {
 
 class TreeReader {
  public:
-  // Takes the files that match one of `patterns`, at most FolderTree::kMostPatterns; `tree` must
-  // outlive the reader.
+  // Takes the files that match one of `patterns`, of which there are at most
+  // FolderTree::kMostPatterns; `tree` must outlive the reader.
   TreeReader(const std::vector<std::string>& patterns, FolderTree& tree);
 
   // Reads the tree from `folder` on, which ends in a backslash. False when the folder cannot be
@@ -25,9 +26,6 @@ class TreeReader {
   [[nodiscard]] bool read(std::wstring folder);
 
  private:
-  // Some of the patterns: bit N stands for pattern N.
-  using PatternSet = std::uint32_t;
-
   struct Subfolder {
     ListedFolder* folder;
     bool is_link;
@@ -35,16 +33,20 @@ class TreeReader {
 
   [[nodiscard]] bool read_folder(ListedFolder& folder);
   void read_subfolder(const Subfolder& subfolder);
-  // Those that fit into a path behind the folder being read.
-  [[nodiscard]] PatternSet usable_patterns() const;
-  void note_file(const WIN32_FIND_DATAW& entry, PatternSet usable);
-  [[nodiscard]] PatternSet matches(std::string_view name) const;
+  // The patterns, one bit each, that may be used in a folder whose path has this length.
+  [[nodiscard]] std::uint32_t fitting_patterns(std::size_t path_length) const;
+  [[nodiscard]] std::uint32_t matching_patterns(const WIN32_FIND_DATAW& entry,
+                                                std::string_view name, std::uint32_t fitting) const;
+  void note_file(const WIN32_FIND_DATAW& entry, std::uint32_t fitting);
   [[nodiscard]] Subfolder make_subfolder(const WIN32_FIND_DATAW& entry, const ListedFolder& parent);
   void store_files(ListedFolder& folder);
 
-  std::vector<FilePattern> patterns_;
-  std::vector<std::size_t> pattern_lengths_;  // as they count in a path
-  bool needs_short_names_;
+  struct Pattern {
+    FilePattern rule;
+    std::size_t length;  // as it counts in a path
+  };
+  std::vector<Pattern> patterns_;
+  FolderListing::ShortNames short_names_;
   TreeArena& arena_;
   FolderTree& tree_;
   LinkGuard guard_;
@@ -52,7 +54,7 @@ class TreeReader {
 
   // The files of the folder being read; done with before a subfolder is begun.
   std::vector<ListedFolder::FixedRecord> records_;
-  std::vector<PatternSet> matches_;
+  std::vector<std::uint32_t> matches_;  // the patterns that each matches
   std::string names_;
 };
 

@@ -65,7 +65,7 @@ std::shared_ptr<const FolderTree> Win32FileSystem::read_tree(const std::string& 
 std::shared_ptr<const FolderTree> Win32FileSystem::read_tree_for(
     const std::string& folder, const std::vector<std::string>& patterns) const {
   auto prefix = folder_prefix(folder);
-  if (!prefix || patterns.size() > FolderTree::kMostPatterns) return nullptr;
+  if (!prefix || patterns.empty() || patterns.size() > FolderTree::kMostPatterns) return nullptr;
   auto tree = std::make_shared<FolderTree>();
   TreeReader reader(patterns, *tree);
   if (!reader.read(std::move(*prefix))) return nullptr;

@@ -1,0 +1,112 @@
+#include "bench/make_tree.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <random>
+#include <vector>
+
+namespace quillvane::bench {
+
+namespace {
+
+constexpr std::uint32_t kFilesPerFolder = 10;
+constexpr std::uint32_t kDeepest = 12;
+constexpr std::uint32_t kLargestFile = 1U << 20U;
+
+class Random {
+ public:
+  explicit Random(std::uint32_t seed) : engine_(seed) {}
+
+  // From first to last, both included. Not a standard distribution: those differ by library.
+  std::uint32_t between(std::uint32_t first, std::uint32_t last) {
+    return first + static_cast<std::uint32_t>(engine_()) % (last - first + 1);
+  }
+
+  // Letters in both cases and digits, so that the order of names is not that of the bytes. The
+  // number in front keeps the names of a folder apart.
+  std::string name(std::uint32_t number, std::uint32_t length) {
+    static constexpr char kLetters[] =
+        "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789_-";
+    std::string text;
+    text += kLetters[between(0, 51)];
+    text += std::to_string(number) + "_";
+    while (text.size() < length) text += kLetters[between(0, 63)];
+    return text;
+  }
+
+ private:
+  std::mt19937 engine_;
+};
+
+struct Folder {
+  std::string path;
+  std::uint32_t depth;
+};
+
+bool report(const std::string& path) {
+  std::fprintf(stderr, "%s: %s\n", path.c_str(), std::strerror(errno));
+  return false;
+}
+
+bool make_file(const std::string& path, std::uint32_t bytes) {
+  const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+  if (file < 0) return report(path);
+  const bool sized = ftruncate(file, static_cast<off_t>(bytes)) == 0;
+  close(file);
+  return sized || report(path);
+}
+
+bool make_files(const Folder& folder, std::uint32_t count, Random& random) {
+  static constexpr const char* kEndings[] = {".tmp", ".log", ".dat", ".jpeg", ""};
+  for (std::uint32_t i = 0; i < count; ++i) {
+    const std::uint32_t length = random.between(8, 60);
+    const std::string ending = kEndings[random.between(0, 4)];
+    const auto base = length - static_cast<std::uint32_t>(ending.size());
+    const std::string path = folder.path + "/" + random.name(i, base) + ending;
+    if (!make_file(path, random.between(0, kLargestFile))) return false;
+  }
+  return true;
+}
+
+bool make_contents(const TreePlan& plan) {
+  Random random(plan.seed);
+  std::vector<Folder> folders = {{plan.folder + "/tree", 0}};
+  if (mkdir(folders[0].path.c_str(), 0755) != 0) return report(folders[0].path);
+  std::uint32_t left = plan.files;
+  while (left > 0) {
+    const std::uint32_t count = std::min(left, random.between(5, 2 * kFilesPerFolder - 5));
+    if (!make_files(folders.back(), count, random)) return false;
+    left -= count;
+    const auto number = static_cast<std::uint32_t>(folders.size());
+    const Folder* parent = nullptr;
+    do {
+      parent = &folders[random.between(0, number - 1)];
+    } while (parent->depth == kDeepest);
+    Folder next{parent->path + "/" + random.name(number, random.between(8, 12)), parent->depth + 1};
+    if (mkdir(next.path.c_str(), 0755) != 0) return report(next.path);
+    folders.push_back(std::move(next));
+  }
+  return true;
+}
+
+}  // namespace
+
+bool make_tree(const TreePlan& plan) {
+  const std::string mark = plan.folder + "/made";
+  const std::string made = std::to_string(plan.files) + " " + std::to_string(plan.seed);
+  std::string found;
+  if (std::getline(std::ifstream(mark), found) && found == made) return true;
+  if (mkdir(plan.folder.c_str(), 0755) != 0) return report(plan.folder);
+  if (!make_contents(plan)) return false;
+  std::ofstream(mark) << made << "\n";
+  return true;
+}
+
+}  // namespace quillvane::bench

@@ -1,0 +1,23 @@
+// A folder tree to measure walks on, the same for the same seed.
+//
+// About ten files a folder, folders to a depth of 12, file names of 8 to 60 characters, sizes
+// that take no room on the disk. All paths stay below the 260 characters of Windows.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace quillvane::bench {
+
+struct TreePlan {
+  std::string folder;  // host path; made when missing
+  std::uint32_t files = 0;
+  std::uint32_t seed = 1;
+};
+
+// Makes the tree unless it is there already, complete. Anything half made or of another size is
+// refused: file systems create slowly after a big deletion, so trees are not replaced here.
+// False, with a line on standard error, when the tree cannot be had.
+[[nodiscard]] bool make_tree(const TreePlan& plan);
+
+}  // namespace quillvane::bench

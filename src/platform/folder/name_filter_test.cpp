@@ -1,0 +1,90 @@
+#include "platform/folder/name_filter.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/folder/descriptor.h"
+#include "tests/support/temp_folder.h"
+
+namespace quillvane {
+
+namespace {
+
+using Names = std::vector<std::string>;
+using Folders = NameFilter::Folders;
+using Matches = std::vector<std::pair<std::string, std::uint32_t>>;
+
+class NameFilterTest : public ::testing::Test {
+ protected:
+  // The names that the filter leaves, with the patterns that they match.
+  Matches matches(const Names& patterns, std::uint32_t usable, Folders folders) {
+    const Descriptor folder(open(host.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    DirectoryListing listing;
+    EXPECT_TRUE(listing.read(folder.number()));
+    NameFilter(patterns, folders).apply(listing, usable);
+    Matches left;
+    for (const auto& entry : listing.entries()) {
+      left.emplace_back(listing.name(entry), entry.matches & usable);
+    }
+    return left;
+  }
+  Names left_by(const std::string& pattern, Folders folders = Folders::kMatched) {
+    Names names;
+    for (const auto& [name, bits] : matches({pattern}, 1, folders)) names.push_back(name);
+    return names;
+  }
+
+  TempFolder host;
+};
+
+}  // namespace
+
+TEST_F(NameFilterTest, LeavesWhatMatchesInOrder) {
+  for (const char* name : {"b.tmp", "A.TMP", "c.log"}) host.write(name);
+  EXPECT_EQ(left_by("*.tmp"), (Names{"A.TMP", "b.tmp"}));
+  EXPECT_EQ(left_by("*.*"), (Names{"A.TMP", "b.tmp", "c.log"}));
+  EXPECT_EQ(left_by("?.l*"), Names{"c.log"});
+  EXPECT_EQ(left_by(""), Names{});
+}
+
+TEST_F(NameFilterTest, MatchesTheEndOfShortNamesToo) {
+  for (const char* name : {"a.tmpx", "b.tmpfile", "c.tm", "d.t mp"}) host.write(name);
+  EXPECT_EQ(left_by("*.tmp"), (Names{"a.tmpx", "b.tmpfile", "d.t mp"}));
+}
+
+TEST_F(NameFilterTest, MatchesTheNumbersOfShortNames) {
+  for (const char* name : {"letter to b.txt", "letter to a.txt", "LETTER~1.TXT", "letter.txt"}) {
+    host.write(name);
+  }
+  // One name has the number 1 already; the others get 2 and 3 in their order.
+  EXPECT_EQ(left_by("letter~1.*"), Names{"LETTER~1.TXT"});
+  EXPECT_EQ(left_by("letter~2.*"), Names{"letter to a.txt"});
+  EXPECT_EQ(left_by("LETTER~3.TXT"), Names{"letter to b.txt"});
+  EXPECT_EQ(left_by("letter~?.txt"), (Names{"letter to a.txt", "letter to b.txt", "LETTER~1.TXT"}));
+}
+
+TEST_F(NameFilterTest, TakesFoldersOfAnyNameWhenAsked) {
+  host.make_folder("cache");
+  host.make_folder("cache.tmp");
+  host.write("a.tmp");
+  EXPECT_EQ(left_by("*.tmp", Folders::kAll), (Names{"a.tmp", "cache", "cache.tmp"}));
+  EXPECT_EQ(left_by("*.tmp", Folders::kMatched), (Names{"a.tmp", "cache.tmp"}));
+}
+
+TEST_F(NameFilterTest, TellsWhichPatternsMatch) {
+  for (const char* name : {"a.tmp", "b.log", "c.txt", "data.logx"}) host.write(name);
+  EXPECT_EQ(matches({"*.tmp", "*.log", "?.*"}, 7, Folders::kMatched),
+            (Matches{{"a.tmp", 1 | 4}, {"b.log", 2 | 4}, {"c.txt", 4}, {"data.logx", 2}}));
+}
+
+TEST_F(NameFilterTest, CountsOnlyThePatternsThatCanBeUsed) {
+  for (const char* name : {"a.tmp", "b.log"}) host.write(name);
+  EXPECT_EQ(matches({"*.tmp", "*.log"}, 2, Folders::kMatched), (Matches{{"b.log", 2}}));
+  EXPECT_EQ(matches({"*.*"}, 0, Folders::kMatched), Matches{});
+}
+
+}  // namespace quillvane

@@ -42,6 +42,10 @@ class OneIniFile final : public FileSystem {
     return content;
   }
   [[nodiscard]] bool write_file(const std::string&, std::string_view) override { return false; }
+  [[nodiscard]] bool can_open(const std::string&) const override { return false; }
+  [[nodiscard]] bool rename_file(const std::string&, const std::string&) override { return false; }
+  [[nodiscard]] bool copy_file(const std::string&, const std::string&) override { return false; }
+  [[nodiscard]] bool make_folder(const std::string&) override { return false; }
   [[nodiscard]] RemoveResult remove_file(const std::string&) override {
     return RemoveResult::kDenied;
   }

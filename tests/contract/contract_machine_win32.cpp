@@ -14,6 +14,7 @@
 #include "platform/win32/win32_machine.h"
 #include "tests/contract/contract_machine.h"
 #include "tests/windows/folder_link.h"
+#include "tests/windows/wine.h"
 
 namespace quillvane {
 
@@ -44,10 +45,6 @@ void remove_folder(const std::wstring& folder) {
   }
   SetFileAttributesW(folder.c_str(), FILE_ATTRIBUTE_NORMAL);
   EXPECT_TRUE(RemoveDirectoryW(folder.c_str())) << narrow(folder);
-}
-
-bool is_wine() {
-  return GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "wine_get_version") != nullptr;
 }
 
 class Win32ContractMachine final : public ContractMachine {

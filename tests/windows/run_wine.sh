@@ -5,7 +5,8 @@
 #
 # PREFIX is the folder that holds the Windows the programs run on; it is made at the first use. That
 # Windows stands by itself: its user's folders are its own, not links to those of whoever runs the
-# tests, and its settings are those of the United States. It needs no screen.
+# tests, nor is its recycle bin theirs, and its settings are those of the United States. It needs no
+# screen.
 set -euo pipefail
 
 prefix=$1
@@ -25,9 +26,19 @@ fi
 
 export WINEPREFIX=$prefix WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree,mshtml=
 export LC_ALL=C.UTF-8
+export XDG_DATA_HOME=$prefix/host_data # where the recycle bin lies
 unset DISPLAY
 
+# The new Windows begins with the choice of a driver that draws nothing, with which windows can be
+# made all the same: Wine reads it once, when the desktop begins. The rest of the registry Wine adds.
 make_prefix() {
+  cat >"$prefix/user.reg" <<'EOF'
+WINE REGISTRY Version 2
+#arch=win64
+
+[Software\\Wine\\Drivers]
+"Graphics"="null"
+EOF
   "$loader" wineboot.exe -i >"$prefix/boot.log" 2>&1 </dev/null
   find "$prefix/drive_c/users" -type l | while read -r link; do
     rm "$link"

@@ -37,9 +37,9 @@ std::optional<std::wstring> exact_path(const std::string& path) {
   return wide;
 }
 
-bool is_folder(const std::wstring& path) {
+bool has_attribute(const std::wstring& path, DWORD attribute) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
-  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
 }
 
 // What a refused deletion means. A program that runs can be opened for deletion, but not deleted;
@@ -134,14 +134,15 @@ bool Win32FileSystem::can_open(const std::string& path) const {
 bool Win32FileSystem::rename_file(const std::string& from, const std::string& to) {
   const auto wide_from = exact_path(from);
   const auto wide_to = exact_path(to);
-  return wide_from && wide_to && !is_folder(*wide_from) &&
+  return wide_from && wide_to && !has_attribute(*wide_from, FILE_ATTRIBUTE_DIRECTORY) &&
          MoveFileExW(wide_from->c_str(), wide_to->c_str(), /*dwFlags=*/0) != 0;
 }
 
 bool Win32FileSystem::copy_file(const std::string& from, const std::string& to) {
   const auto wide_from = exact_path(from);
   const auto wide_to = exact_path(to);
-  return wide_from && wide_to &&
+  // Not every disk keeps a copy from a read-only file by itself.
+  return wide_from && wide_to && !has_attribute(*wide_to, FILE_ATTRIBUTE_READONLY) &&
          CopyFileW(wide_from->c_str(), wide_to->c_str(), /*bFailIfExists=*/FALSE) != 0;
 }
 

@@ -27,11 +27,11 @@ namespace quillvane::bench {
 namespace {
 
 constexpr const char* kMachineJson = R"({
-  "drives": [{"letter": "C", "folder": "../tree"}],
-  "environment": {"TEMP": "C:\\"}
+  "drives": [{"letter": "C", "folder": ".."}],
+  "environment": {"TEMP": "C:\\tree"}
 })";
 
-// The machine on which the tree is drive C:, made beside it.
+// A machine beside the tree; their folder is its drive C:.
 bool make_machine(const std::string& folder) {
   std::error_code failed;
   std::filesystem::create_directories(folder, failed);
@@ -41,7 +41,7 @@ bool make_machine(const std::string& folder) {
   return std::fclose(file) == 0;
 }
 
-// Paths of about 70 letters, below folders that are not in the tree and some that are.
+// Paths of about 70 letters, none of them in the tree.
 std::string path_number(std::size_t number) {
   return "c:\\users\\somebody\\appdata\\local\\program " + std::to_string(number % 997) +
          "\\cache folder\\" + std::to_string(number) + " file.tmp";

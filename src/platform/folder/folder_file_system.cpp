@@ -1,5 +1,6 @@
 #include "platform/folder/folder_file_system.h"
 
+#include <fcntl.h>
 #include <stdio.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -178,8 +179,18 @@ bool FolderFileSystem::rename_file(const std::string& from, const std::string& t
 }
 
 bool FolderFileSystem::copy_file(const std::string& from, const std::string& to) {
-  const auto content = read_file(from);
-  return content && write_file(to, *content);
+  const auto original = paths_.find(from);
+  const auto content = original ? read_drive_file(*original) : std::nullopt;
+  if (!content || !write_file(to, *content)) return false;
+  // The copy is there; a time or attribute that it cannot take is left out.
+  if (const auto copy = find_named(paths_, to)) {
+    const auto& written = original->status.stx_mtime;
+    const timespec times[] = {{0, UTIME_OMIT}, {written.tv_sec, written.tv_nsec}};
+    static_cast<void>(utimensat(copy->entry.folder.object.number(), copy->entry.name.c_str(), times,
+                                AT_SYMLINK_NOFOLLOW));
+    static_cast<void>(write_file_attributes(copy->file.place(), read_file_attributes(*original)));
+  }
+  return true;
 }
 
 bool FolderFileSystem::make_folder(const std::string& path) {

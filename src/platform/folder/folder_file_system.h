@@ -51,6 +51,7 @@ class FolderFileSystem final : public FileSystem {
 
   // A link itself gets the new name. On the same drive only, and not for a file in use.
   [[nodiscard]] bool rename_file(const std::string& from, const std::string& to) override;
+  // The copy has the attributes and the time of the last writing too.
   [[nodiscard]] bool copy_file(const std::string& from, const std::string& to) override;
   [[nodiscard]] bool make_folder(const std::string& path) override;
 

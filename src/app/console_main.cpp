@@ -14,6 +14,7 @@ int main(int argc, char** argv) {
   quillvane::ConsoleIo io{std::cin,
                           std::cout,
                           std::cerr,
+                          quillvane::input_is_terminal(),
                           quillvane::output_takes_bold(),
                           quillvane::error_is_terminal(),
                           quillvane::error_columns()};

@@ -17,6 +17,8 @@ constexpr int kUsualColumns = 80;
 
 void prepare_streams() { std::signal(SIGPIPE, SIG_IGN); }
 
+bool input_is_terminal() { return isatty(STDIN_FILENO) == 1; }
+
 bool output_takes_bold() {
   const char* kind = std::getenv("TERM");
   return isatty(STDOUT_FILENO) == 1 && kind != nullptr && std::string_view(kind) != "dumb";

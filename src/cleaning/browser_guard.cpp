@@ -6,6 +6,7 @@
 #include "categories/catalogue.h"
 #include "categories/routines.h"
 #include "cleaning/browser_processes.h"
+#include "cleaning/questions.h"
 #include "core/form7.h"
 
 namespace quillvane {
@@ -42,7 +43,7 @@ bool Form7::may_scan_browser(std::string_view process, std::string_view spoken_n
   Processes& processes = platform().processes;
   if (pid(processes, process) == 0 || silentmode != 0) return true;
   const Answer answer =
-      platform().dialogs.message_box(question(spoken_name), "confirmation", kQuestionStyle);
+      platform().dialogs.message_box(question(spoken_name), kCloseBrowserTitle, kQuestionStyle);
   if (answer != Answer::kYes) return false;
   TerminateByName(processes, process);
   KillProcessByName(processes, process);

@@ -5,6 +5,7 @@
 #include "categories/url_cache_rows.h"
 #include "cleaning/deletion.h"
 #include "cleaning/permission.h"
+#include "cleaning/questions.h"
 #include "cleaning/statistics.h"
 #include "cleaning/thumbnail_policy.h"
 #include "core/form7.h"
@@ -15,7 +16,6 @@ namespace quillvane {
 namespace {
 
 constexpr const char* kQuestion = "Are You sure you want to delete the selected file(s)";
-constexpr const char* kQuestionTitle = "Please Confirm";
 constexpr const char* kQueuedMessage =
     "Some files cannot be deleted now, They will be deleted next time when you restart your PC.";
 
@@ -28,7 +28,7 @@ bool lies_in_recycle_bin(std::string_view path) {
 
 bool Form7::confirm_cleaning() {
   if (cleanmode == 1) return true;
-  return platform().dialogs.message_box(kQuestion, kQuestionTitle,
+  return platform().dialogs.message_box(kQuestion, kRemoveFilesTitle,
                                         kBoxYesNo | kBoxIconInformation) == Answer::kYes;
 }
 

@@ -47,6 +47,7 @@ class Program {
 
   // The window of that name, without regard to case; null when the program has none of it.
   [[nodiscard]] Window* find_window(std::string_view name) const;
+  [[nodiscard]] bool started() const { return form7_ != nullptr; }
   // The main window. Requires: start has begun.
   [[nodiscard]] Form7& main_window() const { return *form7_; }
 

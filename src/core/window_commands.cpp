@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/form7.h"
+#include "support/shell_helpers.h"
 #include "support/val.h"
 
 namespace quillvane {
@@ -28,7 +29,7 @@ void Form7::locate_row() {
 
 void Form7::show_row_properties() {
   const int row = row_in_hand();
-  if (row != 0) platform().shell.show_properties(view5.text(row));
+  if (row != 0) ShowFileProperties(platform().shell, view5.text(row));
 }
 
 void Form7::start_eraser() {

@@ -25,6 +25,11 @@ class Dialogs {
   // kYes or kNo; otherwise a message, answered kOk.
   virtual Answer message_box(const std::string& text, const std::string& title,
                              std::uint32_t style) = 0;
+
+  // Lets the user choose a folder; empty when cancelled. `flags` are those of SHBrowseForFolder,
+  // `root` the folder below which to choose, empty for all.
+  virtual std::string browse_folder(const std::string& title, std::uint32_t flags,
+                                    const std::string& root) = 0;
 };
 
 }  // namespace quillvane

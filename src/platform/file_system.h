@@ -61,12 +61,9 @@ class FileSystem {
       const std::string& folder, const std::string& pattern) const = 0;
 
   // The same for several patterns in one reading: every file that matches one of them is there, and
-  // ListedFolder::matches tells which. At most FolderTree::kMostPatterns patterns. Null also when a
-  // machine can only read for one pattern at a time.
+  // ListedFolder::matches tells which. At most FolderTree::kMostPatterns patterns.
   [[nodiscard]] virtual std::shared_ptr<const FolderTree> read_tree_for(
-      const std::string& folder, const std::vector<std::string>& patterns) const {
-    return patterns.size() == 1 ? read_tree(folder, patterns.front()) : nullptr;
-  }
+      const std::string& folder, const std::vector<std::string>& patterns) const = 0;
 
   // The entries of one folder that match, "." and ".." left out. Empty when it cannot be listed.
   // `folder` may end in a backslash or not.

@@ -37,6 +37,41 @@ struct Platform {
   Tray& tray;
   MessageLoop& loop;
   Dialogs& dialogs;
+
+  // The same machine with one part replaced: how a layer gets between the behaviour and the
+  // machine.
+  [[nodiscard]] Platform with_files(FileSystem& other) const {
+    return {.files = other,
+            .drives = drives,
+            .registry = registry,
+            .environment = environment,
+            .system = system,
+            .event_log = event_log,
+            .processes = processes,
+            .url_cache = url_cache,
+            .security = security,
+            .shell = shell,
+            .suite = suite,
+            .tray = tray,
+            .loop = loop,
+            .dialogs = dialogs};
+  }
+  [[nodiscard]] Platform with_dialogs(Dialogs& other) const {
+    return {.files = files,
+            .drives = drives,
+            .registry = registry,
+            .environment = environment,
+            .system = system,
+            .event_log = event_log,
+            .processes = processes,
+            .url_cache = url_cache,
+            .security = security,
+            .shell = shell,
+            .suite = suite,
+            .tray = tray,
+            .loop = loop,
+            .dialogs = other};
+  }
 };
 
 }  // namespace quillvane

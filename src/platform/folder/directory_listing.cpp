@@ -79,12 +79,12 @@ std::optional<DirectoryListing::Kind> kind_of(int folder, const dirent64& entry)
 
 }  // namespace
 
-DirectoryListing::DirectoryListing() { resize_buffer(kBufferBytes); }
+DirectoryListing::DirectoryListing() { resize_buffer(kBufferBytes, 0); }
 
-void DirectoryListing::resize_buffer(std::size_t bytes) {
-  auto larger = std::make_unique_for_overwrite<char[]>(bytes + kKeyBytes);
-  if (buffer_) std::memcpy(larger.get(), buffer_.get(), std::min(bytes, buffer_bytes_));
-  buffer_ = std::move(larger);
+void DirectoryListing::resize_buffer(std::size_t bytes, std::size_t bytes_kept) {
+  auto resized = std::make_unique_for_overwrite<char[]>(bytes + kKeyBytes);
+  std::copy_n(buffer_.get(), bytes_kept, resized.get());
+  buffer_ = std::move(resized);
   buffer_bytes_ = bytes;
 }
 
@@ -92,11 +92,11 @@ bool DirectoryListing::read(int folder) {
   entries_.clear();
   has_links_ = false;
   if (buffer_bytes_ > kBufferBytes) {
-    resize_buffer(kBufferBytes);
+    resize_buffer(kBufferBytes, 0);
     entries_.shrink_to_fit();
   }
   for (std::size_t used = 0;;) {
-    if (buffer_bytes_ - used < kLeastFree) resize_buffer(2 * buffer_bytes_);
+    if (buffer_bytes_ - used < kLeastFree) resize_buffer(2 * buffer_bytes_, used);
     const long got = syscall(SYS_getdents64, folder, buffer_.get() + used, buffer_bytes_ - used);
     if (got == 0) return true;
     if (got < 0 && errno == EINTR) continue;

@@ -56,7 +56,7 @@ class DirectoryListing {
   }
 
  private:
-  void resize_buffer(std::size_t bytes);
+  void resize_buffer(std::size_t bytes, std::size_t bytes_kept);
   void add_entries(int folder, std::size_t begin, std::size_t end);
 
   std::unique_ptr<char[]> buffer_;  // what getdents64 wrote

@@ -84,6 +84,10 @@ class FileBeside {
 
 }  // namespace
 
+bool can_read_drive_file(const HostPlace& place) {
+  return is_file(place.status) && open_for_reading(place).is_open();
+}
+
 std::optional<std::string> read_drive_file(const HostPlace& place) {
   if (!is_file(place.status) || place.status.stx_size > kMostRead) return std::nullopt;
   const Descriptor file = open_for_reading(place);

@@ -1,5 +1,7 @@
 #include "platform/folder/folder_file_system.h"
 
+#include <stdio.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -10,6 +12,7 @@
 
 #include "platform/folder/drive_file.h"
 #include "platform/folder/file_attributes.h"
+#include "platform/folder/folder_contents.h"
 #include "platform/folder/folder_listing.h"
 #include "platform/folder/folder_walk.h"
 #include "platform/folder/named_file.h"
@@ -58,15 +61,23 @@ std::optional<FoundFile> find_named(const MachinePaths& paths, const std::string
   return FoundFile{std::move(drive), std::move(*entry), std::move(*file)};
 }
 
-bool write_new_file(const MachinePaths& paths, const std::string& path, std::string_view content) {
+// A name that is free, in a folder that is there. Nothing when something bears it, be it what
+// Windows does not know or a link that leads nowhere.
+std::optional<HostEntry> free_name(const MachinePaths& paths, const std::string& path) {
   const auto parsed = paths.parse(path);
-  if (!parsed || parsed->names.empty() || !can_be_created(parsed->names.back())) return false;
+  if (!parsed || parsed->names.empty() || !can_be_created(parsed->names.back())) {
+    return std::nullopt;
+  }
   const DriveFolder drive = paths.drive(parsed->drive);
-  // What Windows does not know or a link that leads nowhere may bear the name: it stays.
-  if (drive.find_entry(parsed->names)) return false;
+  if (drive.find_entry(parsed->names)) return std::nullopt;
   auto folder = drive.find(std::span(parsed->names).first(parsed->names.size() - 1));
-  if (!folder || !is_folder(folder->status)) return false;
-  return replace_drive_file({std::move(*folder), parsed->names.back()}, nullptr, content);
+  if (!folder || !is_folder(folder->status)) return std::nullopt;
+  return HostEntry{std::move(*folder), parsed->names.back()};
+}
+
+bool write_new_file(const MachinePaths& paths, const std::string& path, std::string_view content) {
+  const auto entry = free_name(paths, path);
+  return entry && replace_drive_file(*entry, nullptr, content);
 }
 
 }  // namespace
@@ -148,6 +159,37 @@ bool FolderFileSystem::write_file(const std::string& path, std::string_view cont
   if (!found->file.is_link()) return replace_drive_file(found->entry, &old, content);
   const auto entry = found->drive.entry_of(old);
   return entry && replace_drive_file(*entry, &old, content);
+}
+
+bool FolderFileSystem::can_open(const std::string& path) const {
+  const auto place = paths_.find(path);
+  return place && can_read_drive_file(*place);
+}
+
+bool FolderFileSystem::rename_file(const std::string& from, const std::string& to) {
+  const auto found = find_named(paths_, from);
+  if (!found || !is_file(found->file.place().status)) return false;
+  if (paths_.is_in_use(HostIdentity::of(found->file.place().status))) return false;
+  const auto entry = free_name(paths_, to);
+  if (!entry) return false;
+  // A name that was taken meanwhile stays with its owner.
+  return renameat2(found->entry.folder.object.number(), found->entry.name.c_str(),
+                   entry->folder.object.number(), entry->name.c_str(), RENAME_NOREPLACE) == 0;
+}
+
+bool FolderFileSystem::copy_file(const std::string& from, const std::string& to) {
+  const auto content = read_file(from);
+  return content && write_file(to, *content);
+}
+
+bool FolderFileSystem::make_folder(const std::string& path) {
+  const auto entry = free_name(paths_, path);
+  return entry && mkdirat(entry->folder.object.number(), entry->name.c_str(), 0777) == 0;
+}
+
+void FolderFileSystem::remove_contents(const std::string& folder) {
+  const auto place = paths_.find(folder);
+  if (place && is_folder(place->status)) remove_folder_contents(*place);
 }
 
 RemoveResult FolderFileSystem::remove_file(const std::string& path) {

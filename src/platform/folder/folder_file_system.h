@@ -47,9 +47,20 @@ class FolderFileSystem final : public FileSystem {
   // A link stays; the file that it leads to is written.
   [[nodiscard]] bool write_file(const std::string& path, std::string_view content) override;
 
+  [[nodiscard]] bool can_open(const std::string& path) const override;
+
+  // A link itself gets the new name. On the same drive only, and not for a file in use.
+  [[nodiscard]] bool rename_file(const std::string& from, const std::string& to) override;
+  [[nodiscard]] bool copy_file(const std::string& from, const std::string& to) override;
+  [[nodiscard]] bool make_folder(const std::string& path) override;
+
   // A link to a file is removed itself; where it leads nothing changes. A link to a folder is
   // denied, as a folder is.
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override;
+
+  // Removes all that lies in a folder, but not the folder; links go themselves, and what cannot be
+  // removed stays. For the emptying of the recycle bin.
+  void remove_contents(const std::string& folder);
 
  private:
   MachinePaths paths_;

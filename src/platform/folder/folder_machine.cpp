@@ -12,6 +12,7 @@
 #include "platform/folder/machine_environment.h"
 #include "platform/folder/machine_event_log.h"
 #include "platform/folder/machine_json.h"
+#include "platform/folder/machine_outward.h"
 #include "platform/folder/machine_processes.h"
 #include "platform/folder/machine_system.h"
 #include "platform/folder/machine_url_cache.h"
@@ -19,14 +20,29 @@
 
 namespace quillvane {
 
+namespace {
+
+void empty_recycle_bins(const MachineState& state, FolderFileSystem& files) {
+  for (const MachineDrive& drive : state.drives) {
+    files.remove_contents(std::string(1, drive.letter) + ":\\$Recycle.Bin");
+  }
+}
+
+}  // namespace
+
 struct FolderMachine::Parts {
-  Parts(MachineState& state, EffectLog& effects, const std::function<void()>& save)
+  Parts(MachineState& state, EffectLog& effects, FolderFileSystem& files,
+        const std::function<void()>& save)
       : drives(state),
         environment(state),
         system(state),
         event_log(effects),
         processes(state, effects, save),
-        url_cache(state, save) {}
+        url_cache(state, save),
+        security(effects),
+        shell(state, effects, files, [&state, &files] { empty_recycle_bins(state, files); }),
+        suite(state, effects),
+        tray(effects) {}
 
   MachineDrives drives;
   MachineEnvironment environment;
@@ -34,6 +50,10 @@ struct FolderMachine::Parts {
   MachineEventLog event_log;
   MachineProcesses processes;
   MachineUrlCache url_cache;
+  MachineSecurity security;
+  MachineShell shell;
+  MachineSuiteChannel suite;
+  MachineTray tray;
 };
 
 std::variant<std::unique_ptr<FolderMachine>, std::string> FolderMachine::open(
@@ -58,7 +78,7 @@ FolderMachine::FolderMachine(std::string dir, MachineState state)
       state_(std::move(state)),
       loop_(machine_clock(std::chrono::system_clock::now(), state_.utc_offset_minutes)),
       files_(std::make_unique<FolderFileSystem>(state_)),
-      parts_(std::make_unique<Parts>(state_, effects_, [this] { save(); })) {}
+      parts_(std::make_unique<Parts>(state_, effects_, *files_, [this] { save(); })) {}
 
 FolderMachine::~FolderMachine() = default;
 
@@ -71,6 +91,10 @@ Platform FolderMachine::platform(Dialogs& dialogs) {
           .event_log = parts_->event_log,
           .processes = parts_->processes,
           .url_cache = parts_->url_cache,
+          .security = parts_->security,
+          .shell = parts_->shell,
+          .suite = parts_->suite,
+          .tray = parts_->tray,
           .loop = loop_,
           .dialogs = dialogs};
 }

@@ -30,8 +30,9 @@ MachineUrlCache::MachineUrlCache(MachineState& state, std::function<void()> save
     : state_(state), save_(std::move(save)) {}
 
 std::optional<UrlCacheEntry> MachineUrlCache::find_first() {
+  find_close();
   listing_ = state_.url_cache;
-  next_ = 0;
+  open_ = true;
   return find_next();
 }
 
@@ -44,6 +45,9 @@ std::optional<UrlCacheEntry> MachineUrlCache::find_next() {
 void MachineUrlCache::find_close() {
   listing_.clear();
   next_ = 0;
+  open_ = false;
+  if (unsaved_) save_();
+  unsaved_ = false;
 }
 
 bool MachineUrlCache::remove(const std::string& source_url) {
@@ -51,7 +55,8 @@ bool MachineUrlCache::remove(const std::string& source_url) {
                                   [&](const MachineCacheEntry& e) { return e.url == source_url; });
   if (entry == state_.url_cache.end()) return false;
   state_.url_cache.erase(entry);
-  save_();
+  unsaved_ = true;
+  if (!open_) find_close();
   return true;
 }
 

@@ -12,7 +12,8 @@ namespace quillvane {
 
 class MachineUrlCache final : public UrlCache {
  public:
-  // A removed entry leaves `state` and, through `save`, machine.json; its file stays.
+  // A removed entry leaves `state` and, through `save`, machine.json: when the listing in which it
+  // was removed is closed, otherwise at once. Its file stays.
   MachineUrlCache(MachineState& state, std::function<void()> save);
 
   [[nodiscard]] std::optional<UrlCacheEntry> find_first() override;
@@ -23,6 +24,8 @@ class MachineUrlCache final : public UrlCache {
  private:
   MachineState& state_;
   std::function<void()> save_;
+  bool unsaved_ = false;                    // entries were removed since the last saving
+  bool open_ = false;                       // a listing is
   std::vector<MachineCacheEntry> listing_;  // as it stood when it was begun
   std::size_t next_ = 0;
 };

@@ -102,7 +102,9 @@ bool append_key(const Registry& registry, Hive hive, const std::string& key, std
     out += kLineEnd;
   }
   for (const std::string& name : *sub_keys) {
-    if (!append_key(registry, hive, key.empty() ? name : key + "\\" + name, out)) return false;
+    std::string below = key.empty() ? key : key + "\\";
+    below += name;
+    if (!append_key(registry, hive, below, out)) return false;
   }
   return true;
 }

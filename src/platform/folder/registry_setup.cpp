@@ -1,7 +1,10 @@
 #include "platform/folder/registry_setup.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "platform/multi_string.h"
 
@@ -12,9 +15,12 @@ namespace {
 std::string setup_data(const RegistrySetup& row) {
   if (row.type == RegistryType::kMultiSz) return multi_string_data({row.text});
   if (row.type != RegistryType::kDword) return std::string(row.text) + '\0';
+  const std::string_view digits = row.text;
+  std::uint32_t number = 0;
+  std::from_chars(digits.data(), digits.data() + digits.size(), number);
   std::string bytes;
   for (unsigned shift = 0; shift < 32; shift += 8) {
-    bytes.push_back(static_cast<char>(row.number >> shift & 0xFFU));
+    bytes.push_back(static_cast<char>(number >> shift & 0xFFU));
   }
   return bytes;
 }

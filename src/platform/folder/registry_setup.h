@@ -1,7 +1,6 @@
 // Tables of registry values that new machines begin with.
 #pragma once
 
-#include <cstdint>
 #include <span>
 
 #include "platform/folder/registry_store.h"
@@ -11,11 +10,10 @@ namespace quillvane {
 
 struct RegistrySetup {
   Hive hive;
+  RegistryType type;  // kSz, kExpandSz, kMultiSz or kDword
   const char* key;
-  const char* name = nullptr;  // none just makes the key
-  RegistryType type = RegistryType::kSz;
-  const char* text = "";     // of texts; a multi-string has this one string
-  std::uint32_t number = 0;  // of dwords
+  const char* name = nullptr;  // none just makes the key, whatever the type
+  const char* text = "";       // a multi-string has this one string; numbers are decimal
 };
 
 // Writes all rows, or none. False when they cannot be written.

@@ -28,11 +28,11 @@ class RegistrySetupTest : public testing::Test {
 
 TEST_F(RegistrySetupTest, EachRowIsAKeyOrAValue) {
   constexpr RegistrySetup kRows[] = {
-      {Hive::kUsers, "Bare"},
-      {Hive::kCurrentUser, "A\\B", "", RegistryType::kSz, "text"},
-      {Hive::kCurrentUser, "A", "expand", RegistryType::kExpandSz, "%X%"},
-      {Hive::kCurrentUser, "A", "list", RegistryType::kMultiSz, "one"},
-      {Hive::kCurrentUser, "A", "number", RegistryType::kDword, "", 0x01020304},
+      {Hive::kUsers, RegistryType::kNone, "Bare"},
+      {Hive::kCurrentUser, RegistryType::kSz, "A\\B", "", "text"},
+      {Hive::kCurrentUser, RegistryType::kExpandSz, "A", "expand", "%X%"},
+      {Hive::kCurrentUser, RegistryType::kMultiSz, "A", "list", "one"},
+      {Hive::kCurrentUser, RegistryType::kDword, "A", "number", "16909060"},
   };
   ASSERT_TRUE(set_up_registry(*registry_, kRows));
   EXPECT_TRUE(registry_->values(Hive::kUsers, "Bare").has_value());
@@ -47,7 +47,8 @@ TEST_F(RegistrySetupTest, EachRowIsAKeyOrAValue) {
 }
 
 TEST_F(RegistrySetupTest, ARowThatFailsLeavesNone) {
-  constexpr RegistrySetup kRows[] = {{Hive::kUsers, "Good"}, {Hive::kUsers, "B\\\\ad"}};
+  constexpr RegistrySetup kRows[] = {{Hive::kUsers, RegistryType::kNone, "Good"},
+                                     {Hive::kUsers, RegistryType::kNone, "B\\\\ad"}};
   EXPECT_FALSE(set_up_registry(*registry_, kRows));
   EXPECT_FALSE(registry_->values(Hive::kUsers, "Good").has_value());
 }

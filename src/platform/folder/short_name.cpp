@@ -75,7 +75,8 @@ std::string ShortNames::make(std::string_view name) {
   std::size_t& number = last_number_[base + extension];
   for (;;) {
     const std::string tail = "~" + std::to_string(++number);
-    std::string made = base.substr(0, kBaseLength - tail.size()) + tail + extension;
+    std::string made = base.substr(0, kBaseLength - tail.size());
+    made.append(tail).append(extension);
     if (taken_.insert(made).second) return made;
   }
 }

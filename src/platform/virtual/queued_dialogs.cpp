@@ -37,4 +37,15 @@ std::string_view answer_name(Answer answer) {
   return "";
 }
 
+std::string QueuedDialogs::browse_folder(const std::string& title, std::uint32_t flags,
+                                         const std::string& /*root*/) {
+  std::string path;
+  if (!paths_.empty()) {
+    path = std::move(paths_.front());
+    paths_.pop_front();
+  }
+  boxes_.push_back({"folder", title, "", flags, path});
+  return path;
+}
+
 }  // namespace quillvane

@@ -16,11 +16,11 @@ namespace quillvane {
 
 // A box that came up. Texts, so that dialogs which are answered by a path or an input fit in.
 struct ShownBox {
-  std::string kind;  // "message" or "question"
+  std::string kind;  // "message", "question" or "folder"
   std::string text;
   std::string title;
   std::uint32_t style = 0;
-  std::string answer;  // "ok", "cancel", "yes" or "no"
+  std::string answer;  // "ok", "cancel", "yes" or "no"; of a dialog the path chosen
 
   friend bool operator==(const ShownBox&, const ShownBox&) = default;
 };
@@ -36,6 +36,10 @@ class QueuedDialogs final : public Dialogs {
   // With nothing queued a question is answered kNo, a message kOk.
   Answer message_box(const std::string& text, const std::string& title,
                      std::uint32_t style) override;
+
+  // With no path queued it is cancelled.
+  std::string browse_folder(const std::string& title, std::uint32_t flags,
+                            const std::string& root) override;
 
   // Answers to file and folder dialogs and to input boxes; an empty path cancels.
   void answer_path(std::string path) { paths_.push_back(std::move(path)); }

@@ -10,6 +10,8 @@ namespace {
 
 constexpr std::array kCommands = {
     ConsoleCommand{"", "scan", "Search the machine for junk; nothing is removed", prepare_scan},
+    ConsoleCommand{"", "clean", "Search, ask, and remove what was found", prepare_clean},
+    ConsoleCommand{"", "run", "Do what the suite asks for by a run switch", prepare_run},
     ConsoleCommand{"", "script", "Drive the windows by an automation script", prepare_script},
     ConsoleCommand{"machine", "create", "Make a machine folder", prepare_machine_create},
     ConsoleCommand{"machine", "show", "Show what a machine folder holds", prepare_machine_show},
@@ -17,10 +19,8 @@ constexpr std::array kCommands = {
                    prepare_registry_export},
     ConsoleCommand{"registry", "import", "Read .reg text into a machine's registry",
                    prepare_registry_import},
-    ConsoleCommand{"", "clean", "", prepare_unavailable},
     ConsoleCommand{"", "search", "", prepare_unavailable},
     ConsoleCommand{"", "shortcuts", "", prepare_unavailable},
-    ConsoleCommand{"", "run", "", prepare_unavailable},
 };
 
 }  // namespace

@@ -10,6 +10,7 @@ struct ConsoleIo {
   std::istream& in;
   std::ostream& out;            // results
   std::ostream& err;            // problems and progress
+  bool in_is_terminal = false;  // somebody can answer
   bool out_takes_bold = false;  // a terminal that understands the usual escapes
   bool err_is_terminal = false;
   int err_columns = 80;  // width of that terminal

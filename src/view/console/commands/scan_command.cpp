@@ -1,12 +1,11 @@
 // scan: the whole junk scan, by the same button that a user presses. Nothing is removed.
 
-#include <optional>
-
 #include "core/form7.h"
 #include "core/program.h"
 #include "view/console/console_command.h"
-#include "view/console/scan/interrupt.h"
-#include "view/console/scan/progress_line.h"
+#include "view/console/console_dialogs.h"
+#include "view/console/scan/attended_run.h"
+#include "view/console/scan/browser_answer.h"
 #include "view/console/scan/scan_json.h"
 #include "view/console/scan/scan_table.h"
 
@@ -14,33 +13,23 @@ namespace quillvane {
 
 namespace {
 
-// Runs the scan; Ctrl-C presses the cancel button.
-void run_scan(ConsoleIo& io, VirtualLoop& loop, Program& program) {
-  program.start("");
-  Form7& form = program.main_window();
-  Interrupt interrupt;
-  std::optional<ProgressLine> progress;
-  if (io.err_is_terminal) progress.emplace(io.err, io.err_columns);
-  loop.set_served_hook([&] {
-    if (interrupt.take()) form.cmd_cancel.click();
-    if (progress) progress->show(form.Text13.text());
-  });
-  form.cmd_start.click();
-  loop.set_served_hook(nullptr);
-}
-
-int scan(const ConsoleSession& session) {
+int scan(const ConsoleSession& session, const BrowserAnswer& browsers) {
   const std::unique_ptr<ConsoleMachine> machine = session.open_machine();
   if (machine == nullptr) return kNotDone;
 
-  Program program(machine->platform());
-  run_scan(session.io, machine->loop(), program);
+  ConsoleDialogs dialogs(session.io);
+  browsers.apply_to(dialogs);
+  Program program(machine->platform().with_dialogs(dialogs));
+  program.start("");
+  Form7& form = program.main_window();
+  run_attended(session.io, machine->loop(), program, [&] { form.cmd_start.click(); });
+  tell_skipped(session.io.err, form);
 
-  const Form7& form = program.main_window();
   const ScanReport report = read_report(form);
   const ListView* files = session.list ? &form.view1 : nullptr;
   if (session.json) {
-    print_scan_json(session.io.out, report, files);
+    print_scan_json_open(session.io.out, report, files);
+    session.io.out << "}\n";
   } else {
     print_scan_table(session.io.out, report, files, session.io.out_takes_bold);
   }
@@ -49,8 +38,10 @@ int scan(const ConsoleSession& session) {
 
 }  // namespace
 
-std::function<int()> prepare_scan(CLI::App& /*app*/, ConsoleSession& session) {
-  return [&session] { return scan(session); };
+std::function<int()> prepare_scan(CLI::App& app, ConsoleSession& session) {
+  const auto browsers = std::make_shared<BrowserAnswer>();
+  browsers->add_options(app);
+  return [browsers, &session] { return scan(session, *browsers); };
 }
 
 }  // namespace quillvane

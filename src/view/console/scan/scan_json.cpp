@@ -24,7 +24,7 @@ Json file_json(const ListView& files, int row) {
 
 }  // namespace
 
-void print_scan_json(std::ostream& out, const ScanReport& report, const ListView* files) {
+void print_scan_json_open(std::ostream& out, const ScanReport& report, const ListView* files) {
   const Json totals = {{"files", json_number(report.totals.files)},
                        {"bytes", json_number(report.totals.bytes)}};
   out << "{\"totals\": " << json_text(totals) << ",\n \"summary\": " << json_text(report.summary)
@@ -44,7 +44,7 @@ void print_scan_json(std::ostream& out, const ScanReport& report, const ListView
     }
     out << ']';
   }
-  out << "}\n";
+  if (!report.skipped.empty()) out << ",\n \"skipped\": " << json_text(report.skipped);
 }
 
 }  // namespace quillvane

@@ -8,7 +8,8 @@
 
 namespace quillvane {
 
-// With `files` each file too. Written file by file: the list may be long.
-void print_scan_json(std::ostream& out, const ScanReport& report, const ListView* files);
+// With `files` each file too. Written file by file: the list may be long. The document is left
+// open, so that a command can add its own; the caller writes the "}".
+void print_scan_json_open(std::ostream& out, const ScanReport& report, const ListView* files);
 
 }  // namespace quillvane

@@ -1,5 +1,7 @@
 #include "view/console/scan/scan_report.h"
 
+#include "view/console/scan/browser_answer.h"
+
 namespace quillvane {
 
 namespace {
@@ -10,7 +12,10 @@ constexpr std::string_view kResultBegin = " (";
 }  // namespace
 
 ScanReport read_report(const Form7& form) {
-  ScanReport report{{form.totals.totalfiles, form.totals.totalsize}, form.Label11.caption(), {}};
+  ScanReport report{{form.totals.totalfiles, form.totals.totalsize},
+                    form.Label11.caption(),
+                    {},
+                    skipped_captions(form)};
   for (int index = 1; index <= form.Tv1.count(); ++index) {
     const TreeNode& node = form.Tv1.node(index);
     report.categories.push_back({index, node.key, node.parent.empty(), node.text,

@@ -1,0 +1,32 @@
+#include "view/console/console_dialogs.h"
+
+#include "platform/unicode_case.h"
+
+namespace quillvane {
+
+bool ConsoleDialogs::said_yes(const std::string& title) const {
+  const auto given = given_.find(title);
+  return given != given_.end() && given->second == Answer::kYes;
+}
+
+Answer ConsoleDialogs::message_box(const std::string& text, const std::string& title,
+                                   std::uint32_t style) {
+  if ((style & kBoxYesNo) != 0) {
+    const auto known = answers_.find(title);
+    return given_[title] = known == answers_.end() ? ask(text) : known->second;
+  }
+  io_.err << "quillvane: " << text << '\n';
+  return Answer::kOk;
+}
+
+Answer ConsoleDialogs::ask(const std::string& text) {
+  if (!io_.in_is_terminal) return Answer::kNo;
+  io_.out.flush();
+  io_.err << text << " [y/N] " << std::flush;
+  std::string line;
+  std::getline(io_.in, line);
+  const std::string word = lower_case(line);
+  return word == "y" || word == "yes" ? Answer::kYes : Answer::kNo;
+}
+
+}  // namespace quillvane

@@ -53,7 +53,7 @@ void BareWalk::read_folder(int folder, const std::string& path) {
   for (const std::string& name : subfolders) {
     const int next = openat(folder, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
     if (next < 0) continue;
-    read_folder(next, path + "/" + name);
+    read_folder(next, std::string(path).append("/").append(name));
     close(next);
   }
 }

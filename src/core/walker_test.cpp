@@ -78,6 +78,14 @@ TEST(Srch, EntersNoLinkToAFolderItLiesIn) {
   EXPECT_EQ(walked.srch("C:\\T"), (Texts{"C:\\T\\a.tmp"}));
 }
 
+TEST(Srch, ANameThatIsNoTextIsListedAsItIs) {
+  Walked walked({"C:\\T\\bad\xFF\xC3.tmp", "C:\\\xFE\\b.tmp"});
+  EXPECT_EQ(walked.srch("C:\\"), (Texts{"C:\\T\\bad\xFF\xC3.tmp", "C:\\\xFE\\b.tmp"}));
+  walked.form().view1.clear();
+  walked.form().ignorelist.set_text("c:\\\xFE\\|");
+  EXPECT_EQ(walked.srch("C:\\"), (Texts{"C:\\T\\bad\xFF\xC3.tmp"}));
+}
+
 TEST(Srch, AnEmptyOrMissingFolderChangesNothing) {
   Walked walked({});
   walked.machine.add_folder("C:\\Empty");

@@ -4,7 +4,9 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
+#include "tests/support/no_files.h"
 #include "tests/support/scan_fixture.h"
 
 namespace quillvane {
@@ -51,50 +53,32 @@ TEST(TypeTable, WithoutAnyTableTheProgramStartsAllTheSame) {
   EXPECT_EQ(fixture.program_file("tmptype.txt"), std::nullopt);
 }
 
-// A disk that takes no new file.
-class FullDisk final : public FileSystem {
+// A disk that has the factory table and takes no new file.
+class FullDisk final : public NoFiles {
  public:
-  explicit FullDisk(FileSystem& files) : files_(files) {}
+  explicit FullDisk(std::string factory_table) : factory_table_(std::move(factory_table)) {}
 
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(
-      const std::string& folder, const std::string& pattern) const override {
-    return files_.read_tree(folder, pattern);
-  }
-  [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
-                                                     const std::string& pattern) const override {
-    return files_.list_folder(folder, pattern);
-  }
-  [[nodiscard]] std::optional<std::uint32_t> attributes(const std::string& path) const override {
-    return files_.attributes(path);
-  }
-  [[nodiscard]] bool set_attributes(const std::string& path, std::uint32_t bits) override {
-    return files_.set_attributes(path, bits);
-  }
-  [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string& path) const override {
-    return files_.file_size(path);
-  }
   [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override {
-    return files_.read_file(path);
+    if (path != factory_table_) return std::nullopt;
+    return kFactory;
   }
-  [[nodiscard]] bool write_file(const std::string&, std::string_view) override { return false; }
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override {
-    return files_.remove_file(path);
+    removed.push_back(path);
+    return RemoveResult::kRemoved;
   }
+
+  Texts removed;
 
  private:
-  FileSystem& files_;
+  std::string factory_table_;
 };
 
 TEST(TypeTable, TheFactoryTableIsKeptWhenItsCopyCannotBeWritten) {
   ScanFixture fixture;
-  fixture.add_program_file("tmptype.orv", kFactory);
   const Program program(fixture.machine.platform());
-  FullDisk full(program.platform.files);
-
-  put_type_table_in_place(full, program);
-
-  EXPECT_EQ(fixture.program_file("tmptype.orv"), kFactory);
-  EXPECT_EQ(fixture.program_file("tmptype.txt"), std::nullopt);
+  FullDisk disk(program.data_file("tmptype.orv"));
+  put_type_table_in_place(disk, program);
+  EXPECT_EQ(disk.removed, Texts{});
 }
 
 }  // namespace

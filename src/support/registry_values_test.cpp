@@ -8,6 +8,7 @@
 
 #include "platform/unicode_case.h"
 #include "tests/support/memory_registry.h"
+#include "tests/support/no_files.h"
 
 namespace quillvane {
 namespace {
@@ -18,36 +19,16 @@ constexpr Hive kHive = Hive::kLocalMachine;
 const std::string kKey = "SYSTEM\\CurrentControlSet\\Control\\CrashControl";
 
 // A disk with one INI file and one folder.
-class OneIniFile final : public FileSystem {
+class OneIniFile final : public NoFiles {
  public:
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(const std::string&,
-                                                            const std::string&) const override {
-    return nullptr;
-  }
-  [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string&,
-                                                     const std::string&) const override {
-    return {};
-  }
   [[nodiscard]] std::optional<std::uint32_t> attributes(const std::string& path) const override {
     if (same_name(path, "C:\\app.ini")) return kAttributeArchive;
     if (same_name(path, "C:\\folder")) return kAttributeFolder;
     return std::nullopt;
   }
-  [[nodiscard]] bool set_attributes(const std::string&, std::uint32_t) override { return false; }
-  [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string&) const override {
-    return std::nullopt;
-  }
   [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override {
     if (!same_name(path, "C:\\app.ini")) return std::nullopt;
     return content;
-  }
-  [[nodiscard]] bool write_file(const std::string&, std::string_view) override { return false; }
-  [[nodiscard]] bool can_open(const std::string&) const override { return false; }
-  [[nodiscard]] bool rename_file(const std::string&, const std::string&) override { return false; }
-  [[nodiscard]] bool copy_file(const std::string&, const std::string&) override { return false; }
-  [[nodiscard]] bool make_folder(const std::string&) override { return false; }
-  [[nodiscard]] RemoveResult remove_file(const std::string&) override {
-    return RemoveResult::kDenied;
   }
 
   std::string content;

@@ -40,14 +40,14 @@ std::uint64_t order_of_letters(std::string_view name) {
   return key;
 }
 
-// The capitals of the first eight bytes as one number that compares like the names. The buffer
-// goes on for at least that many bytes.
-std::uint64_t order_of(const char* name, std::size_t length) {
+// The capitals of the first eight bytes as one number that compares like the names. The name lies
+// in a buffer that goes on for at least that many bytes.
+std::uint64_t order_of(std::string_view name) {
   std::uint64_t bytes = 0;
-  std::memcpy(&bytes, name, kKeyBytes);
+  std::memcpy(&bytes, name.data(), kKeyBytes);
   if constexpr (std::endian::native == std::endian::little) bytes = __builtin_bswap64(bytes);
-  if (length < kKeyBytes) bytes &= ~(~std::uint64_t{0} >> 8U * length);
-  if ((bytes & repeated(0x80)) != 0) return order_of_letters({name, length});
+  if (name.size() < kKeyBytes) bytes &= ~(~std::uint64_t{0} >> 8U * name.size());
+  if ((bytes & repeated(0x80)) != 0) return order_of_letters(name);
   const std::uint64_t from_a = bytes + repeated(0x80 - 'a');
   const std::uint64_t above_z = bytes + repeated(0x80 - 'z' - 1);
   const std::uint64_t small_letters = from_a & ~above_z & repeated(0x80);
@@ -113,15 +113,13 @@ void DirectoryListing::add_entries(int folder, std::size_t begin, std::size_t en
   while (begin < end) {
     const auto& entry = *reinterpret_cast<const dirent64*>(buffer_.get() + begin);
     begin += entry.d_reclen;
-    const char* name = entry.d_name;
-    if (name[0] == '.' && (name[1] == '\0' || (name[1] == '.' && name[2] == '\0'))) continue;
-    const std::size_t length = std::strlen(name);
-    if (std::memchr(name, '\\', length) != nullptr) continue;
+    const std::string_view name = entry.d_name;
+    if (name == "." || name == ".." || name.find('\\') != std::string_view::npos) continue;
     const auto kind = kind_of(folder, entry);
     if (!kind) continue;
     has_links_ |= *kind == Kind::kLink;
-    entries_.push_back({order_of(name, length), 0, static_cast<std::uint32_t>(name - buffer_.get()),
-                        static_cast<std::uint16_t>(length), *kind});
+    entries_.push_back({order_of(name), 0, static_cast<std::uint32_t>(name.data() - buffer_.get()),
+                        static_cast<std::uint16_t>(name.size()), *kind});
   }
 }
 

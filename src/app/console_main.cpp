@@ -14,10 +14,10 @@ int main(int argc, char** argv) {
   quillvane::ConsoleIo io{std::cin,
                           std::cout,
                           std::cerr,
-                          quillvane::input_is_terminal(),
                           quillvane::output_takes_bold(),
                           quillvane::error_is_terminal(),
-                          quillvane::error_columns()};
+                          quillvane::error_columns(),
+                          quillvane::input_is_terminal()};
   const auto host = quillvane::make_machine_host();
   return quillvane::run_console(std::vector<std::string>(argv + 1, argv + argc), io, *host);
 }

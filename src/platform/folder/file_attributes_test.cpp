@@ -72,8 +72,9 @@ TEST_F(FileAttributes, AreThoseStored) {
 }
 
 TEST_F(FileAttributes, GoBeforeTheRightToWrite) {
-  add_file(0444);
+  add_file();
   set_stored_attributes("drive_c/a.txt", "0x22");
+  ASSERT_EQ(chmod(host.path_of("drive_c/a.txt").c_str(), 0444), 0);
   EXPECT_EQ(attributes(), 0x22U);
 }
 

@@ -10,10 +10,10 @@ struct ConsoleIo {
   std::istream& in;
   std::ostream& out;            // results
   std::ostream& err;            // problems and progress
-  bool in_is_terminal = false;  // somebody can answer
   bool out_takes_bold = false;  // a terminal that understands the usual escapes
   bool err_is_terminal = false;
-  int err_columns = 80;  // width of that terminal
+  int err_columns = 80;         // width of that terminal
+  bool in_is_terminal = false;  // somebody can answer
 };
 
 }  // namespace quillvane

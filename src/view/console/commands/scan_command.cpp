@@ -28,8 +28,7 @@ int scan(const ConsoleSession& session, const BrowserAnswer& browsers) {
   const ScanReport report = read_report(form);
   const ListView* files = session.list ? &form.view1 : nullptr;
   if (session.json) {
-    print_scan_json_open(session.io.out, report, files);
-    session.io.out << "}\n";
+    print_scan_json(session.io.out, report, files);
   } else {
     print_scan_table(session.io.out, report, files, session.io.out_takes_bold);
   }

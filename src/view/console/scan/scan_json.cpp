@@ -24,6 +24,11 @@ Json file_json(const ListView& files, int row) {
 
 }  // namespace
 
+void print_scan_json(std::ostream& out, const ScanReport& report, const ListView* files) {
+  print_scan_json_open(out, report, files);
+  out << "}\n";
+}
+
 void print_scan_json_open(std::ostream& out, const ScanReport& report, const ListView* files) {
   const Json totals = {{"files", json_number(report.totals.files)},
                        {"bytes", json_number(report.totals.bytes)}};

@@ -8,8 +8,11 @@
 
 namespace quillvane {
 
-// With `files` each file too. Written file by file: the list may be long. The document is left
-// open, so that a command can add its own; the caller writes the "}".
+// With `files` each file too. Written file by file: the list may be long.
+void print_scan_json(std::ostream& out, const ScanReport& report, const ListView* files);
+
+// The same, with the document left open, so that a command can add its own members; the caller
+// writes the "}".
 void print_scan_json_open(std::ostream& out, const ScanReport& report, const ListView* files);
 
 }  // namespace quillvane

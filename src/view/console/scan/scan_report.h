@@ -21,7 +21,7 @@ struct ScanReport {
   NodeResult totals;
   std::string summary;
   std::vector<CategoryReport> categories;  // the nodes of the tree in order
-  std::vector<std::string> skipped;        // captions of browsers left out since they run
+  std::vector<std::string> skipped = {};   // captions of browsers left out since they run
 };
 
 [[nodiscard]] ScanReport read_report(const Form7& form);

@@ -149,11 +149,6 @@ TEST(AccessList, AListLargerThanWindowsTakesIsNotHandedOut) {
   EXPECT_EQ(AccessList(70'000).get(), nullptr);
 }
 
-TEST(AccessList, WhatIsNoListIsNotRead) {
-  ACL list{};  // its revision is none that exists
-  EXPECT_FALSE(read_access_list(&list).has_value());
-}
-
 TEST(AccountSid, EverybodyIsTheWellKnownGroup) {
   const OwnedSid world = world_sid();
   ASSERT_NE(world, nullptr);

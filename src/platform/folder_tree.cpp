@@ -30,14 +30,13 @@ ListedFolder* ListedFolder::make(TreeArena& arena, std::string_view name,
 ListedFolder::FixedRecord* ListedFolder::allocate_files(TreeArena& arena, std::uint32_t count,
                                                         std::size_t names_length) {
   file_count_ = count;
-  records_ = reinterpret_cast<FixedRecord*>(
-      arena.allocate(count * sizeof(FixedRecord) + names_length));
+  records_ =
+      reinterpret_cast<FixedRecord*>(arena.allocate(count * sizeof(FixedRecord) + names_length));
   return records_;
 }
 
 std::uint32_t* ListedFolder::allocate_matches(TreeArena& arena) {
-  matches_ = reinterpret_cast<std::uint32_t*>(
-      arena.allocate(file_count_ * sizeof(std::uint32_t)));
+  matches_ = reinterpret_cast<std::uint32_t*>(arena.allocate(file_count_ * sizeof(std::uint32_t)));
   return matches_;
 }
 

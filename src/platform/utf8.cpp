@@ -13,7 +13,9 @@ bool is_continuation(unsigned char byte) { return (byte & 0xC0U) == 0x80U; }
 }  // namespace
 
 DecodedCodePoint decode_utf8(std::string_view text, std::size_t at) {
-  const auto byte = [&](std::size_t offset) { return static_cast<unsigned char>(text[at + offset]); };
+  const auto byte = [&](std::size_t offset) {
+    return static_cast<unsigned char>(text[at + offset]);
+  };
   const unsigned char lead = byte(0);
   const DecodedCodePoint broken{lead, 1, false};
   if (lead < 0x80) return {lead, 1, true};

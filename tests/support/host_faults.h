@@ -39,12 +39,8 @@ inline void with_failing_calls(std::initializer_list<long> calls, int error,
 // made after it, so that they are that user's.
 class AsOrdinaryUser {
  public:
-  AsOrdinaryUser() {
-    EXPECT_EQ(seteuid(was_root_ ? kNobody : geteuid()), 0);
-  }
-  ~AsOrdinaryUser() {
-    EXPECT_EQ(seteuid(was_root_ ? 0 : geteuid()), 0);
-  }
+  AsOrdinaryUser() { EXPECT_EQ(seteuid(was_root_ ? kNobody : geteuid()), 0); }
+  ~AsOrdinaryUser() { EXPECT_EQ(seteuid(was_root_ ? 0 : geteuid()), 0); }
   AsOrdinaryUser(const AsOrdinaryUser&) = delete;
   AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
 

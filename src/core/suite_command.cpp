@@ -35,6 +35,7 @@ void Form7::tell_suite() {
   suite.publish(message);
   if (!suite.notify(kSuiteWindow, message.size())) return;
   suite.withdraw();
+  Timer2.set_running(false);  // no event is served any more, also not by a wait in progress
   program.stop();
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "controls/tray_area.h"
 #include "forms/buttons.h"
 #include "forms/list_view.h"
 #include "forms/text_box.h"
@@ -80,8 +81,13 @@ void mark(ScriptContext& context, ScriptArguments arguments) {
   list.set_selected(row, on_or_off(arguments[2]));
 }
 
-// open W.C [N]
+// open W.C [N]: without N a list that may be empty, or the tray icon
 void open(ScriptContext& context, ScriptArguments arguments) {
+  Control& control = control_named(context.program, arguments[0]);
+  if (auto* tray = dynamic_cast<TrayArea*>(&control); tray != nullptr && arguments.size() == 1) {
+    tray->double_click();
+    return;
+  }
   auto& list = control_of_kind<ListView>(context.program, arguments[0], "cannot be opened");
   list.double_click(arguments.size() == 1 ? 0 : number_in_range(arguments[1], 1, list.count()));
 }

@@ -88,4 +88,10 @@ char* BareWalk::room_for(std::size_t bytes) {
   return room;
 }
 
+std::size_t walk_bare(const std::string& folder) {
+  static std::unique_ptr<BareWalk> walk;
+  walk = std::make_unique<BareWalk>(folder);
+  return walk->file_count();
+}
+
 }  // namespace quillvane::bench

@@ -45,4 +45,8 @@ class BareWalk {
   std::size_t file_count_ = 0;
 };
 
+// Walks a tree and keeps what was read until the next call, so that to give the memory back is not
+// part of the walk. Answers the number of files.
+[[nodiscard]] std::size_t walk_bare(const std::string& folder);
+
 }  // namespace quillvane::bench

@@ -16,22 +16,23 @@ std::size_t peak_resident_bytes() {
   return static_cast<std::size_t>(usage.ru_maxrss) * 1024;
 }
 
-Measured run(const std::function<std::size_t()>& work) {
+Measured run(const Task& task) {
+  task.prepare();
   const std::size_t before = peak_resident_bytes();
   const auto begin = std::chrono::steady_clock::now();
-  const std::size_t files = work();
+  const std::size_t files = task.work();
   const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
   return {time.count(), peak_resident_bytes() - before, files};
 }
 
 }  // namespace
 
-std::optional<Measured> measure(const std::function<std::size_t()>& work) {
+std::optional<Measured> measure(const Task& task) {
   int ends[2];
   if (pipe(ends) != 0) return std::nullopt;
   const pid_t child = fork();
   if (child == 0) {
-    const Measured measured = run(work);
+    const Measured measured = run(task);
     const bool told = write(ends[1], &measured, sizeof measured) == sizeof measured;
     _exit(told ? 0 : 1);
   }

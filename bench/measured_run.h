@@ -15,8 +15,14 @@ struct Measured {
   std::size_t files = 0;       // as the work tells
 };
 
-// Runs the work, which tells how many files it was about, in a forked child. What it made is alive
-// when the peak is read. Nothing when the child failed.
-[[nodiscard]] std::optional<Measured> measure(const std::function<std::size_t()>& work);
+// What comes first and is not measured, then the work, which tells how many files it was about.
+struct Task {
+  std::function<void()> prepare = [] {};
+  std::function<std::size_t()> work;
+};
+
+// Runs the task in a forked child. What it made is alive when the peak is read. Nothing when the
+// child failed.
+[[nodiscard]] std::optional<Measured> measure(const Task& task);
 
 }  // namespace quillvane::bench

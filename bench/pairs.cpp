@@ -5,7 +5,6 @@
 #include <cstdio>
 
 #include "bench/make_tree.h"
-#include "bench/measured_run.h"
 
 namespace quillvane::bench {
 
@@ -72,19 +71,27 @@ bool read_options(int count, char** words, Options& options) {
 }
 
 bool have_tree(const Options& options) {
-  const auto made = measure([&] {
+  const auto made = measure({.work = [&] {
     return make_tree({options.folder, options.files}) ? std::size_t{options.files} : 0;
-  });
+  }});
   return made && made->files == options.files;
 }
 
 int run_pairs(const Options& options, std::string_view subject,
               const std::function<std::size_t()>& yardstick,
               const std::function<std::size_t()>& work) {
+  return run_numbered_pairs(
+      options, subject, [&](std::uint32_t) { return Task{.work = yardstick}; },
+      [&](std::uint32_t) { return Task{.work = work}; });
+}
+
+int run_numbered_pairs(const Options& options, std::string_view subject,
+                       const std::function<Task(std::uint32_t)>& yardstick,
+                       const std::function<Task(std::uint32_t)>& work) {
   Results results;
   for (std::uint32_t pair = 0; pair <= options.pairs; ++pair) {
-    const auto of_yardstick = measure(yardstick);
-    const auto of_work = measure(work);
+    const auto of_yardstick = measure(yardstick(pair));
+    const auto of_work = measure(work(pair));
     if (!of_yardstick || !of_work || of_yardstick->files != options.files ||
         of_work->files != options.files) {
       std::fprintf(stderr, "not all of the %u files were found\n", options.files);

@@ -8,6 +8,8 @@
 #include <string_view>
 #include <vector>
 
+#include "bench/measured_run.h"
+
 namespace quillvane::bench {
 
 struct Options {
@@ -31,5 +33,11 @@ struct Options {
 int run_pairs(const Options& options, std::string_view subject,
               const std::function<std::size_t()>& yardstick,
               const std::function<std::size_t()>& work);
+
+// The same for work that can be done only once on a tree: `yardstick` and `work` make the task for
+// the pair of the given number, 0 to options.pairs.
+int run_numbered_pairs(const Options& options, std::string_view subject,
+                       const std::function<Task(std::uint32_t)>& yardstick,
+                       const std::function<Task(std::uint32_t)>& work);
 
 }  // namespace quillvane::bench

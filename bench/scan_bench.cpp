@@ -8,38 +8,16 @@
 // the same scan with an ignore list and a pending queue of so many megabytes each is measured
 // against the scan with empty ones.
 #include <cstdio>
-#include <filesystem>
 #include <memory>
-#include <optional>
 #include <string>
-#include <variant>
 
 #include "bench/bare_walk.h"
 #include "bench/pairs.h"
-#include "core/form7.h"
-#include "core/program.h"
-#include "platform/folder/folder_file_system.h"
-#include "platform/folder/folder_machine.h"
-#include "platform/virtual/queued_dialogs.h"
+#include "bench/program_on_tree.h"
 
 namespace quillvane::bench {
 
 namespace {
-
-constexpr const char* kMachineJson = R"({
-  "drives": [{"letter": "C", "folder": ".."}],
-  "environment": {"TEMP": "C:\\tree"}
-})";
-
-// A machine beside the tree; their folder is its drive C:.
-bool make_machine(const std::string& folder) {
-  std::error_code failed;
-  std::filesystem::create_directories(folder, failed);
-  std::FILE* file = std::fopen((folder + "/machine.json").c_str(), "w");
-  if (file == nullptr) return false;
-  std::fputs(kMachineJson, file);
-  return std::fclose(file) == 0;
-}
 
 // Paths of about 70 letters, none of them in the tree.
 std::string path_number(std::size_t number) {
@@ -62,46 +40,17 @@ Lists make_lists(std::uint32_t megabytes) {
   return lists;
 }
 
-// One machine and the program on it. What it made is kept alive: to give it back is not measured.
-class Scan {
- public:
-  Scan(const std::string& folder, std::uint32_t threads) {
-    auto opened = FolderMachine::open(folder);
-    if (!std::holds_alternative<std::unique_ptr<FolderMachine>>(opened)) return;
-    machine_ = std::get<std::unique_ptr<FolderMachine>>(std::move(opened));
-    dialogs_ = std::make_unique<QueuedDialogs>(machine_->effects());
-    files_ = std::make_unique<FolderFileSystem>(machine_->state(), threads);
-    program_.emplace(machine_->platform(*dialogs_).with_files(*files_));
-    program_->start("");
-  }
-
-  std::size_t run(const Lists& lists) {
-    if (!program_) return 0;
-    Form7& form = program_->main_window();
-    form.ignorelist.set_text(lists.ignored);
-    form.Text15.set_text(lists.pending);
-    form.startclean();
-    form.loadfirstscan();
-    return static_cast<std::size_t>(form.view5.count());
-  }
-
- private:
-  std::unique_ptr<FolderMachine> machine_;
-  std::unique_ptr<QueuedDialogs> dialogs_;
-  std::unique_ptr<FolderFileSystem> files_;
-  std::optional<Program> program_;
-};
-
+// What the scan made is kept alive: to give it back is not measured.
 std::size_t scan(const Options& options, const Lists& lists) {
-  static std::unique_ptr<Scan> kept;
-  kept = std::make_unique<Scan>(options.folder + "/machine", options.threads);
-  return kept->run(lists);
-}
-
-std::size_t walk_bare(const Options& options) {
-  static std::unique_ptr<BareWalk> walk;
-  walk = std::make_unique<BareWalk>(options.folder + "/tree");
-  return walk->file_count();
+  static std::unique_ptr<ProgramOnTree> kept;
+  kept = std::make_unique<ProgramOnTree>(options.folder, options.threads);
+  Form7* form = kept->window();
+  if (form == nullptr) return 0;
+  form->ignorelist.set_text(lists.ignored);
+  form->Text15.set_text(lists.pending);
+  form->startclean();
+  form->loadfirstscan();
+  return static_cast<std::size_t>(form->view5.count());
 }
 
 }  // namespace
@@ -116,11 +65,12 @@ int main(int count, char** words) {
                  words[0]);
     return 1;
   }
-  if (!have_tree(options) || !make_machine(options.folder + "/machine")) return 1;
+  if (!have_tree(options) || !make_machine_on_tree(options.folder)) return 1;
   const Lists empty;
   if (options.list_megabytes == 0) {
     return run_pairs(
-        options, "scan", [&] { return walk_bare(options); }, [&] { return scan(options, empty); });
+        options, "scan", [&] { return walk_bare(options.folder + "/tree"); },
+        [&] { return scan(options, empty); });
   }
   const Lists lists = make_lists(options.list_megabytes);
   return run_pairs(

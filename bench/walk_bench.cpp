@@ -31,12 +31,6 @@ std::size_t walk_machine(const Options& options) {
   return tree ? count_files(tree->root()) : 0;
 }
 
-std::size_t walk_bare(const Options& options) {
-  static std::unique_ptr<BareWalk> walk;
-  walk = std::make_unique<BareWalk>(options.folder + "/tree");
-  return walk->file_count();
-}
-
 }  // namespace
 
 }  // namespace quillvane::bench
@@ -50,5 +44,6 @@ int main(int count, char** words) {
   }
   if (!have_tree(options)) return 1;
   return run_pairs(
-      options, "walk", [&] { return walk_bare(options); }, [&] { return walk_machine(options); });
+      options, "walk", [&] { return walk_bare(options.folder + "/tree"); },
+      [&] { return walk_machine(options); });
 }

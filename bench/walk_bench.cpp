@@ -6,8 +6,8 @@
 
 #include "bench/bare_walk.h"
 #include "bench/pairs.h"
-#include "platform/folder/folder_file_system.h"
 #include "platform/folder/machine_state.h"
+#include "platform/folder/posix/folder_file_system.h"
 
 namespace quillvane::bench {
 

@@ -20,6 +20,8 @@ constexpr std::string_view kVirtual[] = {"platform/virtual", "platform"};
 constexpr std::string_view kWin32[] = {"platform/win32", "support", "platform"};
 constexpr std::string_view kFolder[] = {"platform/folder", "platform/virtual", "support",
                                         "platform"};
+constexpr std::string_view kFolderOnWindows[] = {"platform/folder", "platform/win32", "support",
+                                                 "platform"};
 constexpr std::string_view kConsole[] = {
     "view/console", "platform/virtual", "core",      "categories",
     "cleaning",     "drivesearch",      "shortcuts", "lang",
@@ -35,17 +37,27 @@ struct Layer {
 };
 
 constexpr Layer kLayers[] = {
-    {"platform", kPlatform, false},     {"platform/virtual", kVirtual, false},
-    {"platform/win32", kWin32, true},   {"platform/folder", kFolder, true},
-    {"support", kSupport, false},       {"forms", kForms, false},
-    {"controls", kForms, false},        {"core", kBehaviour, false},
-    {"categories", kBehaviour, false},  {"cleaning", kBehaviour, false},
-    {"drivesearch", kBehaviour, false}, {"shortcuts", kBehaviour, false},
-    {"lang", kBehaviour, false},        {"view/console", kConsole, true},
-    {"view/win32", kWindows, true},     {"app", {}, true},
+    {"platform", kPlatform, false},
+    {"platform/virtual", kVirtual, false},
+    {"platform/win32", kWin32, true},
+    {"platform/folder/win32", kFolderOnWindows, true},
+    {"platform/folder", kFolder, true},
+    {"support", kSupport, false},
+    {"forms", kForms, false},
+    {"controls", kForms, false},
+    {"core", kBehaviour, false},
+    {"categories", kBehaviour, false},
+    {"cleaning", kBehaviour, false},
+    {"drivesearch", kBehaviour, false},
+    {"shortcuts", kBehaviour, false},
+    {"lang", kBehaviour, false},
+    {"view/console", kConsole, true},
+    {"view/win32", kWindows, true},
+    {"app", {}, true},
 };
 
-// Folders of platform/ are layers of their own; below other folders the whole branch is one layer.
+// Folders of platform/ are layers of their own; below other folders the whole branch is one layer
+// where no folder of it stands in the list before.
 bool is_in(std::string_view file, std::string_view folder) {
   if (file.size() <= folder.size() || !file.starts_with(folder) || file[folder.size()] != '/') {
     return false;
@@ -93,6 +105,7 @@ bool is_of_windows(std::string_view header) {
 
 bool may_know_windows(std::string_view file) {
   return file.starts_with("platform/win32/") || file.starts_with("view/win32/") ||
+         file.starts_with("platform/folder/win32/") ||
          (file.starts_with("app/") && file.find("_win32") != std::string_view::npos);
 }
 

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/folder/folder_file_system.h"
 #include "platform/folder/machine_state.h"
+#include "platform/folder/posix/folder_file_system.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillvane {

@@ -6,7 +6,7 @@
 #include <utility>
 #include <variant>
 
-#include "platform/folder/folder_file_system.h"
+#include "platform/folder/machine_files.h"
 #include "platform/folder/machine_staging.h"
 #include "platform/folder/registry_store.h"
 #include "platform/multi_string.h"

@@ -8,6 +8,7 @@
 #include <variant>
 
 #include "platform/folder/host_file.h"
+#include "platform/folder/host_path.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_staging.h"
 #include "platform/folder/registry_setup.h"
@@ -167,9 +168,10 @@ constexpr RegistrySetup kRegistry[] = {
 // Makes the folder, or sees that there is nothing in it.
 std::optional<std::string> take_folder(const std::string& dir) {
   std::error_code failed;
-  std::filesystem::create_directories(dir, failed);
+  const std::filesystem::path folder = host_path(dir);
+  std::filesystem::create_directories(folder, failed);
   if (failed) return dir + ": cannot be made: " + failed.message();
-  const bool empty = std::filesystem::is_empty(dir, failed);
+  const bool empty = std::filesystem::is_empty(folder, failed);
   if (failed) return dir + ": cannot be read: " + failed.message();
   if (!empty) return dir + ": the folder is not empty";
   return std::nullopt;

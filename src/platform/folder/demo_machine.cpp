@@ -11,6 +11,7 @@
 
 #include "platform/folder/demo_files.h"
 #include "platform/folder/drive_words.h"
+#include "platform/folder/host_path.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_staging.h"
 #include "platform/folder/registry_store.h"
@@ -57,10 +58,9 @@ void describe(MachineState& machine) {
   MachineDrive& system = machine.drives.at(0);
   system.total_bytes = 256 * kGigabyte;
   system.free_bytes = 41 * kGigabyte;
-  const auto data_folder =
-      std::filesystem::path(system.folder).replace_filename(default_drive_folder('D'));
+  const auto data_folder = host_path(system.folder).replace_filename(default_drive_folder('D'));
   machine.drives.push_back(
-      {'D', DriveType::kFixed, data_folder.string(), 500 * kGigabyte, 312 * kGigabyte});
+      {'D', DriveType::kFixed, host_text(data_folder), 500 * kGigabyte, 312 * kGigabyte});
   machine.processes = {{4, "System"}, {612, "svchost.exe"}, {2208, "explorer.exe"}};
   machine.in_use = {kInUse};
   machine.denied = {kDenied};

@@ -6,11 +6,12 @@
 #include <system_error>
 #include <utility>
 
-#include "platform/folder/folder_file_system.h"
+#include "platform/folder/host_path.h"
 #include "platform/folder/machine_clock.h"
 #include "platform/folder/machine_drives.h"
 #include "platform/folder/machine_environment.h"
 #include "platform/folder/machine_event_log.h"
+#include "platform/folder/machine_files.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_outward.h"
 #include "platform/folder/machine_processes.h"
@@ -22,7 +23,7 @@ namespace quillvane {
 
 namespace {
 
-void empty_recycle_bins(const MachineState& state, FolderFileSystem& files) {
+void empty_recycle_bins(const MachineState& state, MachineFiles& files) {
   for (const MachineDrive& drive : state.drives) {
     files.remove_contents(std::string(1, drive.letter) + ":\\$Recycle.Bin");
   }
@@ -31,7 +32,7 @@ void empty_recycle_bins(const MachineState& state, FolderFileSystem& files) {
 }  // namespace
 
 struct FolderMachine::Parts {
-  Parts(MachineState& state, EffectLog& effects, FolderFileSystem& files,
+  Parts(MachineState& state, EffectLog& effects, MachineFiles& files,
         const std::function<void()>& save)
       : drives(state),
         environment(state),
@@ -59,7 +60,7 @@ struct FolderMachine::Parts {
 std::variant<std::unique_ptr<FolderMachine>, std::string> FolderMachine::open(
     const std::string& dir) {
   std::error_code failed;
-  if (!std::filesystem::is_directory(dir, failed)) {
+  if (!std::filesystem::is_directory(host_path(dir), failed)) {
     return dir + ": " + (failed ? failed.message() : "is no folder");
   }
   auto state = load_machine_json(dir);
@@ -77,7 +78,7 @@ FolderMachine::FolderMachine(std::string dir, MachineState state)
     : dir_(std::move(dir)),
       state_(std::move(state)),
       loop_(machine_clock(std::chrono::system_clock::now(), state_.utc_offset_minutes)),
-      files_(std::make_unique<FolderFileSystem>(state_)),
+      files_(make_machine_files(state_)),
       parts_(std::make_unique<Parts>(state_, effects_, *files_, [this] { save(); })) {}
 
 FolderMachine::~FolderMachine() = default;

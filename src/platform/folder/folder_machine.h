@@ -16,7 +16,7 @@
 
 namespace quillvane {
 
-class FolderFileSystem;
+class MachineFiles;
 class FolderRegistry;
 
 class FolderMachine {
@@ -38,7 +38,7 @@ class FolderMachine {
   [[nodiscard]] const MachineState& state() const { return state_; }
   [[nodiscard]] EffectLog& effects() { return effects_; }
   [[nodiscard]] VirtualLoop& loop() { return loop_; }
-  [[nodiscard]] FolderFileSystem& files() { return *files_; }
+  [[nodiscard]] MachineFiles& files() { return *files_; }
   [[nodiscard]] FolderRegistry& registry() { return *registry_; }
 
   // What a script sets up. It holds as long as this object; machine.json stays as it is.
@@ -61,7 +61,7 @@ class FolderMachine {
   MachineState state_;
   EffectLog effects_;
   VirtualLoop loop_;
-  std::unique_ptr<FolderFileSystem> files_;
+  std::unique_ptr<MachineFiles> files_;
   std::unique_ptr<FolderRegistry> registry_;
   std::unique_ptr<Parts> parts_;
 };

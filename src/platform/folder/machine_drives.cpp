@@ -1,10 +1,11 @@
 #include "platform/folder/machine_drives.h"
 
-#include <sys/statvfs.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <string_view>
+#include <system_error>
+
+#include "platform/folder/host_path.h"
 
 namespace quillvane {
 
@@ -14,11 +15,9 @@ namespace {
 // on that of the nearest one above it.
 std::optional<DriveSpace> host_space(std::filesystem::path folder) {
   for (;;) {
-    struct statvfs found = {};
-    if (::statvfs(folder.c_str(), &found) == 0) {
-      return DriveSpace{std::uint64_t{found.f_blocks} * found.f_frsize,
-                        std::uint64_t{found.f_bavail} * found.f_frsize};
-    }
+    std::error_code failed;
+    const auto found = std::filesystem::space(folder, failed);
+    if (!failed) return DriveSpace{found.capacity, found.available};
     const std::filesystem::path above = folder.parent_path();
     if (above == folder) return std::nullopt;
     folder = above;
@@ -50,7 +49,7 @@ std::optional<DriveSpace> MachineDrives::space(const std::string& root) const {
   if (drive->type == DriveType::kCdRom && !drive->total_bytes && !drive->free_bytes) {
     return std::nullopt;
   }
-  const auto host = host_space(drive->folder);
+  const auto host = host_space(host_path(drive->folder));
   if (!host) return std::nullopt;
   // The one that is given bounds the other: no drive has more room than it is large.
   if (drive->total_bytes) {

@@ -12,6 +12,7 @@
 #include "platform/date_time_text.h"
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_file.h"
+#include "platform/folder/host_path.h"
 #include "platform/folder/json_fields.h"
 #include "platform/folder/machine_environment.h"
 #include "platform/unicode_case.h"
@@ -27,8 +28,8 @@ class Reader {
  public:
   explicit Reader(const std::string& dir) {
     std::error_code failed;
-    dir_ = std::filesystem::absolute(dir, failed);
-    if (failed) dir_ = dir;
+    dir_ = std::filesystem::absolute(host_path(dir), failed);
+    if (failed) dir_ = host_path(dir);
   }
 
   std::variant<MachineState, std::string> read(const Json& document) {
@@ -54,7 +55,7 @@ class Reader {
  private:
   [[nodiscard]] std::string host_folder(const std::string& folder) const {
     // An absolute one replaces the machine folder.
-    return (dir_ / folder).lexically_normal().string();
+    return host_text((dir_ / host_path(folder)).lexically_normal());
   }
 
   void read_drives(const Json& document, std::vector<MachineDrive>& drives) {

@@ -7,6 +7,7 @@
 
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_file.h"
+#include "platform/folder/host_path.h"
 #include "platform/folder/machine_environment.h"
 #include "platform/folder/machine_json.h"
 #include "platform/unicode_case.h"
@@ -22,7 +23,7 @@ Json drives_json(const MachineState& state, const std::filesystem::path& dir) {
   Json list = Json::array();
   for (const MachineDrive& drive : state.drives) {
     Json object = {{"letter", std::string(1, drive.letter)}, {"type", drive_type_word(drive.type)}};
-    if (drive.folder != (dir / default_drive_folder(drive.letter)).string()) {
+    if (drive.folder != host_text(dir / default_drive_folder(drive.letter))) {
       object["folder"] = drive.folder;
     }
     if (drive.total_bytes) object["total"] = *drive.total_bytes;
@@ -116,7 +117,8 @@ std::optional<std::string> save_machine_json(const std::string& dir, const Machi
   if (const auto* error = std::get_if<std::string>(&stored)) return *error;
 
   std::error_code failed;
-  const std::filesystem::path full_dir = std::filesystem::absolute(dir, failed).lexically_normal();
+  const std::filesystem::path full_dir =
+      std::filesystem::absolute(host_path(dir), failed).lexically_normal();
   const std::string file = dir + "/machine.json";
   Json document = stored_document(file);
   const Json before = document_of(std::get<MachineState>(stored), full_dir);

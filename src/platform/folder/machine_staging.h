@@ -1,6 +1,6 @@
 // Puts folders and files onto the drives of a machine folder from outside, as its earlier life has
 // left them: for new machines, demonstrations and tests. What the program itself does to files
-// goes through FolderFileSystem.
+// goes through MachineFiles.
 //
 // Names that are there already are used without regard to case; others are made as written.
 #pragma once

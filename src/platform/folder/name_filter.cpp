@@ -16,7 +16,7 @@ NameFilter::NameFilter(std::span<const std::string> patterns, Folders folders)
   });
 }
 
-void NameFilter::apply(DirectoryListing& listing, std::uint32_t usable) const {
+void NameFilter::apply(NameListing& listing, std::uint32_t usable) const {
   for (auto& entry : listing.entries()) {
     const std::string_view name = listing.name(entry);
     entry.matches = takes_every_name_ ? ~0U : by_name(name) | by_short_ending(name);
@@ -27,8 +27,8 @@ void NameFilter::apply(DirectoryListing& listing, std::uint32_t usable) const {
     add_short_matches(listing);
   }
   for (auto& entry : listing.entries()) entry.matches &= usable;
-  listing.drop_if([this](const DirectoryListing::Entry& entry) {
-    const bool is_folder = entry.kind == DirectoryListing::Kind::kFolder;
+  listing.drop_if([this](const NameListing::Entry& entry) {
+    const bool is_folder = entry.kind == NameListing::Kind::kFolder;
     return entry.matches == 0 && !(is_folder && takes_all_folders_);
   });
   if (!needs_numbers_) listing.sort();
@@ -52,7 +52,7 @@ std::uint32_t NameFilter::by_short_ending(std::string_view name) const {
   return matches;
 }
 
-void NameFilter::add_short_matches(DirectoryListing& listing) const {
+void NameFilter::add_short_matches(NameListing& listing) const {
   ShortNames names;
   for (const auto& entry : listing.entries()) {
     if (is_short_name(listing.name(entry))) names.reserve(listing.name(entry));

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "platform/file_pattern.h"
-#include "platform/folder/directory_listing.h"
+#include "platform/folder/name_listing.h"
 
 namespace quillvane {
 
@@ -22,13 +22,13 @@ class NameFilter {
   // Bring the listing of a folder, read but not sorted, into order and leave out what matches
   // none. `usable` has bit N set for each pattern N that counts here. Each entry's `matches` is
   // set to the patterns that it matches.
-  void apply(DirectoryListing& listing, std::uint32_t usable) const;
+  void apply(NameListing& listing, std::uint32_t usable) const;
 
  private:
   [[nodiscard]] std::uint32_t by_name(std::string_view name) const;
   // By what every short name of the long one ends in, whatever its number.
   [[nodiscard]] std::uint32_t by_short_ending(std::string_view name) const;
-  void add_short_matches(DirectoryListing& listing) const;
+  void add_short_matches(NameListing& listing) const;
 
   std::vector<FilePattern> patterns_;
   bool takes_all_folders_;

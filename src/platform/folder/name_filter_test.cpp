@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/folder/descriptor.h"
+#include "platform/folder/posix/descriptor.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillvane {

@@ -1,11 +1,12 @@
 #include "platform/folder/registry_store.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstddef>
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
+#include "platform/folder/host_path.h"
 #include "platform/folder/registry_schema.h"
 #include "platform/multi_string.h"
 #include "platform/unicode_case.h"
@@ -55,7 +56,8 @@ std::variant<std::unique_ptr<FolderRegistry>, std::string> FolderRegistry::open(
 }
 
 std::optional<std::string> FolderRegistry::connect() const {
-  if (::access(file_.c_str(), F_OK) != 0) return std::nullopt;
+  std::error_code failed;
+  if (!std::filesystem::exists(host_path(file_), failed)) return std::nullopt;
   auto opened = SqliteDatabase::open(file_, SqliteDatabase::Missing::kFails);
   if (const auto* reason = std::get_if<std::string>(&opened)) return "cannot be opened: " + *reason;
   auto& database = std::get<SqliteDatabase>(opened);

@@ -1,0 +1,114 @@
+#include "platform/folder/posix/drive_file.h"
+
+#include <fcntl.h>
+#include <stdio.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cerrno>
+
+#include "platform/folder/posix/file_attributes.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr std::size_t kLeastRead = 4096;
+// The program's own files are lists and texts. What is larger is none of them, and could take the
+// whole memory.
+constexpr std::size_t kMostRead = std::size_t{1} << 30U;
+
+// The descriptor of a place is good for finding only; this leads to the same file.
+Descriptor open_for_reading(const HostPlace& place) {
+  const std::string path = "/proc/self/fd/" + std::to_string(place.object.number());
+  return Descriptor(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+}
+
+std::optional<std::string> read_to_end(int file, std::size_t expected) {
+  std::string content;
+  content.resize(expected + kLeastRead);
+  std::size_t used = 0;
+  for (;;) {
+    if (used == content.size()) content.resize(2 * content.size());
+    const ssize_t got = read(file, content.data() + used, content.size() - used);
+    if (got < 0 && errno == EINTR) continue;
+    if (got == 0) break;
+    if (got < 0 || used + static_cast<std::size_t>(got) > kMostRead) return std::nullopt;
+    used += static_cast<std::size_t>(got);
+  }
+  content.resize(used);
+  return content;
+}
+
+bool write_all(int file, std::string_view content) {
+  while (!content.empty()) {
+    const ssize_t written = write(file, content.data(), content.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return false;
+    content.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+// A new file beside those of a folder, gone with the object unless it was put in place.
+class FileBeside {
+ public:
+  explicit FileBeside(int folder) : folder_(folder) {
+    static std::atomic<unsigned> last_number = 0;
+    do {
+      name_ = ".quillvane-" + std::to_string(getpid()) + "-" + std::to_string(++last_number);
+      file_ = Descriptor(openat(folder_, name_.c_str(),
+                                O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
+    } while (!file_.is_open() && errno == EEXIST);
+  }
+  ~FileBeside() {
+    if (file_.is_open() && !in_place_) unlinkat(folder_, name_.c_str(), 0);
+  }
+  FileBeside(const FileBeside&) = delete;
+  FileBeside& operator=(const FileBeside&) = delete;
+
+  [[nodiscard]] int file() const { return file_.number(); }
+
+  bool put_in_place(const std::string& name) {
+    in_place_ = renameat(folder_, name_.c_str(), folder_, name.c_str()) == 0;
+    return in_place_;
+  }
+
+ private:
+  int folder_;
+  std::string name_;
+  Descriptor file_;
+  bool in_place_ = false;
+};
+
+}  // namespace
+
+bool can_read_drive_file(const HostPlace& place) {
+  return is_file(place.status) && open_for_reading(place).is_open();
+}
+
+std::optional<std::string> read_drive_file(const HostPlace& place) {
+  if (!is_file(place.status) || place.status.stx_size > kMostRead) return std::nullopt;
+  const Descriptor file = open_for_reading(place);
+  if (!file.is_open()) return std::nullopt;
+  return read_to_end(file.number(), place.status.stx_size);
+}
+
+bool replace_drive_file(const HostEntry& entry, const HostPlace* old, std::string_view content) {
+  FileBeside beside(entry.folder.object.number());
+  if (!write_all(beside.file(), content)) return false;
+  if (old != nullptr) {
+    // Without the right to give files away it stays the writer's.
+    [[maybe_unused]] const int owned =
+        fchown(beside.file(), old->status.stx_uid, old->status.stx_gid);
+    if (fchmod(beside.file(), old->status.stx_mode & 07777U) != 0) return false;
+    copy_file_attributes(*old, beside.file());
+  }
+  if (fsync(beside.file()) != 0 || !beside.put_in_place(entry.name)) return false;
+  const Descriptor folder = open_for_listing(entry.folder);
+  if (folder.is_open()) fsync(folder.number());  // the name lasts too
+  return true;
+}
+
+}  // namespace quillvane

@@ -1,0 +1,69 @@
+// The host folder that holds one drive of the machine, and the ways to what lies below it.
+//
+// Every way is gone from one open folder to the next, never through a link of the host: links are
+// read and followed here. So a way cannot leave the drive's folder, whatever is exchanged on it
+// meanwhile. Only the drive's folder itself may be reached through links.
+#pragma once
+
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/folder/posix/descriptor.h"
+#include "platform/folder/posix/host_status.h"
+
+namespace quillvane {
+
+// Something found on a drive.
+struct HostPlace {
+  std::string path;   // from the drive's folder on, as stored and without links; "" is the drive
+  Descriptor object;  // to find and ask by (O_PATH), not to read from
+  HostStatus status;
+};
+
+// A name in a folder; what bears it may be a link.
+struct HostEntry {
+  HostPlace folder;
+  std::string name;  // as stored
+};
+
+class DriveFolder {
+ public:
+  // A folder that cannot be opened is a drive on which nothing is found.
+  explicit DriveFolder(const std::string& host_folder);
+
+  // Goes down the names without regard to case and follows links, the last one too.
+  [[nodiscard]] std::optional<HostPlace> find(std::span<const std::string> names) const;
+
+  // The same, but does not follow the last name. Nothing for the drive itself.
+  [[nodiscard]] std::optional<HostEntry> find_entry(std::span<const std::string> names) const;
+
+  // The entry by which a place is stored. Nothing for the drive itself.
+  [[nodiscard]] std::optional<HostEntry> entry_of(const HostPlace& place) const;
+
+  // Where the stored name `name` of the folder at `path` leads, a path as HostPlace has it.
+  [[nodiscard]] std::optional<HostPlace> follow(const std::string& path,
+                                                const std::string& name) const;
+
+ private:
+  class Way;
+
+  [[nodiscard]] std::optional<HostPlace> root() const;
+  // Goes straight down stored names, none of them a link.
+  [[nodiscard]] std::optional<HostPlace> find_stored(const std::string& path) const;
+  // The same in one step; most paths are spelt as stored. Nothing also means: look closer.
+  [[nodiscard]] std::optional<HostPlace> find_as_spelt(std::span<const std::string> names) const;
+
+  std::string host_folder_;
+  Descriptor folder_;
+};
+
+// What bears the name: a link itself and not where it leads. Nothing when it is gone.
+[[nodiscard]] std::optional<HostPlace> open_entry(const HostEntry& entry);
+
+// Opens a folder that was found for reading its names.
+[[nodiscard]] Descriptor open_for_listing(const HostPlace& place);
+
+}  // namespace quillvane

@@ -1,0 +1,95 @@
+#include "platform/folder/posix/file_attributes.h"
+
+#include <sys/stat.h>
+#include <sys/xattr.h>
+
+#include <array>
+#include <cerrno>
+#include <charconv>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/file_system.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr const char* kName = "user.DOSATTRIB";
+constexpr std::uint32_t kSettable =
+    kAttributeReadOnly | kAttributeHidden | kAttributeSystem | kAttributeArchive;
+
+// A path that leads to the object itself, wherever its name has gone.
+std::string path_of(const HostPlace& place) {
+  return "/proc/self/fd/" + std::to_string(place.object.number());
+}
+
+std::optional<std::string> stored_text(const HostPlace& place) {
+  std::array<char, 256> text;
+  const ssize_t length = getxattr(path_of(place).c_str(), kName, text.data(), text.size());
+  if (length < 0) return std::nullopt;
+  return std::string(text.data(), static_cast<std::size_t>(length));
+}
+
+// The number at the front; other programs may put more behind it.
+std::optional<std::uint32_t> parse(std::string_view text) {
+  if (!text.starts_with("0x") && !text.starts_with("0X")) return std::nullopt;
+  text.remove_prefix(2);
+  std::uint32_t bits = 0;
+  const auto read = std::from_chars(text.data(), text.data() + text.size(), bits, 16);
+  if (read.ec != std::errc()) return std::nullopt;
+  return bits;
+}
+
+std::string formatted(std::uint32_t bits) {
+  std::array<char, 8> digits;
+  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), bits, 16).ptr;
+  return "0x" + std::string(digits.data(), end);
+}
+
+bool store(const HostPlace& place, const std::string& text) {
+  return setxattr(path_of(place).c_str(), kName, text.data(), text.size(), 0) == 0;
+}
+
+bool set_owner_may_write(const HostPlace& place, bool may) {
+  const mode_t mode = place.status.stx_mode & 07777U;
+  return chmod(path_of(place).c_str(), may ? mode | S_IWUSR : mode & ~mode_t{S_IWUSR}) == 0;
+}
+
+}  // namespace
+
+std::uint32_t read_file_attributes(const HostPlace& place) {
+  const bool folder = is_folder(place.status);
+  const std::uint32_t kind = folder ? kAttributeFolder : 0;
+  const auto text = stored_text(place);
+  if (const auto stored = text ? parse(*text) : std::nullopt) {
+    const std::uint32_t bits = (*stored & kSettable) | kind;
+    return bits == 0 ? kAttributeNormal : bits;
+  }
+  if (folder) return kind;
+  const bool writable = (place.status.stx_mode & S_IWUSR) != 0;
+  return kAttributeArchive | (writable ? 0 : kAttributeReadOnly);
+}
+
+bool write_file_attributes(const HostPlace& place, std::uint32_t bits) {
+  const bool folder = is_folder(place.status);
+  bits &= kSettable;
+  const std::uint32_t kind = folder ? kAttributeFolder : 0;
+  const std::string text = formatted((bits | kind) == 0 ? kAttributeNormal : bits | kind);
+  if (store(place, text)) return true;
+  const bool writable = (place.status.stx_mode & S_IWUSR) != 0;
+  if (errno == EOPNOTSUPP) {
+    return folder || set_owner_may_write(place, (bits & kAttributeReadOnly) == 0);
+  }
+  // The owner's right to write is needed for extended attributes too.
+  if (errno != EACCES || writable || !set_owner_may_write(place, true)) return false;
+  const bool stored = store(place, text);
+  return set_owner_may_write(place, false) && stored;
+}
+
+void copy_file_attributes(const HostPlace& from, int to) {
+  if (const auto text = stored_text(from)) fsetxattr(to, kName, text->data(), text->size(), 0);
+}
+
+}  // namespace quillvane

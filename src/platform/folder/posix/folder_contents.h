@@ -1,0 +1,12 @@
+// Removing all that lies in a folder of a drive.
+#pragma once
+
+#include "platform/folder/posix/drive_folder.h"
+
+namespace quillvane {
+
+// Goes from one open folder to the next and never through a link; a link goes itself. What cannot
+// be removed stays, and what lies beside it goes all the same.
+void remove_folder_contents(const HostPlace& folder);
+
+}  // namespace quillvane

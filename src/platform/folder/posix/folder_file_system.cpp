@@ -1,0 +1,222 @@
+#include "platform/folder/posix/folder_file_system.h"
+
+#include <fcntl.h>
+#include <stdio.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <span>
+#include <thread>
+#include <utility>
+
+#include "platform/folder/posix/drive_file.h"
+#include "platform/folder/posix/file_attributes.h"
+#include "platform/folder/posix/folder_contents.h"
+#include "platform/folder/posix/folder_listing.h"
+#include "platform/folder/posix/folder_walk.h"
+#include "platform/folder/posix/named_file.h"
+#include "platform/folder/posix/tree_scope.h"
+#include "platform/unicode_case.h"
+
+namespace quillvane {
+
+namespace {
+
+// More threads than this only wait for each other in the host's file system.
+constexpr unsigned kMostReadingThreads = 4;
+
+unsigned worthwhile_threads() {
+  return std::clamp(std::thread::hardware_concurrency(), 1U, kMostReadingThreads);
+}
+
+RemoveResult result_of(int error) {
+  switch (error) {
+    case ENOENT:
+      return RemoveResult::kMissing;
+    case EBUSY:
+    case ETXTBSY:
+      return RemoveResult::kInUse;
+    default:
+      return RemoveResult::kDenied;
+  }
+}
+
+bool is_read_only(std::uint32_t attributes) { return (attributes & kAttributeReadOnly) != 0; }
+
+// A name that is there, and what stands under it.
+struct FoundFile {
+  DriveFolder drive;
+  HostEntry entry;
+  NamedFile file;
+};
+
+std::optional<FoundFile> find_named(const MachinePaths& paths, const std::string& path) {
+  const auto parsed = paths.parse(path);
+  if (!parsed) return std::nullopt;
+  DriveFolder drive = paths.drive(parsed->drive);
+  auto entry = drive.find_entry(parsed->names);
+  auto file = entry ? open_named(drive, *entry) : std::nullopt;
+  if (!file) return std::nullopt;
+  return FoundFile{std::move(drive), std::move(*entry), std::move(*file)};
+}
+
+// A name that is free, in a folder that is there. Nothing when something bears it, be it what
+// Windows does not know or a link that leads nowhere.
+std::optional<HostEntry> free_name(const MachinePaths& paths, const std::string& path) {
+  const auto parsed = paths.parse(path);
+  if (!parsed || parsed->names.empty() || !can_be_created(parsed->names.back())) {
+    return std::nullopt;
+  }
+  const DriveFolder drive = paths.drive(parsed->drive);
+  if (drive.find_entry(parsed->names)) return std::nullopt;
+  auto folder = drive.find(std::span(parsed->names).first(parsed->names.size() - 1));
+  if (!folder || !is_folder(folder->status)) return std::nullopt;
+  return HostEntry{std::move(*folder), parsed->names.back()};
+}
+
+bool write_new_file(const MachinePaths& paths, const std::string& path, std::string_view content) {
+  const auto entry = free_name(paths, path);
+  return entry && replace_drive_file(*entry, nullptr, content);
+}
+
+}  // namespace
+
+FolderFileSystem::FolderFileSystem(const MachineState& machine, unsigned reading_threads)
+    : paths_(machine),
+      reading_threads_(reading_threads == 0 ? worthwhile_threads() : reading_threads) {}
+
+std::shared_ptr<const FolderTree> FolderFileSystem::read_tree(const std::string& folder,
+                                                              const std::string& pattern) const {
+  return read_tree_for(folder, {pattern});
+}
+
+std::shared_ptr<const FolderTree> FolderFileSystem::read_tree_for(
+    const std::string& folder, const std::vector<std::string>& patterns) const {
+  const auto path = paths_.parse(folder);
+  if (!path || patterns.size() > FolderTree::kMostPatterns) return nullptr;
+  const DriveFolder drive = paths_.drive(path->drive);
+  const auto place = drive.find(path->names);
+  if (!place || !is_folder(place->status)) return nullptr;
+
+  const TreeScope scope(drive, patterns, paths_.denied());
+  const std::size_t path_units = utf16_length(with_backslash(folder));
+  if (!scope.can_list(path_units) || scope.is_denied(HostIdentity::of(place->status))) {
+    return nullptr;
+  }
+  Descriptor readable = open_for_listing(*place);
+  if (!readable.is_open()) return nullptr;
+  auto tree = std::make_shared<FolderTree>();
+  FolderWalk(scope, reading_threads_, *tree).read(*place, std::move(readable), path_units);
+  return tree;
+}
+
+std::vector<FolderEntry> FolderFileSystem::list_folder(const std::string& folder,
+                                                       const std::string& pattern) const {
+  const auto path = paths_.parse(folder);
+  if (!path || !fits_path_limit(utf16_length(with_backslash(folder) + pattern))) return {};
+  const DriveFolder drive = paths_.drive(path->drive);
+  auto place = drive.find(path->names);
+  if (!place || !is_folder(place->status)) return {};
+  const auto denied = paths_.denied();
+  if (std::find(denied.begin(), denied.end(), HostIdentity::of(place->status)) != denied.end()) {
+    return {};
+  }
+  return list_entries(drive, std::move(*place), pattern);
+}
+
+std::optional<std::uint32_t> FolderFileSystem::attributes(const std::string& path) const {
+  if (const auto found = find_named(paths_, path)) return found->file.attributes();
+  // The drive itself has no name.
+  const auto place = paths_.find(path);
+  return place && place->path.empty() ? std::optional(kAttributeFolder) : std::nullopt;
+}
+
+bool FolderFileSystem::set_attributes(const std::string& path, std::uint32_t bits) {
+  const auto found = find_named(paths_, path);
+  if (!found || found->file.is_link()) return false;
+  if (paths_.is_in_use(HostIdentity::of(found->file.named.status))) return false;
+  return write_file_attributes(found->file.named, bits);
+}
+
+std::optional<std::uint64_t> FolderFileSystem::file_size(const std::string& path) const {
+  const auto place = paths_.find(path);
+  if (!place || !is_file(place->status)) return std::nullopt;
+  return place->status.stx_size;
+}
+
+std::optional<std::string> FolderFileSystem::read_file(const std::string& path) const {
+  const auto place = paths_.find(path);
+  return place ? read_drive_file(*place) : std::nullopt;
+}
+
+bool FolderFileSystem::write_file(const std::string& path, std::string_view content) {
+  const auto found = find_named(paths_, path);
+  if (!found) return write_new_file(paths_, path, content);
+  const HostPlace& old = found->file.place();
+  if (!is_file(old.status) || is_read_only(read_file_attributes(old))) return false;
+  if (paths_.is_in_use(HostIdentity::of(old.status))) return false;
+  if (!found->file.is_link()) return replace_drive_file(found->entry, &old, content);
+  const auto entry = found->drive.entry_of(old);
+  return entry && replace_drive_file(*entry, &old, content);
+}
+
+bool FolderFileSystem::can_open(const std::string& path) const {
+  const auto place = paths_.find(path);
+  return place && can_read_drive_file(*place);
+}
+
+bool FolderFileSystem::rename_file(const std::string& from, const std::string& to) {
+  const auto found = find_named(paths_, from);
+  if (!found || !is_file(found->file.place().status)) return false;
+  if (paths_.is_in_use(HostIdentity::of(found->file.place().status))) return false;
+  const auto entry = free_name(paths_, to);
+  if (!entry) return false;
+  // A name that was taken meanwhile stays with its owner.
+  return renameat2(found->entry.folder.object.number(), found->entry.name.c_str(),
+                   entry->folder.object.number(), entry->name.c_str(), RENAME_NOREPLACE) == 0;
+}
+
+bool FolderFileSystem::copy_file(const std::string& from, const std::string& to) {
+  const auto original = paths_.find(from);
+  const auto content = original ? read_drive_file(*original) : std::nullopt;
+  if (!content || !write_file(to, *content)) return false;
+  // The copy is there; a time or attribute that it cannot take is left out.
+  if (const auto copy = find_named(paths_, to)) {
+    const auto& written = original->status.stx_mtime;
+    const timespec times[] = {{0, UTIME_OMIT}, {written.tv_sec, written.tv_nsec}};
+    static_cast<void>(utimensat(copy->entry.folder.object.number(), copy->entry.name.c_str(), times,
+                                AT_SYMLINK_NOFOLLOW));
+    static_cast<void>(write_file_attributes(copy->file.place(), read_file_attributes(*original)));
+  }
+  return true;
+}
+
+bool FolderFileSystem::make_folder(const std::string& path) {
+  const auto entry = free_name(paths_, path);
+  return entry && mkdirat(entry->folder.object.number(), entry->name.c_str(), 0777) == 0;
+}
+
+void FolderFileSystem::remove_contents(const std::string& folder) {
+  const auto place = paths_.find(folder);
+  if (place && is_folder(place->status)) remove_folder_contents(*place);
+}
+
+RemoveResult FolderFileSystem::remove_file(const std::string& path) {
+  const auto found = find_named(paths_, path);
+  if (!found) return RemoveResult::kMissing;
+  const HostStatus& status = found->file.place().status;
+  if (!is_file(status)) return RemoveResult::kDenied;
+  if (paths_.is_in_use(HostIdentity::of(status))) return RemoveResult::kInUse;
+  if (is_read_only(found->file.attributes())) return RemoveResult::kDenied;
+  const int folder = found->entry.folder.object.number();
+  if (unlinkat(folder, found->entry.name.c_str(), 0) == 0) return RemoveResult::kRemoved;
+  return result_of(errno);
+}
+
+std::unique_ptr<MachineFiles> make_machine_files(const MachineState& machine) {
+  return std::make_unique<FolderFileSystem>(machine);
+}
+
+}  // namespace quillvane

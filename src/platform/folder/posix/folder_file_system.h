@@ -1,0 +1,49 @@
+// The files of a machine folder on Linux.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/folder/machine_files.h"
+#include "platform/folder/machine_state.h"
+#include "platform/folder/posix/machine_paths.h"
+
+namespace quillvane {
+
+class FolderFileSystem final : public MachineFiles {
+ public:
+  // A walk reads with `reading_threads` threads when the tree proves to be large; 0 means as many
+  // as this host makes worthwhile.
+  explicit FolderFileSystem(const MachineState& machine, unsigned reading_threads = 0);
+
+  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(
+      const std::string& folder, const std::string& pattern) const override;
+  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_for(
+      const std::string& folder, const std::vector<std::string>& patterns) const override;
+  [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
+                                                     const std::string& pattern) const override;
+  [[nodiscard]] std::optional<std::uint32_t> attributes(const std::string& path) const override;
+  [[nodiscard]] bool set_attributes(const std::string& path, std::uint32_t bits) override;
+
+  [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string& path) const override;
+  [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override;
+  [[nodiscard]] bool write_file(const std::string& path, std::string_view content) override;
+
+  [[nodiscard]] bool can_open(const std::string& path) const override;
+  [[nodiscard]] bool rename_file(const std::string& from, const std::string& to) override;
+  // The copy has the attributes and the time of the last writing too.
+  [[nodiscard]] bool copy_file(const std::string& from, const std::string& to) override;
+  [[nodiscard]] bool make_folder(const std::string& path) override;
+  [[nodiscard]] RemoveResult remove_file(const std::string& path) override;
+  void remove_contents(const std::string& folder) override;
+
+ private:
+  MachinePaths paths_;
+  unsigned reading_threads_;
+};
+
+}  // namespace quillvane

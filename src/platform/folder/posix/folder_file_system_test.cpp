@@ -1,0 +1,197 @@
+#include "platform/folder/posix/folder_file_system.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <string>
+
+#include "tests/support/drive_test.h"
+#include "tests/support/host_faults.h"
+
+namespace quillvane {
+
+namespace {
+
+class FolderFileSystemTest : public DriveTest {
+ protected:
+  FolderFileSystemTest() { host.write("drive_c/Temp/a.tmp", "12345"); }
+};
+
+}  // namespace
+
+TEST_F(FolderFileSystemTest, TellsTheSizeOfAFile) {
+  host.write_sparse("drive_c/Temp/big.dmp", std::uintmax_t{5} << 30U);
+  EXPECT_EQ(files.file_size("C:\\Temp\\a.tmp"), 5U);
+  EXPECT_EQ(files.file_size("C:\\TEMP\\BIG.DMP"), 5368709120U);
+  EXPECT_EQ(files.file_size("C:\\Temp"), std::nullopt);
+  EXPECT_EQ(files.file_size("C:\\Temp\\missing"), std::nullopt);
+}
+
+TEST_F(FolderFileSystemTest, RemovesAFileInAnyCase) {
+  EXPECT_EQ(files.remove_file("c:\\temp\\A.TMP"), RemoveResult::kRemoved);
+  EXPECT_FALSE(host.has("drive_c/Temp/a.tmp"));
+  EXPECT_EQ(files.remove_file("c:\\temp\\A.TMP"), RemoveResult::kMissing);
+}
+
+TEST_F(FolderFileSystemTest, RemovesTheExactMatchOfNamesThatDifferByCase) {
+  host.write("drive_c/Temp/A.TMP");
+  EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), RemoveResult::kRemoved);
+  EXPECT_TRUE(host.has("drive_c/Temp/A.TMP"));
+  EXPECT_FALSE(host.has("drive_c/Temp/a.tmp"));
+}
+
+TEST_F(FolderFileSystemTest, NeverRemovesAFolder) {
+  EXPECT_EQ(files.remove_file("C:\\Temp"), RemoveResult::kDenied);
+  EXPECT_EQ(files.remove_file("C:\\"), RemoveResult::kMissing);
+  EXPECT_EQ(files.remove_file("E:\\Temp\\a.tmp"), RemoveResult::kMissing);
+  EXPECT_TRUE(host.has("drive_c/Temp/a.tmp"));
+}
+
+TEST_F(FolderFileSystemTest, DeniesToRemoveAReadOnlyFile) {
+  set_stored_attributes("drive_c/Temp/a.tmp", "0x21");
+  EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), RemoveResult::kDenied);
+  EXPECT_FALSE(files.write_file("C:\\Temp\\a.tmp", "x"));
+  EXPECT_EQ(host.read("drive_c/Temp/a.tmp"), "12345");
+  EXPECT_TRUE(files.set_attributes("C:\\Temp\\a.tmp", 0x80));
+  EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), RemoveResult::kRemoved);
+}
+
+TEST_F(FolderFileSystemTest, DeniesToRemoveWhatTheHostKeeps) {
+  const AsOrdinaryUser user;
+  const TempFolder own;
+  own.write("a.tmp");
+  ASSERT_EQ(chmod(own.path().c_str(), 0555), 0);
+  machine.drives[0].folder = own.path();
+  EXPECT_EQ(files.remove_file("C:\\a.tmp"), RemoveResult::kDenied);
+  ASSERT_EQ(chmod(own.path().c_str(), 0755), 0);
+}
+
+TEST_F(FolderFileSystemTest, TellsWhyTheHostDidNotRemove) {
+  const struct {
+    int error;
+    RemoveResult result;
+  } cases[] = {{ENOENT, RemoveResult::kMissing},
+               {EBUSY, RemoveResult::kInUse},
+               {ETXTBSY, RemoveResult::kInUse},
+               {EROFS, RemoveResult::kDenied},
+               {EPERM, RemoveResult::kDenied}};
+  for (const auto& c : cases) {
+    with_failing_calls({SYS_unlinkat}, c.error, [&] {
+      EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), c.result) << c.error;
+    });
+  }
+}
+
+TEST_F(FolderFileSystemTest, ReadsAFileInUseAndChangesNothingOfIt) {
+  machine.in_use = {"c:\\TEMP\\a.tmp"};
+  EXPECT_EQ(files.read_file("C:\\Temp\\a.tmp"), "12345");
+  EXPECT_EQ(files.file_size("C:\\Temp\\a.tmp"), 5U);
+  EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), RemoveResult::kInUse);
+  EXPECT_FALSE(files.write_file("C:\\Temp\\a.tmp", "x"));
+  EXPECT_FALSE(files.set_attributes("C:\\Temp\\a.tmp", 0x21));
+  EXPECT_EQ(host.read("drive_c/Temp/a.tmp"), "12345");
+  EXPECT_EQ(files.attributes("C:\\Temp\\a.tmp"), 0x20U);
+  machine.in_use.clear();
+  EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), RemoveResult::kRemoved);
+}
+
+TEST_F(FolderFileSystemTest, DoesNotListADeniedFolderButOpensItsFiles) {
+  machine.denied = {"C:\\temp"};
+  EXPECT_EQ(list("C:\\Temp"), Names{});
+  EXPECT_EQ(files.read_tree("C:\\Temp", "*.*"), nullptr);
+  EXPECT_EQ(list("C:\\"), Names{"Temp"});
+  EXPECT_EQ(files.read_file("C:\\TEMP\\A.TMP"), "12345");
+  EXPECT_EQ(files.attributes("C:\\Temp"), 0x10U);
+}
+
+TEST_F(FolderFileSystemTest, RemovesALinkAndNotWhereItLeads) {
+  host.make_link("drive_c/link.tmp", "Temp/a.tmp");
+  set_stored_attributes("drive_c/Temp/a.tmp", "0x21");
+  EXPECT_EQ(files.attributes("C:\\link.tmp"), 0x20U);
+  EXPECT_FALSE(files.set_attributes("C:\\link.tmp", 0x80));
+  EXPECT_EQ(files.remove_file("C:\\link.tmp"), RemoveResult::kRemoved);
+  EXPECT_FALSE(host.has("drive_c/link.tmp"));
+  EXPECT_EQ(host.read("drive_c/Temp/a.tmp"), "12345");
+  EXPECT_EQ(stored_attributes("drive_c/Temp/a.tmp"), "0x21");
+}
+
+TEST_F(FolderFileSystemTest, KeepsALinkWhoseFileIsInUse) {
+  host.make_link("drive_c/link.tmp", "Temp/a.tmp");
+  machine.in_use = {"C:\\link.tmp"};
+  EXPECT_EQ(files.remove_file("C:\\link.tmp"), RemoveResult::kInUse);
+  EXPECT_TRUE(host.has("drive_c/link.tmp"));
+}
+
+TEST_F(FolderFileSystemTest, DeniesToRemoveALinkToAFolder) {
+  host.make_link("drive_c/link", "Temp");
+  EXPECT_EQ(files.attributes("C:\\link"), 0x10U);
+  EXPECT_EQ(files.remove_file("C:\\link"), RemoveResult::kDenied);
+  EXPECT_TRUE(host.has("drive_c/link"));
+  EXPECT_EQ(files.remove_file("C:\\link\\a.tmp"), RemoveResult::kRemoved);
+  EXPECT_FALSE(host.has("drive_c/Temp/a.tmp"));
+}
+
+TEST_F(FolderFileSystemTest, TakesALinkOutOfTheDriveForMissing) {
+  host.write("outside/a.tmp", "secret");
+  host.make_link("drive_c/folder", host.path_of("outside"));
+  host.make_link("drive_c/file.tmp", "../outside/a.tmp");
+  host.make_link("drive_c/other", host.path_of("drive_d"));
+  for (const char* path : {"C:\\folder", "C:\\file.tmp", "C:\\folder\\a.tmp", "C:\\other"}) {
+    EXPECT_EQ(files.attributes(path), std::nullopt) << path;
+    EXPECT_EQ(files.file_size(path), std::nullopt) << path;
+    EXPECT_EQ(files.read_file(path), std::nullopt) << path;
+    EXPECT_FALSE(files.set_attributes(path, 0x80)) << path;
+    EXPECT_FALSE(files.write_file(path, "x")) << path;
+    EXPECT_EQ(files.remove_file(path), RemoveResult::kMissing) << path;
+    EXPECT_EQ(list(path), Names{}) << path;
+    EXPECT_EQ(files.read_tree(path, "*.*"), nullptr) << path;
+  }
+  EXPECT_EQ(list("C:\\"), Names{"Temp"});
+  EXPECT_EQ(walk("C:\\"), Names{"Temp\\a.tmp"});
+  EXPECT_EQ(host.read("outside/a.tmp"), "secret");
+  EXPECT_TRUE(host.has("drive_c/file.tmp"));
+}
+
+TEST_F(FolderFileSystemTest, TakesWhatIsNeitherFileNorFolderForMissing) {
+  ASSERT_EQ(mkfifo(host.path_of("drive_c/Temp/pipe").c_str(), 0600), 0);
+  EXPECT_EQ(list("C:\\Temp"), Names{"a.tmp"});
+  EXPECT_EQ(walk("C:\\Temp"), Names{"a.tmp"});
+  EXPECT_EQ(files.attributes("C:\\Temp\\pipe"), std::nullopt);
+  EXPECT_EQ(files.file_size("C:\\Temp\\pipe"), std::nullopt);
+  EXPECT_EQ(files.read_file("C:\\Temp\\pipe"), std::nullopt);
+  EXPECT_FALSE(files.write_file("C:\\Temp\\pipe", "x"));
+  EXPECT_EQ(files.remove_file("C:\\Temp\\pipe"), RemoveResult::kMissing);
+  EXPECT_TRUE(host.has("drive_c/Temp/pipe"));
+}
+
+TEST_F(FolderFileSystemTest, PassesNamesThatAreNoUtf8) {
+  host.write("drive_c/Temp/\xFF\xFE.tmp", "odd");
+  EXPECT_EQ(list("C:\\Temp"), (Names{"a.tmp", "\xFF\xFE.tmp"}));
+  EXPECT_EQ(files.read_file("C:\\Temp\\\xFF\xFE.TMP"), "odd");
+  EXPECT_EQ(files.remove_file("C:\\Temp\\\xFF\xFE.tmp"), RemoveResult::kRemoved);
+}
+
+TEST_F(FolderFileSystemTest, CannotOpenWhatIsListedBeyondThePathLimit) {
+  const std::string name(100, 'n');
+  const std::string long_name(60, 'f');  // with the folder's 205 characters 265
+  const std::string folder = "C:\\" + name + "\\" + name;
+  host.write("drive_c/" + name + "/" + name + "/" + long_name, "x");
+  EXPECT_EQ(list(folder), Names{long_name});
+  EXPECT_EQ(files.file_size(folder + "\\" + long_name), std::nullopt);
+  EXPECT_EQ(files.read_file(folder + "\\" + long_name), std::nullopt);
+  EXPECT_FALSE(files.write_file(folder + "\\" + long_name, "y"));
+  EXPECT_EQ(files.remove_file(folder + "\\" + long_name), RemoveResult::kMissing);
+  EXPECT_TRUE(host.has("drive_c/" + name + "/" + name + "/" + long_name));
+}
+
+TEST_F(FolderFileSystemTest, SeesAMachineThatChanges) {
+  EXPECT_EQ(list("E:\\"), Names{});
+  host.write("drive_e/new.txt");
+  machine.drives.push_back({'E', DriveType::kRemovable, host.path_of("drive_e"), {}, {}});
+  EXPECT_EQ(list("E:\\"), Names{"new.txt"});
+}
+
+}  // namespace quillvane

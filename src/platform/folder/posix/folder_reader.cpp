@@ -1,0 +1,100 @@
+#include "platform/folder/posix/folder_reader.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "platform/folder/posix/listed_links.h"
+
+namespace quillvane {
+
+namespace {
+
+using Entry = DirectoryListing::Entry;
+using Kind = DirectoryListing::Kind;
+
+ListedFolder::FixedRecord record_of(const HostStatus& status, std::size_t name_end) {
+  using SplitTime = ListedFolder::SplitTime;
+  return {static_cast<std::uint32_t>(status.stx_size),
+          static_cast<std::uint32_t>(status.stx_size >> 32U),
+          SplitTime::of(created_time(status)),
+          SplitTime::of(file_time(status.stx_atime)),
+          SplitTime::of(file_time(status.stx_mtime)),
+          static_cast<std::uint32_t>(name_end)};
+}
+
+}  // namespace
+
+std::size_t FolderReader::read(const FolderInWork& work) {
+  if (!work.descriptor.is_open() || !listing_.read(work.descriptor.number())) return 0;
+  if (listing_.has_links()) {
+    follow_links(listing_, scope_.drive, work.route->path_of(*work.folder));
+  }
+  scope_.filter.apply(listing_, scope_.usable_patterns(work.path_units));
+  const std::size_t subfolders =
+      TreeScope::can_list_subfolders(work.path_units) ? add_subfolders(*work.folder) : 0;
+  add_files(work);
+  return subfolders;
+}
+
+std::size_t FolderReader::add_subfolders(ListedFolder& folder) {
+  std::size_t count = 0;
+  ListedFolder* last = nullptr;
+  for (const Entry& entry : listing_.entries()) {
+    if (entry.kind != Kind::kFolder) continue;
+    ListedFolder* next = ListedFolder::make(arena_, listing_.name(entry), &folder);
+    last == nullptr ? folder.set_first_subfolder(next) : last->set_next_sibling(next);
+    last = next;
+    ++count;
+  }
+  return count;
+}
+
+// The records are written where they stay. Of a file that is gone meanwhile only the room is left.
+void FolderReader::add_files(const FolderInWork& work) {
+  std::size_t names_length = 0;
+  listing_.drop_if([](const Entry& entry) { return entry.kind == Kind::kFolder; });
+  for (const Entry& entry : listing_.entries()) names_length += entry.name_length;
+  const auto listed = static_cast<std::uint32_t>(listing_.entries().size());
+  if (listed == 0) return;
+
+  auto* records = work.folder->allocate_files(arena_, listed, names_length);
+  std::uint32_t kept = 0;
+  std::size_t name_end = 0;
+  for (Entry& entry : listing_.entries()) {
+    HostStatus status;
+    if (!read_file_status(work, entry, status)) {
+      entry.matches = 0;
+      continue;
+    }
+    name_end += entry.name_length;
+    records[kept++] = record_of(status, name_end);
+  }
+  if (kept < listed) {
+    listing_.drop_if([](const Entry& entry) { return entry.matches == 0; });
+    work.folder->keep_files(kept);
+  }
+  add_names(*work.folder, reinterpret_cast<char*>(records + kept));
+}
+
+bool FolderReader::read_file_status(const FolderInWork& work, const Entry& entry,
+                                    HostStatus& status) const {
+  const char* name = listing_.host_name(entry);
+  if (entry.kind == Kind::kLinkToFile) {
+    const auto target = scope_.drive.follow(work.route->path_of(*work.folder), name);
+    if (target) status = target->status;
+    return target && is_file(status);
+  }
+  return quillvane::read_status(work.descriptor.number(), name, status) && is_file(status);
+}
+
+void FolderReader::add_names(ListedFolder& folder, char* names) {
+  for (const Entry& entry : listing_.entries()) {
+    const std::string_view name = listing_.name(entry);
+    names = std::copy(name.begin(), name.end(), names);
+  }
+  if (scope_.pattern_units.size() == 1) return;
+  std::uint32_t* matches = folder.allocate_matches(arena_);
+  for (const Entry& entry : listing_.entries()) *matches++ = entry.matches;
+}
+
+}  // namespace quillvane

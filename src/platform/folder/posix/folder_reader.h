@@ -1,0 +1,36 @@
+// Reads one folder of a walk: its files with sizes and times, and its subfolders by name.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+#include "platform/folder/posix/directory_listing.h"
+#include "platform/folder/posix/folder_in_work.h"
+#include "platform/folder/posix/tree_scope.h"
+#include "platform/folder_tree.h"
+
+namespace quillvane {
+
+// Each reading thread has one of its own.
+class FolderReader {
+ public:
+  FolderReader(const TreeScope& scope, TreeArena& arena) : scope_(scope), arena_(arena) {}
+
+  // Gives the folder its files and its subfolders, the latter without contents. Returns the number
+  // of subfolders.
+  std::size_t read(const FolderInWork& work);
+
+ private:
+  std::size_t add_subfolders(ListedFolder& folder);
+  void add_files(const FolderInWork& work);
+  [[nodiscard]] bool read_file_status(const FolderInWork& work,
+                                      const DirectoryListing::Entry& entry,
+                                      HostStatus& status) const;
+  void add_names(ListedFolder& folder, char* names);
+
+  const TreeScope& scope_;
+  TreeArena& arena_;
+  DirectoryListing listing_;
+};
+
+}  // namespace quillvane

@@ -1,9 +1,11 @@
-// This PC is the one machine of the console on Windows.
+// Without another machine named, the console on Windows works on this PC.
 
 #include <cstdlib>
 #include <string>
 
+#include "app/folder_host.h"
 #include "app/make_machine_host.h"
+#include "platform/win32/win32_environment.h"
 #include "platform/win32/win32_loop.h"
 #include "platform/win32/win32_machine.h"
 
@@ -49,36 +51,14 @@ class Win32ConsoleMachine final : public ConsoleMachine {
   VirtualLoop loop_;
 };
 
-// Machine folders are not part of this build.
-class Win32Host final : public MachineHost {
+class Win32Host final : public FolderHost {
  public:
   [[nodiscard]] std::variant<std::unique_ptr<ConsoleMachine>, HostProblem> open(
       const std::optional<std::string>& dir, std::ostream& /*notices*/) override {
-    if (dir) return missing("--machine");
-    // Whoever set it means that machine, not this PC.
-    if (std::getenv("QUILLVANE_MACHINE") != nullptr) return missing("QUILLVANE_MACHINE");
+    if (dir) return open_folder(*dir);
+    const std::string named = Win32Environment().get("QUILLVANE_MACHINE");
+    if (!named.empty()) return open_folder(named);
     return std::make_unique<Win32ConsoleMachine>();
-  }
-  [[nodiscard]] std::optional<HostProblem> create(const std::string& /*dir*/,
-                                                  bool /*demo*/) override {
-    return missing("machine create");
-  }
-  [[nodiscard]] std::variant<MachineSummary, HostProblem> describe(
-      const std::string& /*dir*/) override {
-    return missing("machine show");
-  }
-  [[nodiscard]] std::variant<std::string, HostProblem> export_registry(
-      const std::string& /*dir*/) override {
-    return missing("registry export");
-  }
-  [[nodiscard]] std::optional<HostProblem> import_registry(
-      const std::string& /*dir*/, const std::string& /*content*/) override {
-    return missing("registry import");
-  }
-
- private:
-  static HostProblem missing(const std::string& what) {
-    return {what + ": not available in this build, which works on this PC alone"};
   }
 };
 

@@ -1,63 +1,13 @@
 #include "tests/windows/folder_link.h"
 
 #include <windows.h>
-#include <winioctl.h>
 
-#include <cstring>
-#include <vector>
-
-#include "platform/win32/system_handle.h"
+#include "platform/win32/junction.h"
 #include "platform/win32/wide_text.h"
 
 namespace quillvane {
 
 namespace {
-
-// What FSCTL_SET_REPARSE_POINT takes for a junction: this, then both names with a zero each.
-struct JunctionHeader {
-  ULONG tag;
-  USHORT data_bytes;  // of all that follows the next field
-  USHORT reserved;
-  USHORT target_offset;
-  USHORT target_bytes;
-  USHORT shown_offset;
-  USHORT shown_bytes;
-};
-static_assert(sizeof(JunctionHeader) == 16);
-constexpr std::size_t kUncountedBytes = 8;  // the first three fields
-
-std::vector<char> junction_data(const std::wstring& target) {
-  const std::wstring nt_target = L"\\??\\" + target;
-  const auto target_bytes = static_cast<USHORT>(nt_target.size() * sizeof(wchar_t));
-  const auto shown_bytes = static_cast<USHORT>(target.size() * sizeof(wchar_t));
-  const std::size_t total =
-      sizeof(JunctionHeader) + target_bytes + shown_bytes + 2 * sizeof(wchar_t);
-  const JunctionHeader header{IO_REPARSE_TAG_MOUNT_POINT,
-                              static_cast<USHORT>(total - kUncountedBytes),
-                              0,
-                              0,
-                              target_bytes,
-                              static_cast<USHORT>(target_bytes + sizeof(wchar_t)),
-                              shown_bytes};
-  std::vector<char> data(total);
-  std::memcpy(data.data(), &header, sizeof(header));
-  char* names = data.data() + sizeof(header);
-  std::memcpy(names, nt_target.data(), target_bytes);
-  std::memcpy(names + header.shown_offset, target.data(), shown_bytes);
-  return data;
-}
-
-bool make_junction(const std::wstring& path, const std::wstring& target) {
-  if (!CreateDirectoryW(path.c_str(), nullptr)) return false;
-  const FileHandle folder(CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
-                                      FILE_FLAG_OPEN_REPARSE_POINT | FILE_FLAG_BACKUP_SEMANTICS,
-                                      nullptr));
-  std::vector<char> data = junction_data(target);
-  DWORD returned = 0;
-  return folder.is_valid() &&
-         DeviceIoControl(folder.get(), FSCTL_SET_REPARSE_POINT, data.data(),
-                         static_cast<DWORD>(data.size()), nullptr, 0, &returned, nullptr);
-}
 
 using UnixName = char*(CDECL*)(const wchar_t*);
 
@@ -124,7 +74,7 @@ bool remove_host_link(UnixName unix_name, const std::wstring& path) {
 
 bool make_folder_link(const std::wstring& path, const std::wstring& target) {
   const UnixName unix_name = wine_unix_name();
-  return unix_name == nullptr ? make_junction(path, target)
+  return unix_name == nullptr ? make_junction(path, target) == ERROR_SUCCESS
                               : make_host_link(unix_name, path, target);
 }
 

@@ -93,8 +93,11 @@ class Stage {
     if (!problem_) keep(path, stage_folder(machine_, path));
   }
 
+  // Left out on a disk that knows no links: it shows the machine in nothing else.
   void junction(const std::string& path, const std::string& target) {
-    if (!problem_) keep(path, stage_junction(machine_, path, target));
+    if (problem_) return;
+    const std::error_code failed = stage_junction(machine_, path, target);
+    if (failed != std::errc::operation_not_supported) keep(path, failed);
   }
 
  private:

@@ -1,9 +1,8 @@
 #include "platform/win32/file_content.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <cwchar>
+#include <limits>
 
 #include "platform/win32/system_handle.h"
 
@@ -34,7 +33,26 @@ FileBeside open_beside(const std::wstring& path) {
   return {};
 }
 
-bool write_all(HANDLE file, std::string_view content) {
+}  // namespace
+
+std::optional<std::string> read_to_end(HANDLE file, std::uint64_t most) {
+  std::string content;
+  std::size_t length = 0;
+  for (;;) {
+    content.resize(length + kBlockBytes);
+    DWORD read = 0;
+    if (!ReadFile(file, content.data() + length, static_cast<DWORD>(kBlockBytes), &read, nullptr)) {
+      return std::nullopt;
+    }
+    length += read;
+    if (length > most) return std::nullopt;
+    if (read == 0) break;
+  }
+  content.resize(length);
+  return content;
+}
+
+bool write_to_disk(HANDLE file, std::string_view content) {
   while (!content.empty()) {
     const auto wanted = static_cast<DWORD>(std::min(content.size(), kBlockBytes));
     DWORD written = 0;
@@ -44,27 +62,12 @@ bool write_all(HANDLE file, std::string_view content) {
   return FlushFileBuffers(file) != 0;
 }
 
-}  // namespace
-
 std::optional<std::string> read_whole_file(const std::wstring& path) {
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const FileHandle file(CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
                                     FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
   if (!file.is_valid()) return std::nullopt;
-  std::string content;
-  std::size_t length = 0;
-  for (;;) {
-    content.resize(length + kBlockBytes);
-    DWORD read = 0;
-    if (!ReadFile(file.get(), content.data() + length, static_cast<DWORD>(kBlockBytes), &read,
-                  nullptr)) {
-      return std::nullopt;
-    }
-    length += read;
-    if (read == 0) break;
-  }
-  content.resize(length);
-  return content;
+  return read_to_end(file.get(), std::numeric_limits<std::uint64_t>::max());
 }
 
 bool replace_whole_file(const std::wstring& path, std::string_view content) {
@@ -74,7 +77,7 @@ bool replace_whole_file(const std::wstring& path, std::string_view content) {
   }
   FileBeside beside = open_beside(path);
   if (!beside.file.is_valid()) return false;
-  const bool is_complete = write_all(beside.file.get(), content);
+  const bool is_complete = write_to_disk(beside.file.get(), content);
   beside.file = FileHandle();
   if (is_complete && MoveFileExW(beside.path.c_str(), path.c_str(),
                                  MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {

@@ -1,4 +1,4 @@
-// Where the console finds its machines. There is one host a build: machine folders, or this PC.
+// Where the console finds its machines: machine folders, and on Windows this PC too.
 #pragma once
 
 #include <cstdint>

@@ -1,0 +1,44 @@
+#include "platform/folder/win32/folder_entries.h"
+
+#include "platform/folder/win32/held_file.h"
+#include "platform/win32/folder_listing.h"
+#include "platform/win32/long_path.h"
+#include "platform/win32/wide_text.h"
+
+namespace quillvane {
+
+namespace {
+
+std::vector<std::wstring> names_in(const HeldPlace& folder) {
+  std::vector<std::wstring> names;
+  FolderListing listing(path_below(folder.path, L"*"), FolderListing::ShortNames::kNo);
+  while (const WIN32_FIND_DATAW* entry = listing.next()) names.emplace_back(entry->cFileName);
+  return names;
+}
+
+}  // namespace
+
+std::vector<HostFile> read_entries(const HostDrive& drive, const HeldPlace& folder) {
+  std::vector<HostFile> files;
+  for (const std::wstring& name : names_in(folder)) {
+    if (name.find(L'\\') != std::wstring::npos) continue;
+    const auto place = drive.follow(folder, name, Access::kTold);
+    if (!place) continue;
+    const bool is_link = place->path != path_below(folder.path, name);
+    files.push_back({narrow(name), place->status, is_link});
+  }
+  return files;
+}
+
+void remove_entries(const HeldPlace& folder) {
+  for (const std::wstring& name : names_in(folder)) {
+    const auto place = open_itself(folder, name, Access::kRemoved);
+    if (!place) continue;
+    const bool is_link = (place->status.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+    if (place->is_folder() && !is_link) remove_entries(*place);
+    static_cast<void>(change(*place, 0));  // a read-only file goes too
+    static_cast<void>(remove_when_closed(place->handle.get()));
+  }
+}
+
+}  // namespace quillvane

@@ -1,0 +1,26 @@
+// What lies in a folder of a drive: its files and folders, and what its links lead to.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/folder/win32/host_drive.h"
+
+namespace quillvane {
+
+struct HostFile {
+  std::string name;  // as stored
+  HostStatus status{};
+  bool is_link = false;  // the status is that of where it leads
+};
+
+// In no order. Links that lead nowhere are left out, and names that would be a path on the machine.
+// Each is opened to see where it lies: not every host tells a link to a file from a file. Requires:
+// the folder is held with Access::kListed.
+[[nodiscard]] std::vector<HostFile> read_entries(const HostDrive& drive, const HeldPlace& folder);
+
+// Removes all that lies in a folder; links go themselves where the host allows it. What cannot be
+// removed stays, and what lies beside it goes all the same.
+void remove_entries(const HeldPlace& folder);
+
+}  // namespace quillvane

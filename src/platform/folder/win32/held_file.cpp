@@ -1,0 +1,103 @@
+#include "platform/folder/win32/held_file.h"
+
+#include <atomic>
+#include <cstring>
+#include <vector>
+
+#include "platform/file_system.h"
+#include "platform/win32/file_content.h"
+#include "platform/win32/long_path.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr std::uint32_t kSettable =
+    kAttributeReadOnly | kAttributeHidden | kAttributeSystem | kAttributeArchive;
+// The program's own files are lists and texts. What is larger is none of them, and could take the
+// whole memory.
+constexpr std::uint64_t kMostRead = std::uint64_t{1} << 30U;
+
+bool change_basics(HANDLE handle, std::uint32_t attributes, std::optional<FILETIME> written) {
+  FILE_BASIC_INFO info{};  // what is 0 stays as it is
+  attributes &= kSettable;
+  info.FileAttributes = attributes == 0 ? kAttributeNormal : attributes;
+  if (written) {
+    info.LastWriteTime.LowPart = written->dwLowDateTime;
+    info.LastWriteTime.HighPart = static_cast<LONG>(written->dwHighDateTime);
+  }
+  return SetFileInformationByHandle(handle, FileBasicInfo, &info, sizeof info) != 0;
+}
+
+// A new file in a folder, under a name that no other has. Not valid when none can be made there.
+FileHandle make_beside(const HeldPlace& folder) {
+  static std::atomic<unsigned> last_number = 0;
+  for (;;) {
+    const std::wstring path =
+        path_below(folder.path, L".quillvane-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
+                                    std::to_wstring(++last_number));
+    constexpr DWORD kNeeded = GENERIC_WRITE | DELETE | FILE_READ_ATTRIBUTES;
+    FileHandle file(
+        CreateFileW(path.c_str(), kNeeded, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+    if (!file.is_valid() && GetLastError() == ERROR_FILE_EXISTS) continue;
+    if (file.is_valid() && place_of(file.get()) != path) {
+      // Made elsewhere: something has been put in the way.
+      static_cast<void>(remove_when_closed(file.get()));
+      return {};
+    }
+    return file;
+  }
+}
+
+}  // namespace
+
+std::uint32_t machine_attributes(const HostStatus& status) {
+  const std::uint32_t kind = is_folder(status) ? kAttributeFolder : 0;
+  const std::uint32_t bits = (status.dwFileAttributes & kSettable) | kind;
+  return bits == 0 ? kAttributeNormal : bits;
+}
+
+bool change(const HeldPlace& place, std::uint32_t attributes, std::optional<FILETIME> written) {
+  return change_basics(place.handle.get(), attributes, written);
+}
+
+bool remove_when_closed(HANDLE handle) {
+  FILE_DISPOSITION_INFO info{TRUE};
+  return SetFileInformationByHandle(handle, FileDispositionInfo, &info, sizeof info) != 0;
+}
+
+bool move_to(HANDLE file, const HeldPlace& folder, const std::wstring& name, Taken taken) {
+  const std::wstring path = path_below(folder.path, name);
+  const std::size_t bytes = path.size() * sizeof(wchar_t);
+  // The path stands behind the fields, with a zero that is not counted.
+  std::vector<FILE_RENAME_INFO> room((sizeof(FILE_RENAME_INFO) + bytes) / sizeof(FILE_RENAME_INFO) +
+                                     1);
+  FILE_RENAME_INFO& info = room.front();
+  info.ReplaceIfExists = taken == Taken::kIsReplaced;
+  info.FileNameLength = static_cast<DWORD>(bytes);
+  std::memcpy(info.FileName, path.data(), bytes);
+  return SetFileInformationByHandle(file, FileRenameInfo, &info,
+                                    static_cast<DWORD>(sizeof(FILE_RENAME_INFO) + bytes)) != 0;
+}
+
+std::optional<std::string> read_content(const HeldPlace& file) {
+  const auto& status = file.status;
+  if (file.is_folder() ||
+      (std::uint64_t{status.nFileSizeHigh} << 32U | status.nFileSizeLow) > kMostRead) {
+    return std::nullopt;
+  }
+  return read_to_end(file.handle.get(), kMostRead);
+}
+
+bool put_file(const HeldEntry& entry, Taken taken, std::uint32_t attributes,
+              std::string_view content) {
+  const FileHandle beside = make_beside(entry.folder);
+  if (!beside.is_valid()) return false;
+  const bool done = write_to_disk(beside.get(), content) &&
+                    change_basics(beside.get(), attributes, std::nullopt) &&
+                    move_to(beside.get(), entry.folder, entry.name, taken);
+  if (!done) static_cast<void>(remove_when_closed(beside.get()));
+  return done;
+}
+
+}  // namespace quillvane

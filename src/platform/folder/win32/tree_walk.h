@@ -1,0 +1,41 @@
+// Reads a folder of a drive and everything below it, one folder after the other.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "platform/folder/tree_patterns.h"
+#include "platform/folder/win32/folder_entries.h"
+#include "platform/folder/win32/host_drive.h"
+#include "platform/folder_tree.h"
+
+namespace quillvane {
+
+class TreeWalk {
+ public:
+  // `denied` are the folders that cannot be listed. All must outlive this object.
+  TreeWalk(const HostDrive& drive, const TreePatterns& patterns,
+           const std::vector<HostIdentity>& denied, FolderTree& tree)
+      : drive_(drive),
+        patterns_(patterns),
+        denied_(denied),
+        tree_(tree),
+        arena_(tree.add_arena()) {}
+
+  // Reads the tree from a folder on that is held with Access::kListed and not denied. `path_units`
+  // are the UTF-16 units of its Windows path with a backslash.
+  void read(const HeldPlace& start, std::size_t path_units);
+
+ private:
+  void read_folder(ListedFolder& folder, const HeldPlace& place, std::size_t path_units);
+  void read_subfolder(ListedFolder& folder, const HeldPlace& parent, std::size_t path_units);
+
+  const HostDrive& drive_;
+  const TreePatterns& patterns_;
+  const std::vector<HostIdentity>& denied_;
+  FolderTree& tree_;
+  TreeArena& arena_;
+  std::vector<HostIdentity> way_;  // the folders that the walk is in
+};
+
+}  // namespace quillvane

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "platform/folder/posix/descriptor.h"
+#include "platform/folder/posix/directory_listing.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillvane {

@@ -254,6 +254,7 @@ class Form7 final : public Window {
   void clean_button();
   [[nodiscard]] bool remove_row(const std::string& path);
   [[nodiscard]] bool remove_all_rows();
+  void expect_removals(int first_row);
 
   // window_commands.cpp
   [[nodiscard]] int row_in_hand() const;

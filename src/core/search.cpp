@@ -48,22 +48,29 @@ const FolderRun& Files::run_of(std::size_t index) const {
   return *std::prev(next);
 }
 
-std::string Files::path_of(const ListedFolder& folder) const {
-  std::vector<std::string_view> names;
+// Filled from its end, so that the text is made in one piece.
+std::string Files::full_name_in(const ListedFolder& folder, std::string_view name) const {
+  std::size_t length = root_path_.size() + name.size();
   for (const ListedFolder* at = &folder; at != root_; at = at->parent()) {
-    names.push_back(at->name());
+    length += at->name().size() + 1;
   }
-  std::string path = root_path_;
-  for (auto name = names.rbegin(); name != names.rend(); ++name) {
-    path.append(*name).push_back('\\');
+  std::string path(length, '\\');
+  std::size_t end = length - name.size();
+  path.replace(end, name.size(), name);
+  for (const ListedFolder* at = &folder; at != root_; at = at->parent()) {
+    end -= at->name().size() + 1;
+    path.replace(end, at->name().size(), at->name());
   }
+  path.replace(0, root_path_.size(), root_path_);
   return path;
 }
+
+std::string Files::path_of(const ListedFolder& folder) const { return full_name_in(folder, ""); }
 
 std::string Files::full_name(std::size_t index) const {
   const FolderRun& run = run_of(index);
   const auto file = run.first + static_cast<std::uint32_t>(index - run.begin);
-  return path_of(*run.folder).append(run.folder->name_of(file));
+  return full_name_in(*run.folder, run.folder->name_of(file));
 }
 
 File Files::Item(std::size_t index) const {

@@ -61,6 +61,7 @@ class Files {
   [[nodiscard]] const std::vector<FolderRun>& runs() const { return runs_; }
   // Path of a folder of the tree, with its backslash.
   [[nodiscard]] std::string path_of(const ListedFolder& folder) const;
+  [[nodiscard]] std::string full_name_in(const ListedFolder& folder, std::string_view name) const;
 
  private:
   [[nodiscard]] const FolderRun& run_of(std::size_t index) const;

@@ -22,7 +22,7 @@ void redirect_sysnative(const MachineState& machine, WindowsPath& path) {
 }  // namespace
 
 std::optional<WindowsPath> parse_machine_path(const MachineState& machine, std::string_view text) {
-  if (!fits_path_limit(utf16_length(text))) return std::nullopt;
+  if (!fits_path_limit(text)) return std::nullopt;
   auto path = parse_windows_path(text);
   if (path && machine.is_64_bit) redirect_sysnative(machine, *path);
   return path;

@@ -27,6 +27,7 @@ struct WindowsPath {
 
 // Whether a path of so many UTF-16 units can be handed to a Windows call: it is below 260.
 [[nodiscard]] constexpr bool fits_path_limit(std::size_t utf16_units) { return utf16_units < 260; }
+[[nodiscard]] bool fits_path_limit(std::string_view path);
 
 // Whether Windows allows a file of this name. Names that are there already are used all the same.
 [[nodiscard]] bool can_be_created(std::string_view name);

@@ -169,11 +169,12 @@ std::optional<HostPlace> DriveFolder::find_as_spelt(std::span<const std::string>
 }
 
 std::optional<HostPlace> DriveFolder::find(std::span<const std::string> names) const {
+  if (names.empty()) return root();
   if (auto place = find_as_spelt(names)) return place;
-  auto start = root();
-  if (!start) return std::nullopt;
-  return Way(*this, std::move(*start))
-      .go({std::make_reverse_iterator(names.end()), std::make_reverse_iterator(names.begin())});
+  // What is missing or spelt otherwise mostly is so in its last name only.
+  auto folder = find(names.first(names.size() - 1));
+  if (!folder) return std::nullopt;
+  return Way(*this, std::move(*folder)).go({names.back()});
 }
 
 std::optional<HostEntry> DriveFolder::find_entry(std::span<const std::string> names) const {

@@ -25,9 +25,10 @@ std::string path_of(const HostPlace& place) {
   return "/proc/self/fd/" + std::to_string(place.object.number());
 }
 
-std::optional<std::string> stored_text(const HostPlace& place) {
+// `read` decides whether a link at the end of the path is followed.
+std::optional<std::string> stored_text(const std::string& path, decltype(&getxattr) read) {
   std::array<char, 256> text;
-  const ssize_t length = getxattr(path_of(place).c_str(), kName, text.data(), text.size());
+  const ssize_t length = read(path.c_str(), kName, text.data(), text.size());
   if (length < 0) return std::nullopt;
   return std::string(text.data(), static_cast<std::size_t>(length));
 }
@@ -57,19 +58,27 @@ bool set_owner_may_write(const HostPlace& place, bool may) {
   return chmod(path_of(place).c_str(), may ? mode | S_IWUSR : mode & ~mode_t{S_IWUSR}) == 0;
 }
 
-}  // namespace
-
-std::uint32_t read_file_attributes(const HostPlace& place) {
-  const bool folder = is_folder(place.status);
+std::uint32_t attributes_of(const HostStatus& status, const std::optional<std::string>& text) {
+  const bool folder = is_folder(status);
   const std::uint32_t kind = folder ? kAttributeFolder : 0;
-  const auto text = stored_text(place);
   if (const auto stored = text ? parse(*text) : std::nullopt) {
     const std::uint32_t bits = (*stored & kSettable) | kind;
     return bits == 0 ? kAttributeNormal : bits;
   }
   if (folder) return kind;
-  const bool writable = (place.status.stx_mode & S_IWUSR) != 0;
+  const bool writable = (status.stx_mode & S_IWUSR) != 0;
   return kAttributeArchive | (writable ? 0 : kAttributeReadOnly);
+}
+
+}  // namespace
+
+std::uint32_t read_file_attributes(const HostPlace& place) {
+  return attributes_of(place.status, stored_text(path_of(place), getxattr));
+}
+
+std::uint32_t read_file_attributes(const HostPlace& folder, const std::string& name,
+                                   const HostStatus& status) {
+  return attributes_of(status, stored_text(path_of(folder) + "/" + name, lgetxattr));
 }
 
 bool write_file_attributes(const HostPlace& place, std::uint32_t bits) {
@@ -89,7 +98,8 @@ bool write_file_attributes(const HostPlace& place, std::uint32_t bits) {
 }
 
 void copy_file_attributes(const HostPlace& from, int to) {
-  if (const auto text = stored_text(from)) fsetxattr(to, kName, text->data(), text->size(), 0);
+  if (const auto text = stored_text(path_of(from), getxattr))
+    fsetxattr(to, kName, text->data(), text->size(), 0);
 }
 
 }  // namespace quillvane

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "platform/folder/posix/drive_folder.h"
 
@@ -10,6 +11,10 @@ namespace quillvane {
 
 // Of a file or folder, not a link. 0x80 for a file that has none.
 [[nodiscard]] std::uint32_t read_file_attributes(const HostPlace& place);
+
+// The same for a file of that name in a folder, without opening it. `status` is the file's own.
+[[nodiscard]] std::uint32_t read_file_attributes(const HostPlace& folder, const std::string& name,
+                                                 const HostStatus& status);
 
 // Replaces those that can be set. Where the host keeps no extended attributes, only read-only is
 // kept, as the owner's right to write. False when the host refuses.

@@ -43,7 +43,45 @@ RemoveResult result_of(int error) {
   }
 }
 
+RemoveResult remove_name(int folder, const std::string& name) {
+  return unlinkat(folder, name.c_str(), 0) == 0 ? RemoveResult::kRemoved : result_of(errno);
+}
+
 bool is_read_only(std::uint32_t attributes) { return (attributes & kAttributeReadOnly) != 0; }
+
+// Whether the name stands for nothing but itself in a path.
+bool is_plain_name(std::string_view name) {
+  return !name.empty() && name != "." && name != ".." && name.find('/') == std::string_view::npos;
+}
+
+// Finds the folders of paths; neighbours share theirs, and all on a drive share the drive.
+class LookedAtFolders {
+ public:
+  explicit LookedAtFolders(const MachinePaths& paths) : paths_(paths) {}
+
+  // `text` ends in a backslash and outlives this object. Null when it is no path.
+  const std::shared_ptr<const LookedAtFolder>& find(std::string_view text) {
+    if (text == text_) return folder_;
+    text_ = text;
+    folder_.reset();
+    auto parsed = paths_.parse(text);
+    if (!parsed) return folder_;
+    if (!drive_ || letter_ != parsed->drive) {
+      letter_ = parsed->drive;
+      drive_ = std::make_shared<const DriveFolder>(paths_.drive(letter_));
+    }
+    folder_ =
+        std::make_shared<const LookedAtFolder>(LookedAtFolder{drive_, std::move(parsed->names)});
+    return folder_;
+  }
+
+ private:
+  const MachinePaths& paths_;
+  std::string_view text_;
+  std::shared_ptr<const LookedAtFolder> folder_;
+  char letter_ = 0;
+  std::shared_ptr<const DriveFolder> drive_;
+};
 
 // A name that is there, and what stands under it.
 struct FoundFile {
@@ -134,6 +172,7 @@ std::optional<std::uint32_t> FolderFileSystem::attributes(const std::string& pat
 }
 
 bool FolderFileSystem::set_attributes(const std::string& path, std::uint32_t bits) {
+  forget_seen();
   const auto found = find_named(paths_, path);
   if (!found || found->file.is_link()) return false;
   if (paths_.is_in_use(HostIdentity::of(found->file.named.status))) return false;
@@ -141,6 +180,7 @@ bool FolderFileSystem::set_attributes(const std::string& path, std::uint32_t bit
 }
 
 std::optional<std::uint64_t> FolderFileSystem::file_size(const std::string& path) const {
+  if (is_just_removed(path)) return std::nullopt;
   const auto place = paths_.find(path);
   if (!place || !is_file(place->status)) return std::nullopt;
   return place->status.stx_size;
@@ -152,6 +192,7 @@ std::optional<std::string> FolderFileSystem::read_file(const std::string& path) 
 }
 
 bool FolderFileSystem::write_file(const std::string& path, std::string_view content) {
+  forget_seen();
   const auto found = find_named(paths_, path);
   if (!found) return write_new_file(paths_, path, content);
   const HostPlace& old = found->file.place();
@@ -168,6 +209,7 @@ bool FolderFileSystem::can_open(const std::string& path) const {
 }
 
 bool FolderFileSystem::rename_file(const std::string& from, const std::string& to) {
+  forget_seen();
   const auto found = find_named(paths_, from);
   if (!found || !is_file(found->file.place().status)) return false;
   if (paths_.is_in_use(HostIdentity::of(found->file.place().status))) return false;
@@ -194,25 +236,69 @@ bool FolderFileSystem::copy_file(const std::string& from, const std::string& to)
 }
 
 bool FolderFileSystem::make_folder(const std::string& path) {
+  forget_seen();
   const auto entry = free_name(paths_, path);
   return entry && mkdirat(entry->folder.object.number(), entry->name.c_str(), 0777) == 0;
 }
 
 void FolderFileSystem::remove_contents(const std::string& folder) {
+  forget_seen();
   const auto place = paths_.find(folder);
   if (place && is_folder(place->status)) remove_folder_contents(*place);
 }
 
+void FolderFileSystem::expect_removals(const std::vector<std::string>& paths) {
+  std::vector<RemovalAhead::Expected> files;
+  files.reserve(paths.size());
+  LookedAtFolders folders(paths_);
+  for (const std::string& path : paths) {
+    const std::size_t name = path.rfind('\\') + 1;
+    if (!is_plain_name(std::string_view(path).substr(name)) || !fits_path_limit(path)) continue;
+    const auto& folder = folders.find(std::string_view(path).substr(0, name));
+    if (folder) files.push_back({path, folder, path.substr(name)});
+  }
+  if (!ahead_) ahead_ = std::make_unique<RemovalAhead>();
+  ahead_->expect(std::move(files));
+}
+
 RemoveResult FolderFileSystem::remove_file(const std::string& path) {
+  removed_path_.clear();
+  auto seen = ahead_ ? ahead_->take(path) : std::nullopt;
+  return seen ? remove_seen(path, std::move(*seen)) : remove_looking(path);
+}
+
+RemoveResult FolderFileSystem::remove_seen(const std::string& path, SeenFile file) {
+  if (paths_.is_in_use(HostIdentity::of(file.status))) return RemoveResult::kInUse;
+  if (is_read_only(file.attributes)) return RemoveResult::kDenied;
+  const RemoveResult result = remove_name(file.folder->object.number(), file.name);
+  if (result == RemoveResult::kRemoved) {
+    removed_path_ = path;
+    removed_ = std::move(file);
+  }
+  return result;
+}
+
+RemoveResult FolderFileSystem::remove_looking(const std::string& path) {
   const auto found = find_named(paths_, path);
   if (!found) return RemoveResult::kMissing;
   const HostStatus& status = found->file.place().status;
   if (!is_file(status)) return RemoveResult::kDenied;
   if (paths_.is_in_use(HostIdentity::of(status))) return RemoveResult::kInUse;
   if (is_read_only(found->file.attributes())) return RemoveResult::kDenied;
-  const int folder = found->entry.folder.object.number();
-  if (unlinkat(folder, found->entry.name.c_str(), 0) == 0) return RemoveResult::kRemoved;
-  return result_of(errno);
+  return remove_name(found->entry.folder.object.number(), found->entry.name);
+}
+
+bool FolderFileSystem::is_just_removed(const std::string& path) const {
+  if (removed_path_.empty() || path != removed_path_ || !removed_.only_name) return false;
+  if (!is_fresh(removed_)) return false;
+  HostStatus status;
+  return !read_status(removed_.folder->object.number(), removed_.name.c_str(), status) &&
+         errno == ENOENT;
+}
+
+void FolderFileSystem::forget_seen() {
+  removed_path_.clear();
+  if (ahead_) ahead_->forget();
 }
 
 std::unique_ptr<MachineFiles> make_machine_files(const MachineState& machine) {

@@ -194,4 +194,73 @@ TEST_F(FolderFileSystemTest, SeesAMachineThatChanges) {
   EXPECT_EQ(list("E:\\"), Names{"new.txt"});
 }
 
+namespace {
+
+// A folder of many files, all expected to be removed, so that most are seen ahead.
+class ExpectedRemovalTest : public DriveTest {
+ protected:
+  ExpectedRemovalTest() {
+    for (std::size_t i = 0; i < 400; ++i) {
+      names.push_back("file" + std::to_string(i) + ".tmp");
+      host.write("drive_c/Temp/" + names.back(), "x");
+      paths.push_back("C:\\Temp\\" + names.back());
+    }
+  }
+
+  Names names;
+  Names paths;
+};
+
+}  // namespace
+
+TEST_F(ExpectedRemovalTest, RemovesWhatItWouldRemoveAnyway) {
+  set_stored_attributes("drive_c/Temp/file150.tmp", "0x21");
+  machine.in_use = {"c:\\temp\\FILE250.tmp"};
+  files.expect_removals(paths);
+  for (std::size_t i = 0; i < 400; ++i) {
+    const RemoveResult expected = i == 150   ? RemoveResult::kDenied
+                                  : i == 250 ? RemoveResult::kInUse
+                                             : RemoveResult::kRemoved;
+    ASSERT_EQ(files.remove_file(paths[i]), expected) << i;
+    ASSERT_EQ(files.file_size(paths[i]).has_value(), expected != RemoveResult::kRemoved) << i;
+  }
+  EXPECT_EQ(list("C:\\Temp"), (Names{"file150.tmp", "file250.tmp"}));
+}
+
+TEST_F(ExpectedRemovalTest, FindsANameInOtherCaseBehindARemovedOne) {
+  for (int i = 0; i < 400; i += 50) host.write("drive_c/Temp/FILE" + std::to_string(i) + ".TMP");
+  files.expect_removals(paths);
+  for (std::size_t i = 0; i < 400; ++i) {
+    ASSERT_EQ(files.remove_file(paths[i]), RemoveResult::kRemoved) << i;
+    ASSERT_EQ(files.file_size(paths[i]).has_value(), i % 50 == 0) << i;
+  }
+  EXPECT_EQ(list("C:\\Temp").size(), 8U);
+}
+
+TEST_F(ExpectedRemovalTest, HeedsWhatChangedAfterItWasExpected) {
+  files.expect_removals(paths);
+  ASSERT_EQ(files.remove_file(paths[0]), RemoveResult::kRemoved);
+  ASSERT_TRUE(files.set_attributes(paths[1], kAttributeReadOnly));
+  EXPECT_EQ(files.remove_file(paths[1]), RemoveResult::kDenied);
+  ASSERT_TRUE(files.write_file(paths[0], "again"));
+  EXPECT_EQ(files.file_size(paths[0]), 5U);
+}
+
+TEST_F(ExpectedRemovalTest, RemovesInAnyOrderAndWhatWasNotExpected) {
+  files.expect_removals(paths);
+  for (std::size_t i = 400; i-- > 0;) {
+    ASSERT_EQ(files.remove_file(paths[i]), RemoveResult::kRemoved) << i;
+    ASSERT_EQ(files.remove_file(paths[i]), RemoveResult::kMissing) << i;
+  }
+  EXPECT_EQ(list("C:\\Temp"), Names());
+}
+
+TEST_F(ExpectedRemovalTest, TakesAnyTextForAPath) {
+  files.expect_removals({"", "C:", "C:\\", "\\", "C:\\Temp\\", "C:\\Temp\\..", "C:\\Temp/file1.tmp",
+                         "E:\\a", "no path", "C:\\" + std::string(300, 'x'), paths[2]});
+  EXPECT_EQ(files.remove_file(paths[2]), RemoveResult::kRemoved);
+  EXPECT_EQ(files.remove_file("C:\\Temp/file1.tmp"), RemoveResult::kRemoved);
+  EXPECT_EQ(list("C:\\Temp").size(), 398U);
+}
+
 }  // namespace quillvane

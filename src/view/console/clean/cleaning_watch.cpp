@@ -6,7 +6,8 @@
 
 namespace quillvane {
 
-CleaningWatch::CleaningWatch(const Platform& machine) : machine_(machine) {}
+CleaningWatch::CleaningWatch(const Platform& machine)
+    : ForwardingFileSystem(machine.files), machine_(machine) {}
 
 void CleaningWatch::begin(std::vector<std::string> bin_files) {
   counting_ = true;
@@ -39,7 +40,7 @@ CleaningCounts CleaningWatch::end() const {
 }
 
 RemoveResult CleaningWatch::remove_file(const std::string& path) {
-  const RemoveResult result = machine_.files.remove_file(path);
+  const RemoveResult result = next().remove_file(path);
   if (counting_ && result == RemoveResult::kRemoved) {
     ++removed_;
     stayed_.erase(path);
@@ -47,57 +48,6 @@ RemoveResult CleaningWatch::remove_file(const std::string& path) {
     stayed_.insert(path);
   }
   return result;
-}
-
-std::shared_ptr<const FolderTree> CleaningWatch::read_tree(const std::string& folder,
-                                                           const std::string& pattern) const {
-  return machine_.files.read_tree(folder, pattern);
-}
-
-std::shared_ptr<const FolderTree> CleaningWatch::read_tree_for(
-    const std::string& folder, const std::vector<std::string>& patterns) const {
-  return machine_.files.read_tree_for(folder, patterns);
-}
-
-std::vector<FolderEntry> CleaningWatch::list_folder(const std::string& folder,
-                                                    const std::string& pattern) const {
-  return machine_.files.list_folder(folder, pattern);
-}
-
-std::optional<std::uint32_t> CleaningWatch::attributes(const std::string& path) const {
-  return machine_.files.attributes(path);
-}
-
-bool CleaningWatch::set_attributes(const std::string& path, std::uint32_t bits) {
-  return machine_.files.set_attributes(path, bits);
-}
-
-std::optional<std::uint64_t> CleaningWatch::file_size(const std::string& path) const {
-  return machine_.files.file_size(path);
-}
-
-std::optional<std::string> CleaningWatch::read_file(const std::string& path) const {
-  return machine_.files.read_file(path);
-}
-
-bool CleaningWatch::write_file(const std::string& path, std::string_view content) {
-  return machine_.files.write_file(path, content);
-}
-
-bool CleaningWatch::can_open(const std::string& path) const {
-  return machine_.files.can_open(path);
-}
-
-bool CleaningWatch::rename_file(const std::string& from, const std::string& to) {
-  return machine_.files.rename_file(from, to);
-}
-
-bool CleaningWatch::copy_file(const std::string& from, const std::string& to) {
-  return machine_.files.copy_file(from, to);
-}
-
-bool CleaningWatch::make_folder(const std::string& path) {
-  return machine_.files.make_folder(path);
 }
 
 }  // namespace quillvane

@@ -3,12 +3,11 @@
 #pragma once
 
 #include <cstdint>
-#include <memory>
-#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "platform/forwarding_file_system.h"
 #include "platform/platform.h"
 
 namespace quillvane {
@@ -21,7 +20,7 @@ struct CleaningCounts {
 
 // Stands between the program and the machine's files and notes what becomes of removals. All other
 // calls pass through.
-class CleaningWatch final : public FileSystem {
+class CleaningWatch final : public ForwardingFileSystem {
  public:
   explicit CleaningWatch(const Platform& machine);
 
@@ -30,21 +29,6 @@ class CleaningWatch final : public FileSystem {
   // Looks where the files are now.
   [[nodiscard]] CleaningCounts end() const;
 
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(
-      const std::string& folder, const std::string& pattern) const override;
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_for(
-      const std::string& folder, const std::vector<std::string>& patterns) const override;
-  [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
-                                                     const std::string& pattern) const override;
-  [[nodiscard]] std::optional<std::uint32_t> attributes(const std::string& path) const override;
-  [[nodiscard]] bool set_attributes(const std::string& path, std::uint32_t bits) override;
-  [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string& path) const override;
-  [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override;
-  [[nodiscard]] bool write_file(const std::string& path, std::string_view content) override;
-  [[nodiscard]] bool can_open(const std::string& path) const override;
-  [[nodiscard]] bool rename_file(const std::string& from, const std::string& to) override;
-  [[nodiscard]] bool copy_file(const std::string& from, const std::string& to) override;
-  [[nodiscard]] bool make_folder(const std::string& path) override;
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override;
 
  private:

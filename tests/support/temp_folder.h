@@ -5,13 +5,13 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <random>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -21,12 +21,17 @@ namespace quillvane {
 class TempFolder {
  public:
   TempFolder() {
-    std::string name = std::filesystem::temp_directory_path() / "quillvane-test-XXXXXX";
-    if (mkdtemp(name.data()) == nullptr) {
-      ADD_FAILURE() << "cannot make a folder like " << name;
-      return;
+    namespace fs = std::filesystem;
+    std::error_code failed;
+    std::random_device number;
+    for (int attempt = 0; attempt < kMostAttempts && !failed && path_.empty(); ++attempt) {
+      const fs::path path =
+          fs::temp_directory_path(failed) / ("quillvane-test-" + std::to_string(number()));
+      // False when another has made it; only who made it may go in.
+      if (!failed && fs::create_directory(path, failed)) path_ = path.string();
     }
-    path_ = name;
+    if (path_.empty()) ADD_FAILURE() << "cannot make a folder: " << failed.message();
+    fs::permissions(path_, fs::perms::owner_all, failed);
   }
   ~TempFolder() {
     std::error_code failed;
@@ -90,6 +95,8 @@ class TempFolder {
     const auto slash = name.rfind('/');
     if (slash != std::string_view::npos) make_folder(name.substr(0, slash));
   }
+
+  static constexpr int kMostAttempts = 100;
 
   std::string path_;
 };

@@ -16,6 +16,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "tests/support/remove_folder.h"
+
 namespace quillvane {
 
 class TempFolder {
@@ -34,9 +36,7 @@ class TempFolder {
     fs::permissions(path_, fs::perms::owner_all, failed);
   }
   ~TempFolder() {
-    std::error_code failed;
-    if (!path_.empty()) std::filesystem::remove_all(path_, failed);
-    EXPECT_FALSE(failed) << path_ << ": " << failed.message();
+    if (!path_.empty()) remove_test_folder(path_);
   }
   TempFolder(const TempFolder&) = delete;
   TempFolder& operator=(const TempFolder&) = delete;

@@ -16,6 +16,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "platform/folder/host_path.h"
 #include "tests/support/remove_folder.h"
 
 namespace quillvane {
@@ -30,10 +31,10 @@ class TempFolder {
       const fs::path path =
           fs::temp_directory_path(failed) / ("quillvane-test-" + std::to_string(number()));
       // False when another has made it; only who made it may go in.
-      if (!failed && fs::create_directory(path, failed)) path_ = path.string();
+      if (!failed && fs::create_directory(path, failed)) path_ = host_text(path);
     }
     if (path_.empty()) ADD_FAILURE() << "cannot make a folder: " << failed.message();
-    fs::permissions(path_, fs::perms::owner_all, failed);
+    fs::permissions(host_path(path_), fs::perms::owner_all, failed);
   }
   ~TempFolder() {
     if (!path_.empty()) remove_test_folder(path_);
@@ -44,18 +45,18 @@ class TempFolder {
   // Absolute, without a slash at the end.
   [[nodiscard]] const std::string& path() const { return path_; }
   [[nodiscard]] std::string path_of(std::string_view name) const {
-    return path_ + "/" + std::string(name);
+    return host_text((host_path(path_) / host_path(name)).make_preferred());
   }
 
   void make_folder(std::string_view name) const {
     std::error_code failed;
-    std::filesystem::create_directories(path_of(name), failed);
+    std::filesystem::create_directories(host_path(path_of(name)), failed);
     EXPECT_FALSE(failed) << name << ": " << failed.message();
   }
 
   void write(std::string_view name, std::string_view content = {}) const {
     make_parent(name);
-    std::ofstream file(path_of(name), std::ios::binary);
+    std::ofstream file(host_path(path_of(name)), std::ios::binary);
     file.write(content.data(), static_cast<std::streamsize>(content.size()));
     file.close();
     EXPECT_TRUE(file.good()) << "cannot write " << name;
@@ -65,7 +66,7 @@ class TempFolder {
   void write_sparse(std::string_view name, std::uintmax_t bytes) const {
     write(name);
     std::error_code failed;
-    std::filesystem::resize_file(path_of(name), bytes, failed);
+    std::filesystem::resize_file(host_path(path_of(name)), bytes, failed);
     EXPECT_FALSE(failed) << name << ": " << failed.message();
   }
 
@@ -73,13 +74,13 @@ class TempFolder {
   void make_link(std::string_view name, const std::string& target) const {
     make_parent(name);
     std::error_code failed;
-    std::filesystem::create_symlink(target, path_of(name), failed);
+    std::filesystem::create_symlink(host_path(target), host_path(path_of(name)), failed);
     EXPECT_FALSE(failed) << name << ": " << failed.message();
   }
 
   // The content of a file; nothing when it is not there.
   [[nodiscard]] std::optional<std::string> read(std::string_view name) const {
-    std::ifstream file(path_of(name), std::ios::binary);
+    std::ifstream file(host_path(path_of(name)), std::ios::binary);
     if (!file) return std::nullopt;
     return std::string(std::istreambuf_iterator<char>(file), {});
   }
@@ -87,7 +88,8 @@ class TempFolder {
   // Whether a file, folder or link of this name is there; a link need not lead anywhere.
   [[nodiscard]] bool has(std::string_view name) const {
     std::error_code failed;
-    return std::filesystem::exists(std::filesystem::symlink_status(path_of(name), failed));
+    return std::filesystem::exists(
+        std::filesystem::symlink_status(host_path(path_of(name)), failed));
   }
 
  private:

@@ -14,6 +14,10 @@ class HostStagingOnWindows : public testing::Test {
     machine_.drives = {{'C', DriveType::kFixed, folder_.path_of("c"), {}, {}}};
   }
 
+  std::error_code stage_text(const std::string& path, std::string_view text) {
+    return stage_file(machine_, path, {.text = text, .bytes = 0, .time = {}});
+  }
+
   TempFolder folder_;
   MachineState machine_;
   WindowsMachineFiles files_{machine_};
@@ -30,39 +34,26 @@ TEST_F(HostStagingOnWindows, AFileHasItsTextLengthAndTime) {
 }
 
 TEST_F(HostStagingOnWindows, NamesThatAreThereAreUsedAsStored) {
-  folder_.make_folder(
-      "c/Gr\xC3\xB6\xC3\x9F"
-      "e");
-  ASSERT_FALSE(stage_file(machine_,
-                          "C:\\GR\xC3\x96\xC3\x9F"
-                          "E\\a.txt",
-                          {.text = "long text"}));
-  ASSERT_FALSE(stage_file(machine_,
-                          "C:\\gr\xC3\xB6\xC3\x9F"
-                          "e\\A.TXT",
-                          {.text = "new"}));
-  const auto found = files_.list_folder(
-      "C:\\Gr\xC3\xB6\xC3\x9F"
-      "e",
-      "*.*");
+  folder_.make_folder("c/\xC3\xA4 b");
+  ASSERT_FALSE(stage_text("C:\\\xC3\x84 B\\a.txt", "long text"));
+  ASSERT_FALSE(stage_text("C:\\\xC3\xA4 b\\A.TXT", "new"));
+  const auto found = files_.list_folder("C:\\\xC3\xA4 b", "*.*");
   ASSERT_EQ(found.size(), 1U);
   EXPECT_EQ(found[0].name, "a.txt");
-  EXPECT_EQ(files_.read_file("C:\\Gr\xC3\xB6\xC3\x9F"
-                             "e\\a.txt"),
-            "new");
+  EXPECT_EQ(files_.read_file("C:\\\xC3\xA4 b\\a.txt"), "new");
 }
 
 TEST_F(HostStagingOnWindows, AFileInPlaceOfAFolderIsTold) {
   folder_.write("c/a", "x");
   EXPECT_TRUE(stage_folder(machine_, "C:\\a\\b"));
-  EXPECT_TRUE(stage_file(machine_, "C:\\a\\b", {.text = "x"}));
+  EXPECT_TRUE(stage_text("C:\\a\\b", "x"));
   EXPECT_EQ(folder_.read("c/a"), "x");
 }
 
 TEST_F(HostStagingOnWindows, AHostPathMayBeLong) {
   const std::string name(120, 'n');
   const std::string path = "C:\\" + name + "\\" + name + "\\f";
-  ASSERT_FALSE(stage_file(machine_, path, {.text = "x"}));
+  ASSERT_FALSE(stage_text(path, "x"));
   EXPECT_EQ(files_.read_file(path), "x");
 }
 

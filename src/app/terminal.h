@@ -3,7 +3,8 @@
 
 namespace quillvane {
 
-// Makes a broken pipe an error of the write, not the end of the process. Called once, first.
+// Makes a broken pipe an error of the write, not the end of the process, and lets results go out
+// byte by byte. Called once, first.
 void prepare_streams();
 
 [[nodiscard]] bool input_is_terminal();

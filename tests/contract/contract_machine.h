@@ -1,6 +1,6 @@
 // The machine that the contract tests stage and then ask through the platform calls: a machine
-// folder on Linux, this PC on Windows. The cases are the same for both; only the staging differs,
-// and it goes around the calls under test.
+// folder on Linux or on Windows, or this PC. The cases are the same for all; only the staging
+// differs, and it goes around the calls under test.
 #pragma once
 
 #include <cstdint>

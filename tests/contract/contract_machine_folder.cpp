@@ -1,4 +1,5 @@
-// The contract tests' machine on Linux: a machine folder.
+// The contract tests' machine folder.
+#include "tests/contract/contract_host.h"
 #include "tests/contract/contract_machine.h"
 #include "tests/support/temp_machine.h"
 
@@ -16,7 +17,9 @@ class FolderContractMachine final : public ContractMachine {
   [[nodiscard]] Platform platform() override { return machine_.platform(); }
   [[nodiscard]] std::string folder() const override { return "C:\\Contract"; }
   [[nodiscard]] std::string key() const override { return "Software\\Quillvane\\ContractTest"; }
-  [[nodiscard]] std::uint32_t constant_attributes() const override { return 0; }
+  [[nodiscard]] std::uint32_t constant_attributes() const override {
+    return constant_attributes_of_host();
+  }
   [[nodiscard]] bool lists_like_windows() const override { return true; }
 
   void add_file(const std::string& path, std::string_view content) override {
@@ -27,7 +30,7 @@ class FolderContractMachine final : public ContractMachine {
   }
   void add_folder(const std::string& path) override { machine_.add_folder(path); }
   void add_link(const std::string& path, const std::string& target) override {
-    machine_.add_junction(path, target);
+    links_.add(machine_.host_path(path), machine_.host_path(target));
   }
   void hold_open(const std::string& path) override { machine_.machine().add_in_use(path); }
   void set_environment(const std::string& name, const std::string& value) override {
@@ -36,6 +39,7 @@ class FolderContractMachine final : public ContractMachine {
 
  private:
   TempMachine machine_;
+  HostLinks links_;
 };
 
 }  // namespace

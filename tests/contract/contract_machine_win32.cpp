@@ -13,6 +13,7 @@
 #include "platform/win32/win32_loop.h"
 #include "platform/win32/win32_machine.h"
 #include "tests/contract/contract_machine.h"
+#include "tests/support/remove_folder.h"
 #include "tests/windows/folder_link.h"
 #include "tests/windows/wine.h"
 
@@ -25,27 +26,6 @@ constexpr wchar_t kTestKey[] = L"Software\\Quillvane\\ContractTest";
 
 // The path in the form that Windows takes whatever its length.
 std::wstring unlimited(const std::string& path) { return L"\\\\?\\" + widen(path); }
-
-// Removes a folder with everything in it. Requires: no links in it.
-void remove_folder(const std::wstring& folder) {
-  WIN32_FIND_DATAW entry;
-  {
-    const FindHandle find(FindFirstFileW((folder + L"\\*").c_str(), &entry));
-    while (find.is_valid()) {
-      const std::wstring name = entry.cFileName;
-      const std::wstring path = folder + L"\\" + name;
-      const bool is_folder = (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-      if (is_folder && name != L"." && name != L"..") remove_folder(path);
-      if (!is_folder) {
-        SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
-        EXPECT_TRUE(DeleteFileW(path.c_str())) << narrow(path);
-      }
-      if (!FindNextFileW(find.get(), &entry)) break;
-    }
-  }
-  SetFileAttributesW(folder.c_str(), FILE_ATTRIBUTE_NORMAL);
-  EXPECT_TRUE(RemoveDirectoryW(folder.c_str())) << narrow(folder);
-}
 
 class Win32ContractMachine final : public ContractMachine {
  public:
@@ -65,7 +45,7 @@ class Win32ContractMachine final : public ContractMachine {
     held_.clear();
     for (const std::wstring& link : links_) EXPECT_TRUE(remove_folder_link(link)) << narrow(link);
     for (const std::wstring& name : variables_) SetEnvironmentVariableW(name.c_str(), nullptr);
-    remove_folder(unlimited(narrow(folder_)));
+    remove_test_folder(narrow(folder_));
     EXPECT_EQ(RegDeleteTreeW(HKEY_CURRENT_USER, kTestKey), ERROR_SUCCESS);
     RegDeleteKeyW(HKEY_CURRENT_USER, kProgramKey);  // stays when the user has settings below it
   }

@@ -18,7 +18,7 @@
 #include "platform/folder/create_machine.h"
 #include "platform/folder/demo_files.h"
 #include "platform/folder/folder_machine.h"
-#include "platform/folder/posix/folder_file_system.h"
+#include "platform/folder/machine_files.h"
 #include "platform/folder/registry_store.h"
 #include "platform/multi_string.h"
 #include "tests/support/temp_folder.h"

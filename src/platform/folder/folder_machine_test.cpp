@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/folder/posix/folder_file_system.h"
+#include "platform/folder/machine_files.h"
 #include "platform/folder/registry_store.h"
 #include "platform/virtual/queued_dialogs.h"
 #include "tests/support/temp_folder.h"

@@ -40,7 +40,10 @@ TEST_F(MachineJsonSave, AMissingFileIsAMachineOfDefaults) {
 
 TEST_F(MachineJsonSave, AFileThatCannotBeReadIsTold) {
   folder_.make_folder("machine.json");
-  EXPECT_EQ(load_failure(), "machine.json: cannot be read: Is a directory");
+  // Each system has its own words for what is wrong with a folder.
+  const std::string begin = "machine.json: cannot be read: ";
+  EXPECT_EQ(load_failure().substr(0, begin.size()), begin);
+  EXPECT_GT(load_failure().size(), begin.size());
 }
 
 TEST_F(MachineJsonSave, WithoutADifferenceTheFileStaysAsItIs) {
@@ -87,7 +90,7 @@ TEST_F(MachineJsonSave, OnlyWhatChangedIsWrittenAndUnknownKeysStay) {
 TEST_F(MachineJsonSave, EverythingReadsBackAsItWasSaved) {
   MachineState state = load();
   state.drives.push_back({'D', DriveType::kRemovable, folder_.path_of("drive_d"), 5000, 40});
-  state.drives.push_back({'E', DriveType::kRemote, "/mnt/share", std::nullopt, std::nullopt});
+  state.drives.push_back({'E', DriveType::kRemote, folder_.path_of("share"), std::nullopt, std::nullopt});
   set_variable(state.environment, "temp", "D:\\T");
   set_variable(state.environment, "EXTRA", "1");
   state.program_folder = "D:\\P";
@@ -109,7 +112,7 @@ TEST_F(MachineJsonSave, EverythingReadsBackAsItWasSaved) {
   EXPECT_EQ(read.drives[1].folder, folder_.path_of("drive_d"));
   EXPECT_EQ(read.drives[1].total_bytes, 5000U);
   EXPECT_EQ(read.drives[1].free_bytes, 40U);
-  EXPECT_EQ(read.drives[2].folder, "/mnt/share");
+  EXPECT_EQ(read.drives[2].folder, folder_.path_of("share"));
   EXPECT_EQ(read.environment, state.environment);
   EXPECT_EQ(read.program_folder, "D:\\P");
   EXPECT_TRUE(read.is_64_bit);

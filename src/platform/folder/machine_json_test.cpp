@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,10 +12,17 @@
 #include <variant>
 #include <vector>
 
+#include "platform/folder/host_path.h"
+
 namespace quillvane {
 namespace {
 
 constexpr const char* kDir = "/machines/one";
+
+// The path as the host spells it.
+std::string on_host(const char* path) {
+  return host_text(std::filesystem::absolute(path).make_preferred());
+}
 
 MachineState parsed(std::string_view text) {
   auto result = parse_machine_json(text, kDir);
@@ -44,7 +52,7 @@ TEST(MachineJson, AnEmptyObjectIsAMachineOfDefaults) {
   ASSERT_EQ(state.drives.size(), 1U);
   EXPECT_EQ(state.drives[0].letter, 'C');
   EXPECT_EQ(state.drives[0].type, DriveType::kFixed);
-  EXPECT_EQ(state.drives[0].folder, "/machines/one/drive_c");
+  EXPECT_EQ(state.drives[0].folder, on_host("/machines/one/drive_c"));
   EXPECT_EQ(state.drives[0].total_bytes, std::nullopt);
   EXPECT_EQ(state.drives[0].free_bytes, std::nullopt);
   EXPECT_EQ(state.program_folder, "C:\\Program Files\\Tidewrack");
@@ -126,11 +134,11 @@ TEST(MachineJson, ADriveMayHaveAFolderAnywhere) {
   ASSERT_EQ(state.drives.size(), 4U);
   EXPECT_EQ(state.drives[0].letter, 'D');
   EXPECT_EQ(state.drives[0].type, DriveType::kRemovable);
-  EXPECT_EQ(state.drives[0].folder, "/machines/one/drive_d");
+  EXPECT_EQ(state.drives[0].folder, on_host("/machines/one/drive_d"));
   EXPECT_EQ(state.drives[1].type, DriveType::kRemote);
-  EXPECT_EQ(state.drives[1].folder, "/mnt/share");
+  EXPECT_EQ(state.drives[1].folder, on_host("/mnt/share"));
   EXPECT_EQ(state.drives[2].type, DriveType::kCdRom);
-  EXPECT_EQ(state.drives[2].folder, "/machines/one/disc");
+  EXPECT_EQ(state.drives[2].folder, on_host("/machines/one/disc"));
   EXPECT_EQ(state.drives[3].type, DriveType::kRamDisk);
 }
 

@@ -1,15 +1,12 @@
 #include "platform/folder/name_filter.h"
 
-#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "platform/folder/posix/descriptor.h"
-#include "platform/folder/posix/directory_listing.h"
-#include "tests/support/temp_folder.h"
+#include "platform/folder/collected_names.h"
 
 namespace quillvane {
 
@@ -23,9 +20,8 @@ class NameFilterTest : public ::testing::Test {
  protected:
   // The names that the filter leaves, with the patterns that they match.
   Matches matches(const Names& patterns, std::uint32_t usable, Folders folders) {
-    const Descriptor folder(open(host.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    DirectoryListing listing;
-    EXPECT_TRUE(listing.read(folder.number()));
+    CollectedNames listing;
+    for (const auto& [name, kind] : folder) listing.add(name, kind);
     NameFilter(patterns, folders).apply(listing, usable);
     Matches left;
     for (const auto& entry : listing.entries()) {
@@ -39,13 +35,16 @@ class NameFilterTest : public ::testing::Test {
     return names;
   }
 
-  TempFolder host;
+  void add(const char* name) { folder.emplace_back(name, NameListing::Kind::kFile); }
+  void add_folder(const char* name) { folder.emplace_back(name, NameListing::Kind::kFolder); }
+
+  std::vector<std::pair<std::string, NameListing::Kind>> folder;
 };
 
 }  // namespace
 
 TEST_F(NameFilterTest, LeavesWhatMatchesInOrder) {
-  for (const char* name : {"b.tmp", "A.TMP", "c.log"}) host.write(name);
+  for (const char* name : {"b.tmp", "A.TMP", "c.log"}) add(name);
   EXPECT_EQ(left_by("*.tmp"), (Names{"A.TMP", "b.tmp"}));
   EXPECT_EQ(left_by("*.*"), (Names{"A.TMP", "b.tmp", "c.log"}));
   EXPECT_EQ(left_by("?.l*"), Names{"c.log"});
@@ -53,13 +52,13 @@ TEST_F(NameFilterTest, LeavesWhatMatchesInOrder) {
 }
 
 TEST_F(NameFilterTest, MatchesTheEndOfShortNamesToo) {
-  for (const char* name : {"a.tmpx", "b.tmpfile", "c.tm", "d.t mp"}) host.write(name);
+  for (const char* name : {"a.tmpx", "b.tmpfile", "c.tm", "d.t mp"}) add(name);
   EXPECT_EQ(left_by("*.tmp"), (Names{"a.tmpx", "b.tmpfile", "d.t mp"}));
 }
 
 TEST_F(NameFilterTest, MatchesTheNumbersOfShortNames) {
   for (const char* name : {"letter to b.txt", "letter to a.txt", "LETTER~1.TXT", "letter.txt"}) {
-    host.write(name);
+    add(name);
   }
   // One name has the number 1 already; the others get 2 and 3 in their order.
   EXPECT_EQ(left_by("letter~1.*"), Names{"LETTER~1.TXT"});
@@ -69,21 +68,21 @@ TEST_F(NameFilterTest, MatchesTheNumbersOfShortNames) {
 }
 
 TEST_F(NameFilterTest, TakesFoldersOfAnyNameWhenAsked) {
-  host.make_folder("cache");
-  host.make_folder("cache.tmp");
-  host.write("a.tmp");
+  add_folder("cache");
+  add_folder("cache.tmp");
+  add("a.tmp");
   EXPECT_EQ(left_by("*.tmp", Folders::kAll), (Names{"a.tmp", "cache", "cache.tmp"}));
   EXPECT_EQ(left_by("*.tmp", Folders::kMatched), (Names{"a.tmp", "cache.tmp"}));
 }
 
 TEST_F(NameFilterTest, TellsWhichPatternsMatch) {
-  for (const char* name : {"a.tmp", "b.log", "c.txt", "data.logx"}) host.write(name);
+  for (const char* name : {"a.tmp", "b.log", "c.txt", "data.logx"}) add(name);
   EXPECT_EQ(matches({"*.tmp", "*.log", "?.*"}, 7, Folders::kMatched),
             (Matches{{"a.tmp", 1 | 4}, {"b.log", 2 | 4}, {"c.txt", 4}, {"data.logx", 2}}));
 }
 
 TEST_F(NameFilterTest, CountsOnlyThePatternsThatCanBeUsed) {
-  for (const char* name : {"a.tmp", "b.log"}) host.write(name);
+  for (const char* name : {"a.tmp", "b.log"}) add(name);
   EXPECT_EQ(matches({"*.tmp", "*.log"}, 2, Folders::kMatched), (Matches{{"b.log", 2}}));
   EXPECT_EQ(matches({"*.*"}, 0, Folders::kMatched), Matches{});
 }

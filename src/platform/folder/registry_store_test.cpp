@@ -306,7 +306,8 @@ TEST_F(FolderRegistryTest, ATornStoreIsRefused) {
 TEST_F(FolderRegistryTest, AStoreWithADestroyedPageIsRefused) {
   ASSERT_TRUE(open()->store_value(Hive::kLocalMachine, "K", "v", text("1")));
   std::string bytes = *folder_.read("registry.db");
-  for (std::size_t i = 4096; i < bytes.size(); ++i) bytes[i] = '\x55';
+  ASSERT_GT(bytes.size(), 4096U);
+  bytes = bytes.substr(0, 4096) + std::string(bytes.size() - 4096, '\x55');
   folder_.write("registry.db", bytes);
   const std::string begin = "registry.db: is damaged: ";
   EXPECT_EQ(open_failure().substr(0, begin.size()), begin);

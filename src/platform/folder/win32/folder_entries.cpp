@@ -16,6 +16,10 @@ std::vector<std::wstring> names_in(const HeldPlace& folder) {
   return names;
 }
 
+bool is_link(const HeldPlace& itself) {
+  return (itself.status.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
+}
+
 }  // namespace
 
 std::vector<HostFile> read_entries(const HostDrive& drive, const HeldPlace& folder) {
@@ -32,10 +36,12 @@ std::vector<HostFile> read_entries(const HostDrive& drive, const HeldPlace& fold
 
 void remove_entries(const HeldPlace& folder) {
   for (const std::wstring& name : names_in(folder)) {
+    {
+      const auto below = open_itself(folder, name, Access::kListed);
+      if (below && below->is_folder() && !is_link(*below)) remove_entries(*below);
+    }
     const auto place = open_itself(folder, name, Access::kRemoved);
     if (!place) continue;
-    const bool is_link = (place->status.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-    if (place->is_folder() && !is_link) remove_entries(*place);
     static_cast<void>(change(*place, 0));  // a read-only file goes too
     static_cast<void>(remove_when_closed(place->handle.get()));
   }

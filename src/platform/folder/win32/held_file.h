@@ -22,7 +22,7 @@ namespace quillvane {
                           std::optional<FILETIME> written = std::nullopt);
 
 // Removes a file or an empty folder when its last handle is closed; a file that is read-only stays.
-// Requires: opened with Access::kRemoved.
+// Requires: opened with Access::kMoved or kRemoved.
 [[nodiscard]] bool remove_when_closed(HANDLE handle);
 
 enum class Taken { kFails, kIsReplaced };

@@ -1,5 +1,9 @@
 #include "platform/folder/win32/held_place.h"
 
+#include <winternl.h>
+
+#include <array>
+#include <string_view>
 #include <utility>
 
 namespace quillvane {
@@ -12,6 +16,21 @@ DWORD share_of(Access access) {
   return FILE_SHARE_READ | FILE_SHARE_WRITE | (is_held ? 0 : FILE_SHARE_DELETE);
 }
 
+// Wine cannot tell a path of more than 260 units by the usual call. The kernel's own name of a file
+// is the same path there; on Windows it is none that could be opened.
+std::wstring long_place_of(HANDLE handle) {
+  constexpr std::wstring_view kFront = L"\\??\\";
+  alignas(OBJECT_NAME_INFORMATION) std::array<char, 70'000> answer;  // more than any name
+  ULONG length = 0;
+  if (NtQueryObject(handle, ObjectNameInformation, answer.data(), answer.size(), &length) < 0) {
+    return {};
+  }
+  const auto* name = &reinterpret_cast<const OBJECT_NAME_INFORMATION*>(answer.data())->Name;
+  const std::wstring_view path(name->Buffer, name->Length / sizeof(wchar_t));
+  if (!path.starts_with(kFront)) return {};
+  return L"\\\\?\\" + std::wstring(path.substr(kFront.size()));
+}
+
 }  // namespace
 
 std::wstring place_of(HANDLE handle) {
@@ -19,6 +38,7 @@ std::wstring place_of(HANDLE handle) {
   for (;;) {
     const auto room = static_cast<DWORD>(path.size());
     const DWORD length = GetFinalPathNameByHandleW(handle, path.data(), room, VOLUME_NAME_DOS);
+    if (length == 0) return GetLastError() == ERROR_MORE_DATA ? long_place_of(handle) : L"";
     path.resize(length);
     if (length < room) return path;
   }

@@ -47,8 +47,8 @@ enum class Access : DWORD {
   kListed = FILE_LIST_DIRECTORY | FILE_TRAVERSE,  // the same, and its names
   kRead = GENERIC_READ,                           // a file's content
   kChanged = FILE_WRITE_ATTRIBUTES,               // attributes and times
-  kMoved = DELETE,                                // given another name
-  kRemoved = DELETE | FILE_WRITE_ATTRIBUTES,      // removed
+  kMoved = DELETE,                                // removed or given another name
+  kRemoved = DELETE | FILE_WRITE_ATTRIBUTES,      // removed, a read-only file too
 };
 
 enum class Links { kFollowed, kItself };

@@ -4,31 +4,26 @@
 
 #include <limits>
 
+#include "platform/folder/win32/host_error.h"
 #include "platform/win32/file_content.h"
 #include "platform/win32/long_path.h"
 #include "platform/win32/system_handle.h"
 
 namespace quillvane {
 
-namespace {
-
-std::error_code last_error() { return {static_cast<int>(GetLastError()), std::system_category()}; }
-
-}  // namespace
-
 std::variant<std::string, std::error_code> read_host_file(const std::string& path) {
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const FileHandle file(CreateFileW(long_path(path).c_str(), GENERIC_READ, kShareAll, nullptr,
                                     OPEN_EXISTING, 0, nullptr));
-  if (!file.is_valid()) return last_error();
+  if (!file.is_valid()) return last_host_error();
   auto content = read_to_end(file.get(), std::numeric_limits<std::uint64_t>::max());
-  if (!content) return last_error();
+  if (!content) return last_host_error();
   return *std::move(content);
 }
 
 std::error_code replace_host_file(const std::string& path, std::string_view content) {
   if (replace_whole_file(long_path(path), content)) return {};
-  return last_error();
+  return last_host_error();
 }
 
 }  // namespace quillvane

@@ -5,6 +5,7 @@
 
 #include <optional>
 
+#include "platform/folder/win32/host_error.h"
 #include "platform/unicode_case.h"
 #include "platform/win32/file_content.h"
 #include "platform/win32/folder_listing.h"
@@ -17,19 +18,16 @@ namespace quillvane {
 
 namespace {
 
-std::error_code code_of(DWORD error) { return {static_cast<int>(error), std::system_category()}; }
-std::error_code last_error() { return code_of(GetLastError()); }
-
 bool is_there(const std::wstring& path) {
   return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES;
 }
 
 std::error_code make_folders(const std::wstring& folder) {
   if (is_there(folder) || CreateDirectoryW(folder.c_str(), nullptr)) return {};
-  if (GetLastError() != ERROR_PATH_NOT_FOUND) return last_error();
+  if (GetLastError() != ERROR_PATH_NOT_FOUND) return last_host_error();
   const std::size_t slash = folder.rfind(L'\\');
   if (const std::error_code failed = make_folders(folder.substr(0, slash))) return failed;
-  return CreateDirectoryW(folder.c_str(), nullptr) ? std::error_code() : last_error();
+  return CreateDirectoryW(folder.c_str(), nullptr) ? std::error_code() : last_host_error();
 }
 
 // Where the disk knows no files with holes the file takes its room; that is no failure.
@@ -72,24 +70,19 @@ std::error_code make_host_folders(const std::string& host_folder) {
 std::error_code make_host_file(const std::string& host_file, const StagedContent& content) {
   const FileHandle file(CreateFileW(long_path(host_file).c_str(), GENERIC_WRITE, 0, nullptr,
                                     CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr));
-  if (!file.is_valid()) return last_error();
+  if (!file.is_valid()) return last_host_error();
   DWORD written = 0;
   const auto length = static_cast<DWORD>(content.text.size());
-  if (!WriteFile(file.get(), content.text.data(), length, &written, nullptr)) return last_error();
-  if (content.bytes > length && !set_length(file.get(), content.bytes)) return last_error();
-  if (content.time && !set_times(file.get(), *content.time)) return last_error();
+  if (!WriteFile(file.get(), content.text.data(), length, &written, nullptr))
+    return last_host_error();
+  if (content.bytes > length && !set_length(file.get(), content.bytes)) return last_host_error();
+  if (content.time && !set_times(file.get(), *content.time)) return last_host_error();
   return {};
 }
 
 std::error_code make_host_link(const std::string& host_link, const std::string& host_target) {
   const DWORD error = make_junction(long_path(host_link), widen(host_target));
-  switch (error) {
-    case ERROR_INVALID_FUNCTION:
-    case ERROR_NOT_SUPPORTED:
-      return std::make_error_code(std::errc::operation_not_supported);
-    default:
-      return code_of(error);
-  }
+  return error == ERROR_SUCCESS ? std::error_code() : host_error(error);
 }
 
 }  // namespace quillvane

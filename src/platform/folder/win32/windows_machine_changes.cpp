@@ -101,7 +101,7 @@ RemoveResult WindowsMachineFiles::remove_file(const std::string& path) {
   if (!found->is_link() && is_read_only(found->target.status.dwFileAttributes)) {
     return RemoveResult::kDenied;
   }
-  const auto file = found->open(Access::kRemoved);
+  const auto file = found->open(Access::kMoved);  // a folder's rights alone may allow that
   if (!file) return refused(GetLastError());
   // A program that runs can be opened for removal, but nothing more.
   return remove_when_closed(file->handle.get()) ? RemoveResult::kRemoved : RemoveResult::kInUse;

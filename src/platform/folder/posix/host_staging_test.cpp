@@ -1,4 +1,4 @@
-#include "platform/folder/machine_staging.h"
+#include "platform/folder/host_staging.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -8,6 +8,7 @@
 #include <string>
 #include <system_error>
 
+#include "platform/folder/machine_staging.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillvane {

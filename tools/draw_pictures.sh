@@ -85,7 +85,8 @@ lens_places=(
   "-5 0" "-4.3 -1.5" "-2.5 -2.6" "0 -3" "2.5 -2.6" "4.3 -1.5"
 )
 
-# GIF knows no half-transparent pixels: one is either drawn in full or left out.
+# GIF knows no half-transparent pixels: one is either drawn in full or left out. One table of colours
+# for all frames, with the transparent one as the background: some viewers fill it in between frames.
 draw_animation() {  # draw_animation SIZE GIF
   local size=$1 gif=$2 frame
   is_new "$out/$gif" search.svg && return
@@ -93,8 +94,8 @@ draw_animation() {  # draw_animation SIZE GIF
     sed "s/translate(0 0)/translate(${lens_places[frame]})/" search.svg |
       rsvg-convert --height "$size" --output "$work/$(printf 'frame-%02d.png' "$frame")"
   done
-  convert -dispose Background -delay 8 -loop 0 "$work"/frame-*.png \
-    -channel A -threshold 50% +channel +dither -colors 63 "$work/$gif"
+  convert -dispose Background -delay 8 -loop 0 -background none "$work"/frame-*.png \
+    -channel A -threshold 50% +channel +dither -colors 63 +map "$work/$gif"
   mv "$work/$gif" "$out/$gif"
 }
 

@@ -278,7 +278,7 @@ void FormWindow::arrange_controls() {
     MoveWindow(views_[i]->window(), box.left, box.top, box.width, box.height, TRUE);
     const Box& strip = places.tab_strips[i];
     if (tabs_ != nullptr && strip.height > 0) {
-      MoveWindow(tabs_->window(), strip.left, strip.top, strip.width, strip.height, TRUE);
+      tabs_->move(strip);
     }
   }
   InvalidateRect(window_, nullptr, TRUE);

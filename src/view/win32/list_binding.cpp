@@ -15,6 +15,8 @@ namespace quillvane {
 namespace {
 
 constexpr int kPictureSize = 16;
+constexpr int kPictureBeside = 3;
+constexpr int kPictureAbove = 2;
 constexpr int kOtherColumn = 96;  // sizes; dates take more
 constexpr int kLastColumn = 160;
 constexpr int kLeastFirstColumn = 120;
@@ -38,7 +40,9 @@ ListBinding::ListBinding(ViewHost& host, ListView& list, const ControlPlace& pla
 
 void ListBinding::restyle() {
   ControlView::restyle();
-  images_ = host().pictures().list(place().picture, scaled(kPictureSize, host().dpi()), false);
+  images_ = host().pictures().list(place().picture, scaled(kPictureSize, host().dpi()), false,
+                                   scaled(kPictureBeside, host().dpi()),
+                                   scaled(kPictureAbove, host().dpi()));
   image_count_ = ImageList_GetImageCount(images_.get());
   send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.get()));
   send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(host().theme().list));

@@ -133,21 +133,24 @@ void Pictures::draw(HDC dc, int left, int top, int size, std::string_view name, 
   draw_scaled(graphics, *picture, left, top, size, tint == CLR_NONE ? nullptr : &matrix);
 }
 
-ImageListOwner Pictures::list(std::string_view name, int size, bool grayed) {
-  ImageListOwner list(ImageList_Create(size, size, ILC_COLOR32 | ILC_MASK, kMostPictures / 2, 1));
+ImageListOwner Pictures::list(std::string_view name, int size, bool grayed, int beside, int above) {
+  const int width = size + 2 * beside;
+  const int height = size + 2 * above;
+  ImageListOwner list(
+      ImageList_Create(width, height, ILC_COLOR32 | ILC_MASK, kMostPictures / 2, 1));
   const Matrix gray = gray_matrix();
   for (int number = 1; number <= kMostPictures; ++number) {
     std::array<char, 4> digits{};
     std::snprintf(digits.data(), digits.size(), "-%02d", number % 100);
     Gdiplus::Bitmap* picture = find(std::string(name) + digits.data(), size);
     if (picture == nullptr) break;
-    Gdiplus::Bitmap square(size, size, PixelFormat32bppARGB);
+    Gdiplus::Bitmap space(width, height, PixelFormat32bppARGB);
     {
-      Gdiplus::Graphics graphics(&square);
-      draw_scaled(graphics, *picture, 0, 0, size, grayed ? &gray : nullptr);
+      Gdiplus::Graphics graphics(&space);
+      draw_scaled(graphics, *picture, beside, above, size, grayed ? &gray : nullptr);
     }
     HICON icon = nullptr;
-    if (square.GetHICON(&icon) != Gdiplus::Ok) break;
+    if (space.GetHICON(&icon) != Gdiplus::Ok) break;
     ImageList_ReplaceIcon(list.get(), -1, IconOwner(icon).get());
   }
   return list;

@@ -40,8 +40,10 @@ class Pictures {
   void draw(HDC dc, int left, int top, int size, std::string_view name, COLORREF tint);
 
   // Pictures "NAME-01", "NAME-02", ... as far as there are any. `grayed`: pale and without colour,
-  // for what is disabled.
-  [[nodiscard]] ImageListOwner list(std::string_view name, int size, bool grayed);
+  // for what is disabled. Each stands in a space of its own, `beside` pixels wider on its left and
+  // right and `above` higher, so that rows have room.
+  [[nodiscard]] ImageListOwner list(std::string_view name, int size, bool grayed, int beside = 0,
+                                    int above = 0);
 
  private:
   // The resource that is best drawn at that size; null when there is none.

@@ -23,6 +23,7 @@ class TabStrip {
   // Of the chosen tab.
   [[nodiscard]] std::string_view chosen() const;
   void restyle();
+  void move(const Box& box);
 
  private:
   ViewHost& host_;

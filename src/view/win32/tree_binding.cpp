@@ -13,6 +13,7 @@ namespace quillvane {
 namespace {
 
 constexpr int kPictureSize = 16;
+constexpr int kPictureBeside = 3;
 constexpr int kRowHeight = 22;
 constexpr int kNoBox = 1;  // state pictures of the control
 constexpr int kTickedBox = 2;
@@ -37,7 +38,8 @@ TreeBinding::TreeBinding(ViewHost& host, TreeView& tree, const ControlPlace& pla
 
 void TreeBinding::restyle() {
   ControlView::restyle();
-  images_ = host().pictures().list(place().picture, scaled(kPictureSize, host().dpi()), false);
+  images_ = host().pictures().list(place().picture, scaled(kPictureSize, host().dpi()), false,
+                                   scaled(kPictureBeside, host().dpi()));
   send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.get()));
   send(TVM_SETITEMHEIGHT, static_cast<WPARAM>(scaled(kRowHeight, host().dpi())));
   send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(host().theme().list));

@@ -17,7 +17,7 @@ constexpr Track kRows[] = {
 };
 
 // Tree on the left, lists on the right.
-constexpr Track kColumns[] = {{230, 38}, {300, 62}};
+constexpr Track kColumns[] = {{230, 41}, {300, 59}};
 
 constexpr std::string_view kResultPage = "Frame80";
 constexpr std::string_view kLanguages = "pictrlang";

@@ -60,7 +60,8 @@ TEST(Form7Layout, PagesAndKeysAreControlsOfTheWindow) {
   const Form7& form = fixture.start();
 
   for (const ControlPlace& place : form7_layout().controls) {
-    if (!place.page.empty()) EXPECT_NE(form.find(place.page), nullptr) << place.page;
+    if (place.page.empty()) continue;
+    EXPECT_NE(form.find(place.page), nullptr) << place.page;
   }
   for (const KeyClick& key : form7_layout().keys) {
     EXPECT_NE(dynamic_cast<Clickable*>(form.find(key.control)), nullptr) << key.control;

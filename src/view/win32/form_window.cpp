@@ -19,7 +19,7 @@ namespace {
 constexpr UINT kActMessage = WM_APP + 10;
 constexpr UINT kRefreshMessage = WM_APP + 11;
 constexpr UINT_PTR kRefreshTimer = 1;
-constexpr std::uint64_t kRefreshMs = 50;  // the least between two drawings of what has changed
+constexpr std::uint64_t kRefreshMs = 100;  // the least between two drawings of what has changed
 constexpr int kFontPoints = 9;
 constexpr WORD kProgramIcon = 1;
 constexpr UINT kDpiChanged = 0x02E0;  // WM_DPICHANGED, of Windows 8.1

@@ -42,7 +42,7 @@ void ButtonView::commanded(int code) {
 
 void ButtonView::show_changes(const Changes& changes) {
   if (changes.has(Change::kCaption) && place().accessible_name.empty()) {
-    set_accessible_name(button_.caption());
+    show_text(button_.caption());
   }
   InvalidateRect(window(), nullptr, FALSE);
 }

@@ -2,9 +2,13 @@
 
 #include <commctrl.h>
 
+#include <iterator>
+#include <string>
+#include <string_view>
 #include <utility>
 
 #include "platform/win32/wide_text.h"
+#include "view/win32/accessible_name.h"
 
 namespace quillvane {
 
@@ -26,16 +30,16 @@ void ControlView::create(const wchar_t* window_class, DWORD style, DWORD extende
   if (window_ == nullptr) return;
   SetWindowSubclass(window_, procedure, 0, reinterpret_cast<DWORD_PTR>(this));
   send(WM_SETFONT, reinterpret_cast<WPARAM>(host_.font()), FALSE);
-  if (!place_.accessible_name.empty()) set_accessible_name(std::string(place_.accessible_name));
+  if (!place_.accessible_name.empty()) {
+    name_for_readers(window_, widen(place_.accessible_name));
+  }
 }
 
-void ControlView::set_accessible_name(const std::string& name) {
-  const std::wstring wide = widen(name);
+void ControlView::show_text(const std::string& text) {
+  const std::wstring wide = widen(text);
   wchar_t shown[256];
-  if (wide.size() < std::size(shown) && GetWindowTextW(window_, shown, std::size(shown)) != 0 &&
-      wide == shown) {
-    return;
-  }
+  const int length = GetWindowTextW(window_, shown, static_cast<int>(std::size(shown)));
+  if (wide == std::wstring_view(shown, static_cast<std::size_t>(length))) return;
   SetWindowTextW(window_, wide.c_str());
 }
 

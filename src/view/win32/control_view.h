@@ -90,8 +90,8 @@ class ControlView : public ControlObserver {
  protected:
   // Makes the window; called by the constructors of the kinds.
   void create(const wchar_t* window_class, DWORD style, DWORD extended_style = 0);
-  // What a screen reader says.
-  void set_accessible_name(const std::string& name);
+  // The window's own text, which is shown or is what a screen reader says.
+  void show_text(const std::string& text);
 
   // Draws the model anew, as far as it has changed.
   virtual void show_changes(const Changes& /*changes*/) {}

@@ -79,7 +79,12 @@ void FormWindow::make_controls() {
     if (!place.tab.empty() && tabs_ == nullptr) tabs_ = std::make_unique<TabStrip>(*this);
     Control* control = model_.find(place.name);
     auto view = control != nullptr ? make_control_view(*this, *control, place) : nullptr;
-    if (view != nullptr) views_.push_back(std::move(view));
+    if (view != nullptr) {
+      if (place.kind == ControlKind::kTitleButton) {
+        hints_.add(window_, view->window(), widen(place.accessible_name));
+      }
+      views_.push_back(std::move(view));
+    }
     Control* page = place.page.empty() ? nullptr : model_.find(place.page);
     if (page != nullptr && std::find(pages_.begin(), pages_.end(), page) == pages_.end()) {
       pages_.push_back(page);

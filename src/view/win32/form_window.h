@@ -13,6 +13,7 @@
 
 #include "forms/window.h"
 #include "view/win32/control_view.h"
+#include "view/win32/hints.h"
 #include "view/win32/look/arrange.h"
 #include "view/win32/tab_strip.h"
 
@@ -81,6 +82,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   FontOwner font_;
   FontOwner bold_font_;
   Pictures pictures_;
+  Hints hints_;
   std::unique_ptr<TabStrip> tabs_;
   std::vector<std::unique_ptr<ControlView>> views_;  // as in the table
   std::deque<std::function<void()>> acts_;

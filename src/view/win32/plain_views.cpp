@@ -33,7 +33,7 @@ HBRUSH LabelView::prepare(HDC dc) {
 }
 
 void LabelView::show_changes(const Changes& changes) {
-  if (changes.has(Change::kCaption)) set_accessible_name(label_.caption());
+  if (changes.has(Change::kCaption)) show_text(label_.caption());
 }
 
 PathLineView::PathLineView(ViewHost& host, TextBox& box, const ControlPlace& place)
@@ -42,7 +42,7 @@ PathLineView::PathLineView(ViewHost& host, TextBox& box, const ControlPlace& pla
 }
 
 void PathLineView::show_changes(const Changes& changes) {
-  if (changes.has(Change::kText)) set_accessible_name(box_.text());
+  if (changes.has(Change::kText)) show_text(box_.text());
   InvalidateRect(window(), nullptr, FALSE);
 }
 

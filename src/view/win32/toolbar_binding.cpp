@@ -34,7 +34,6 @@ ToolbarBinding::ToolbarBinding(ViewHost& host, Toolbar& bar, const ControlPlace&
   send(TB_SETEXTENDEDSTYLE, 0, TBSTYLE_EX_MIXEDBUTTONS | TBSTYLE_EX_DOUBLEBUFFER);
   restyle();
   add_buttons();
-  set_accessible_name(std::string(place.accessible_name));
 }
 
 void ToolbarBinding::restyle() {

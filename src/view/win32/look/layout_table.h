@@ -40,7 +40,7 @@ struct ControlPlace {
   int columns;  // how many columns the cell takes
   Pack pack;
   int width;  // of a packed control; one with a longer caption gets wider
-  // What a screen reader says; empty: the control's own caption.
+  // What a screen reader says; empty: the text that the control shows.
   std::string_view accessible_name;
   // The frame whose showing it shares; empty: it stands in the window itself.
   std::string_view page;

@@ -4,9 +4,11 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,7 +50,6 @@ class FormWindow final : public ViewHost, private ControlObserver {
  private:
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l);
   void create();
-  void make_controls();
   LRESULT handle(UINT message, WPARAM w, LPARAM l);
   std::optional<LRESULT> handle_frame(UINT message, WPARAM w, LPARAM l);
   std::optional<LRESULT> handle_controls(UINT message, WPARAM w, LPARAM l);
@@ -60,17 +61,20 @@ class FormWindow final : public ViewHost, private ControlObserver {
   void limit_size(MINMAXINFO& limits) const;
   [[nodiscard]] RECT first_place() const;
 
+  // form_window_controls.cpp
+  void make_controls();
+  [[nodiscard]] ControlView* view_of(HWND window) const;
+  void arrange_controls();
+  [[nodiscard]] bool is_shown(const ControlView& view) const;
+  void show_controls();
+  void keep_focus();
+
   // A frame has been shown or hidden, and with it the controls of its page.
   void changed(Control& control, Change what) override;
   void run_acts();
   void refresh();
   void restyle();
-  void arrange_controls();
-  void show_controls();
-  [[nodiscard]] bool is_shown(const ControlView& view) const;
   void show_window();  // as the model tells
-  void keep_focus();
-  [[nodiscard]] ControlView* view_of(HWND window) const;
   void click(std::string_view name);
 
   Window& model_;

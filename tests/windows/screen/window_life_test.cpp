@@ -4,9 +4,11 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <nlohmann/json.hpp>
 
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win32_tray.h"
+#include "tests/windows/screen/console_result.h"
 #include "tests/windows/screen/junk_page.h"
 
 namespace quillvane {
@@ -120,6 +122,38 @@ class PoorFolder : public testing::Test {
   const PlantedJunk junk_;
   const fs::path folder_ = "C:\\qv-poor";
 };
+
+// Runs it without looking for a window; its exit code.
+DWORD run_unseen(const fs::path& program, const std::wstring& switches) {
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  std::wstring command = L"\"" + program.native() + L"\" " + switches;
+  PROCESS_INFORMATION process{};
+  EXPECT_TRUE(CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                             nullptr, &startup, &process));
+  CloseHandle(process.hThread);
+  const FileHandle owner(process.hProcess);
+  EXPECT_EQ(WaitForSingleObject(owner.get(), 30'000), WAIT_OBJECT_0);
+  DWORD code = STILL_ACTIVE;
+  GetExitCodeProcess(owner.get(), &code);
+  return code;
+}
+
+TEST_F(PoorFolder, ARunSwitchCountsUnseenAndLeavesItsResult) {
+  EXPECT_EQ(run_unseen(folder_ / "QuillvaneDiskCleaner.exe", L"w2-c2"), 0U);
+
+  const auto totals = nlohmann::json::parse(console_output(L"scan --json"))["totals"];
+  std::ifstream file(folder_ / "junst.txt");
+  std::string result;
+  std::getline(file, result);
+  EXPECT_EQ(result, std::to_string(totals["files"].get<long long>()) + "|" +
+                        std::to_string(totals["bytes"].get<long long>()));
+  EXPECT_EQ(junk_.still_there(), 4);
+}
+
+TEST_F(PoorFolder, ASwitchOfAWindowThatIsNotThereYetEndsAtOnce) {
+  EXPECT_EQ(run_unseen(folder_ / "QuillvaneDiskCleaner.exe", L"g"), 0U);
+}
 
 TEST_F(PoorFolder, WithoutTheAnimationItScansAllTheSame) { scan_to_the_end(); }
 

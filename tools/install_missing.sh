@@ -38,4 +38,6 @@ test_packages=(
   clang clang-format libclang-rt-14-dev               # format check and fuzz targets
   g++-mingw-w64-x86-64-posix wine64 wine              # Windows programs and their tests
   make patch tcl xz-utils                             # SQLite for Windows programs
+  librsvg2-bin icoutils imagemagick                   # pictures of the Windows program
+  xvfb xdotool                                        # its window on a screen for the tests
 )

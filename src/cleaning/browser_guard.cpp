@@ -52,6 +52,7 @@ bool Form7::may_scan_browser(std::string_view process, std::string_view spoken_n
 
 void Form7::scan_browsers() {
   for (const GuardedBrowser& browser : kGuardedBrowsers) {
+    if (program.ended()) return;  // nobody is there to be asked
     if (may_scan_browser(browser.process, browser.spoken_name)) {
       run_category(*this, browser.node);
     } else {

@@ -264,6 +264,21 @@ TEST(ResultFile, OneThatCannotBeWrittenDoesNotStopTheRun) {
   EXPECT_EQ(fixture.program_file("junst.txt"), "old");
 }
 
+// --- Closing.
+
+TEST(ClosedWindow, GivesTheScanUpAndAsksNothing) {
+  JunkEverywhere fixture;
+  fixture.machine.machine().add_process(7, "chrome.exe");
+  Form7& form = fixture.start();
+  fixture.when([&form] { return form.view1.count() == 1; }, [&form] { form.close(); });
+
+  form.cmd_start.click();
+
+  EXPECT_TRUE(fixture.program->ended());
+  EXPECT_EQ(rows(form.view1), (Texts{fixture.junk[0]}));
+  EXPECT_TRUE(fixture.machine.dialogs().take_boxes().empty());
+}
+
 // --- Cancelling.
 
 // A scan that is cancelled when its first row is there, so in the first category.

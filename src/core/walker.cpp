@@ -37,7 +37,8 @@ bool Walk::judge_folder(const FolderRun& run) {
     form_.program.do_events();
     full_name_.assign(path).append(file.name);
     form_.Text13.set_text(full_name_);
-    if (form_.cancelflag == 1 || form_.program.stopped()) return false;
+    // Nobody waits for the rest of a scan whose window was closed.
+    if (form_.cancelflag == 1 || form_.program.ended()) return false;
     const std::optional<double> size = FileSizeToDouble(file.size_high, file.size_low);
     // The folder of a file whose size overflowed was never set: it is in no list.
     const bool ignored = size && tests_.ignored();

@@ -26,9 +26,9 @@ constexpr std::string_view kConsole[] = {
     "view/console", "platform/virtual", "core",      "categories",
     "cleaning",     "drivesearch",      "shortcuts", "lang",
     "forms",        "controls",         "support",   "platform"};
-constexpr std::string_view kWindows[] = {"view/win32",  "core",      "categories", "cleaning",
-                                         "drivesearch", "shortcuts", "lang",       "forms",
-                                         "controls",    "support",   "platform"};
+constexpr std::string_view kWindows[] = {"view/win32", "platform/win32", "core",      "categories",
+                                         "cleaning",   "drivesearch",    "shortcuts", "lang",
+                                         "forms",      "controls",       "support",   "platform"};
 
 struct Layer {
   std::string_view folder;

@@ -6,7 +6,7 @@
 # PREFIX is the folder that holds the Windows the programs run on; it is made at the first use. That
 # Windows stands by itself: its user's folders are its own, not links to those of whoever runs the
 # tests, nor is its recycle bin theirs, and its settings are those of the United States. It needs no
-# screen.
+# screen, and has none unless the variable RUN_WINE_SCREEN names a display; a PREFIX is for one kind.
 set -euo pipefail
 
 prefix=$1
@@ -28,11 +28,14 @@ export WINEPREFIX=$prefix WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES=mscoree
 export LC_ALL=C.UTF-8
 export XDG_DATA_HOME=$prefix/host_data # where the recycle bin lies
 unset DISPLAY
+if [ -n "${RUN_WINE_SCREEN:-}" ]; then
+  export DISPLAY=$RUN_WINE_SCREEN
+fi
 
 # The new Windows begins with the choice of a driver that draws nothing, with which windows can be
 # made all the same: Wine reads it once, when the desktop begins. The rest of the registry Wine adds.
 make_prefix() {
-  cat >"$prefix/user.reg" <<'EOF'
+  [ -n "${DISPLAY:-}" ] || cat >"$prefix/user.reg" <<'EOF'
 WINE REGISTRY Version 2
 #arch=win64
 

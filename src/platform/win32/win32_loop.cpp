@@ -1,30 +1,11 @@
 #include "platform/win32/win32_loop.h"
 
-#include <windows.h>
-
 #include <algorithm>
 #include <utility>
 
 #include "platform/win32/windows_time.h"
 
 namespace quillvane {
-
-namespace {
-
-void dispatch_waiting_messages() {
-  MSG message;
-  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
-    if (message.message == WM_QUIT) {
-      // For the outermost loop, which ends the program; this one only serves what waits.
-      PostQuitMessage(static_cast<int>(message.wParam));
-      return;
-    }
-    TranslateMessage(&message);
-    DispatchMessageW(&message);
-  }
-}
-
-}  // namespace
 
 void Win32Loop::do_events() {
   if (GetTickCount64() != served_ms_) serve();
@@ -61,6 +42,32 @@ FileTime Win32Loop::local_now() const {
   FILETIME time{};
   SystemTimeToFileTime(&local, &time);
   return file_time(time);
+}
+
+void Win32Loop::serve_until(const std::function<bool()>& done) {
+  constexpr std::uint64_t kNoEnd = ~std::uint64_t{0};
+  for (;;) {
+    serve();
+    if (done()) return;
+    const std::uint64_t pause_ms = milliseconds_until_due(GetTickCount64(), kNoEnd);
+    MsgWaitForMultipleObjectsEx(0, nullptr,
+                                static_cast<DWORD>(std::min<std::uint64_t>(pause_ms, INFINITE)),
+                                QS_ALLINPUT, MWMO_INPUTAVAILABLE);
+  }
+}
+
+void Win32Loop::dispatch_waiting_messages() {
+  MSG message;
+  while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
+    if (message.message == WM_QUIT) {
+      // For the outermost loop, which ends the program; this one only serves what waits.
+      PostQuitMessage(static_cast<int>(message.wParam));
+      return;
+    }
+    if (take_ && take_(message)) continue;
+    TranslateMessage(&message);
+    DispatchMessageW(&message);
+  }
 }
 
 void Win32Loop::serve() {

@@ -1,10 +1,13 @@
 // The message loop of a program on this PC, in real time.
 #pragma once
 
+#include <windows.h>
+
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "platform/message_loop.h"
@@ -25,6 +28,13 @@ class Win32Loop final : public MessageLoop {
   void stop_timer(TimerId timer) override;
   [[nodiscard]] FileTime local_now() const override;
 
+  // Serves the loop until `done` holds, asleep while nothing is due. `done` is asked after each
+  // serving.
+  void serve_until(const std::function<bool()>& done);
+  // `take` sees each message before it is dispatched; what it takes is not. For windows whose keys
+  // go through their controls. An empty one takes nothing.
+  void set_message_filter(std::function<bool(MSG&)> take) { take_ = std::move(take); }
+
  private:
   struct RunningTimer {
     TimerId id;
@@ -34,6 +44,7 @@ class Win32Loop final : public MessageLoop {
   };
 
   void serve();
+  void dispatch_waiting_messages();
   void serve_timers();
   // The timer that has been due longest; null when none is.
   [[nodiscard]] RunningTimer* due_timer(std::uint64_t now_ms);
@@ -41,6 +52,7 @@ class Win32Loop final : public MessageLoop {
                                                      std::uint64_t end_ms) const;
 
   std::vector<RunningTimer> timers_;
+  std::function<bool(MSG&)> take_;
   TimerId last_id_ = 0;
   std::uint64_t served_ms_ = 0;  // the tick of the clock in which the loop was last served
 };

@@ -1,0 +1,124 @@
+#include "view/win32/button_view.h"
+
+#include <commctrl.h>
+
+#include "platform/win32/wide_text.h"
+#include "view/win32/gdi_objects.h"
+#include "view/win32/look/arrange.h"
+#include "view/win32/screen.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr int kPictureSize = 16;
+constexpr int kPadding = 14;  // on both sides of a caption
+constexpr int kHoverShare = 40;
+constexpr int kPressShare = 80;
+
+}  // namespace
+
+ButtonView::ButtonView(ViewHost& host, Clickable& button, const ControlPlace& place)
+    : ControlView(host, button, place), button_(button) {
+  create(WC_BUTTONW, WS_TABSTOP | BS_OWNERDRAW);
+}
+
+int ButtonView::wanted_width() const {
+  if (in_title()) return 0;
+  return text_width(host().font(), widen(button_.caption()).c_str()) +
+         2 * scaled(kPadding, host().dpi());
+}
+
+bool ButtonView::press() {
+  commanded(BN_CLICKED);
+  return true;
+}
+
+void ButtonView::commanded(int code) {
+  // A double click is a second press.
+  if (code != BN_CLICKED && code != BN_DOUBLECLICKED) return;
+  host().act([this] { button_.click(); });
+}
+
+void ButtonView::show_changes(const Changes& changes) {
+  if (changes.has(Change::kCaption) && place().accessible_name.empty()) {
+    show_text(button_.caption());
+  }
+  InvalidateRect(window(), nullptr, FALSE);
+}
+
+ButtonView::Look ButtonView::command_look(bool enabled, bool pressed) const {
+  const Theme& theme = host().theme();
+  if (!enabled) return {theme.page, theme.border, theme.disabled_text};
+  if (place().kind == ControlKind::kMainButton) {
+    const COLORREF back = theme.main_button;
+    const int share = pressed ? kPressShare : over_ ? kHoverShare : 0;
+    const COLORREF lit = theme.high_contrast ? back : mixed(back, theme.main_button_text, share);
+    return {lit, theme.high_contrast ? theme.border : lit, theme.main_button_text};
+  }
+  return {pressed ? theme.button_pressed
+          : over_ ? theme.button_over
+                  : theme.button,
+          theme.border, theme.text};
+}
+
+ButtonView::Look ButtonView::title_look(bool pressed) const {
+  const Theme& theme = host().theme();
+  const int share = pressed ? kPressShare : over_ ? kHoverShare : 0;
+  const COLORREF back = mixed(theme.title, theme.title_text, share);
+  return {back, back, theme.title_text};
+}
+
+void ButtonView::draw_caption(HDC dc, RECT area, const Look& look) const {
+  const Selected font(
+      dc, place().kind == ControlKind::kMainButton ? host().bold_font() : host().font());
+  SetBkMode(dc, TRANSPARENT);
+  SetTextColor(dc, look.text);
+  const std::wstring caption = widen(button_.caption());
+  DrawTextW(dc, caption.c_str(), -1, &area,
+            DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+}
+
+void ButtonView::draw(const DRAWITEMSTRUCT& item) {
+  const bool pressed = (item.itemState & ODS_SELECTED) != 0;
+  const bool enabled = (item.itemState & ODS_DISABLED) == 0;
+  const Look look = in_title() ? title_look(pressed) : command_look(enabled, pressed);
+  RECT area = item.rcItem;
+  fill(item.hDC, area, look.back);
+  frame(item.hDC, area, look.edge);
+  if (in_title()) {
+    const int size = scaled(kPictureSize, host().dpi());
+    host().pictures().draw(item.hDC, (area.left + area.right - size) / 2,
+                           (area.top + area.bottom - size) / 2, size, place().picture, look.text);
+  } else {
+    draw_caption(item.hDC, area, look);
+  }
+  // Only whom the keyboard leads here is shown where it stands.
+  const bool shows_focus =
+      (item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0;
+  if (!shows_focus) return;
+  InflateRect(&area, -3, -3);
+  const bool on_color = in_title() || place().kind == ControlKind::kMainButton;
+  frame(item.hDC, area, on_color ? look.text : host().theme().focus);
+}
+
+void ButtonView::mouse_is_over(bool over) {
+  if (over_ == over) return;
+  over_ = over;
+  InvalidateRect(window(), nullptr, FALSE);
+  if (!over) return;
+  TRACKMOUSEEVENT track{};
+  track.cbSize = sizeof(track);
+  track.dwFlags = TME_LEAVE;
+  track.hwndTrack = window();
+  TrackMouseEvent(&track);
+}
+
+std::optional<LRESULT> ButtonView::filter(UINT message, WPARAM /*w*/, LPARAM /*l*/) {
+  if (message == WM_MOUSEMOVE) mouse_is_over(true);
+  if (message == WM_MOUSELEAVE) mouse_is_over(false);
+  if (message == WM_ERASEBKGND) return 1;  // all of it is drawn
+  return std::nullopt;
+}
+
+}  // namespace quillvane

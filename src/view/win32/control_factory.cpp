@@ -1,0 +1,51 @@
+#include "view/win32/control_factory.h"
+
+#include "view/win32/animation_view.h"
+#include "view/win32/button_view.h"
+#include "view/win32/list_binding.h"
+#include "view/win32/plain_views.h"
+#include "view/win32/toolbar_binding.h"
+#include "view/win32/tree_binding.h"
+
+namespace quillvane {
+
+namespace {
+
+template <typename View, typename Model>
+std::unique_ptr<ControlView> make(ViewHost& host, Control& control, const ControlPlace& place) {
+  auto* model = dynamic_cast<Model*>(&control);
+  if (model == nullptr) return nullptr;
+  return std::make_unique<View>(host, *model, place);
+}
+
+}  // namespace
+
+std::unique_ptr<ControlView> make_control_view(ViewHost& host, Control& model,
+                                               const ControlPlace& place) {
+  switch (place.kind) {
+    case ControlKind::kToolbar:
+      return make<ToolbarBinding, Toolbar>(host, model, place);
+    case ControlKind::kTree:
+      return make<TreeBinding, TreeView>(host, model, place);
+    case ControlKind::kList:
+      return make<ListBinding, ListView>(host, model, place);
+    case ControlKind::kButton:
+    case ControlKind::kMainButton:
+    case ControlKind::kTitleButton:
+      return make<ButtonView, Clickable>(host, model, place);
+    case ControlKind::kLabel:
+      return make<LabelView, Label>(host, model, place);
+    case ControlKind::kPathLine:
+      return make<PathLineView, TextBox>(host, model, place);
+    case ControlKind::kMark:
+    case ControlKind::kPicture:
+      return make<MarkView, Control>(host, model, place);
+    case ControlKind::kProgress:
+      return make<ProgressView, ProgressBar>(host, model, place);
+    case ControlKind::kAnimation:
+      return make<AnimationView, Animation>(host, model, place);
+  }
+  return nullptr;
+}
+
+}  // namespace quillvane

@@ -1,0 +1,98 @@
+// A window of the program on the screen: borderless, with a title bar of its own, and with the
+// controls that its table names.
+#pragma once
+
+#include <windows.h>
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/window.h"
+#include "view/win32/control_view.h"
+#include "view/win32/hints.h"
+#include "view/win32/look/arrange.h"
+#include "view/win32/tab_strip.h"
+
+namespace quillvane {
+
+inline constexpr wchar_t kFormWindowClass[] = L"QuillvaneForm";
+
+class FormWindow final : public ViewHost, private ControlObserver {
+ public:
+  // `model` must outlive it; so must the pictures' library. `ended` tells whether the program has
+  // ended itself: the window is gone from the screen then.
+  FormWindow(Window& model, const WindowLayout& layout, std::function<bool()> ended);
+  ~FormWindow() override;
+  FormWindow(const FormWindow&) = delete;
+  FormWindow& operator=(const FormWindow&) = delete;
+
+  // A message of the loop before Windows dispatches it: keys that go through the controls. True:
+  // done with.
+  [[nodiscard]] bool take_key(MSG& message);
+
+  [[nodiscard]] HWND window() const override { return window_; }
+  [[nodiscard]] const WindowLayout& layout() const override { return layout_; }
+  [[nodiscard]] const Theme& theme() const override { return theme_; }
+  [[nodiscard]] int dpi() const override { return dpi_; }
+  [[nodiscard]] HFONT font() const override { return font_.get(); }
+  [[nodiscard]] HFONT bold_font() const override { return bold_font_.get(); }
+  [[nodiscard]] Pictures& pictures() override { return pictures_; }
+  void act(std::function<void()> act) override;
+  void needs_refresh() override;
+  void show_menu(const Menu& menu, POINT place) override;
+
+ private:
+  static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l);
+  void create();
+  LRESULT handle(UINT message, WPARAM w, LPARAM l);
+  std::optional<LRESULT> handle_frame(UINT message, WPARAM w, LPARAM l);
+  std::optional<LRESULT> handle_controls(UINT message, WPARAM w, LPARAM l);
+  std::optional<LRESULT> handle_looks(UINT message, WPARAM w, LPARAM l);
+
+  // form_window_frame.cpp: the window's edges and title bar.
+  [[nodiscard]] LRESULT part_at(POINT place) const;
+  void paint();
+  void limit_size(MINMAXINFO& limits) const;
+  [[nodiscard]] RECT first_place() const;
+
+  // form_window_controls.cpp
+  void make_controls();
+  [[nodiscard]] ControlView* view_of(HWND window) const;
+  void arrange_controls();
+  [[nodiscard]] bool is_shown(const ControlView& view) const;
+  void show_controls();
+  void keep_focus();
+
+  // A frame has been shown or hidden, and with it the controls of its page.
+  void changed(Control& control, Change what) override;
+  void run_acts();
+  void refresh();
+  void restyle();
+  void show_window();  // as the model tells
+  void click(std::string_view name);
+
+  Window& model_;
+  const WindowLayout& layout_;
+  std::function<bool()> ended_;
+  HWND window_ = nullptr;
+  int dpi_ = kPlainDpi;
+  Theme theme_;
+  FontOwner font_;
+  FontOwner bold_font_;
+  Pictures pictures_;
+  Hints hints_;
+  std::unique_ptr<TabStrip> tabs_;
+  std::vector<std::unique_ptr<ControlView>> views_;  // as in the table
+  std::deque<std::function<void()>> acts_;
+  std::vector<Control*> pages_;  // frames that the table names
+  std::uint64_t refreshed_ms_ = 0;
+  bool refresh_is_due_ = false;
+};
+
+}  // namespace quillvane

@@ -1,0 +1,90 @@
+// The controls of the window: making them, placing them, and which of them show.
+#include <algorithm>
+
+#include "platform/win32/wide_text.h"
+#include "view/win32/control_factory.h"
+#include "view/win32/form_window.h"
+
+namespace quillvane {
+
+void FormWindow::make_controls() {
+  for (const ControlPlace& place : layout_.controls) {
+    if (!place.tab.empty() && tabs_ == nullptr) tabs_ = std::make_unique<TabStrip>(*this);
+    Control* control = model_.find(place.name);
+    auto view = control != nullptr ? make_control_view(*this, *control, place) : nullptr;
+    if (view != nullptr) {
+      if (place.kind == ControlKind::kTitleButton) {
+        hints_.add(window_, view->window(), widen(place.accessible_name));
+      }
+      views_.push_back(std::move(view));
+    }
+    Control* page = place.page.empty() ? nullptr : model_.find(place.page);
+    if (page != nullptr && std::find(pages_.begin(), pages_.end(), page) == pages_.end()) {
+      pages_.push_back(page);
+      page->observe(*this);
+    }
+  }
+}
+
+ControlView* FormWindow::view_of(HWND window) const {
+  const auto found = std::find_if(views_.begin(), views_.end(),
+                                  [window](const auto& view) { return view->window() == window; });
+  return found == views_.end() ? nullptr : found->get();
+}
+
+void FormWindow::arrange_controls() {
+  if (views_.empty()) return;
+  std::vector<int> wanted;
+  for (const auto& view : views_) wanted.push_back(view->wanted_width());
+  RECT area{};
+  GetClientRect(window_, &area);
+  const Arrangement places = arrange(layout_, area.right, area.bottom, dpi_, wanted);
+  for (std::size_t i = 0; i < views_.size(); ++i) {
+    const Box& box = places.controls[i];
+    MoveWindow(views_[i]->window(), box.left, box.top, box.width, box.height, TRUE);
+    const Box& strip = places.tab_strips[i];
+    if (tabs_ != nullptr && strip.height > 0) {
+      tabs_->move(strip);
+    }
+  }
+  InvalidateRect(window_, nullptr, TRUE);
+}
+
+bool FormWindow::is_shown(const ControlView& view) const {
+  const ControlPlace& place = view.place();
+  if (!view.model().visible()) return false;
+  const Control* page = place.page.empty() ? nullptr : model_.find(place.page);
+  if (page != nullptr && !page->visible()) return false;
+  return place.tab.empty() || tabs_ == nullptr || tabs_->chosen() == place.tab;
+}
+
+void FormWindow::show_controls() {
+  bool has_tabs = false;
+  for (const auto& view : views_) {
+    const bool shown = is_shown(*view);
+    const bool is_visible = (GetWindowLongW(view->window(), GWL_STYLE) & WS_VISIBLE) != 0;
+    if (shown != is_visible) ShowWindow(view->window(), shown ? SW_SHOWNA : SW_HIDE);
+    if (shown && !view->place().tab.empty()) has_tabs = true;
+  }
+  if (tabs_ != nullptr) ShowWindow(tabs_->window(), has_tabs ? SW_SHOWNA : SW_HIDE);
+}
+
+// The focus must not stay on what is disabled or hidden: keys would go nowhere.
+void FormWindow::keep_focus() {
+  const HWND focused = GetFocus();
+  if (focused == nullptr && GetActiveWindow() != window_) return;
+  const bool is_ours = focused == window_ || IsChild(window_, focused) != 0;
+  if (focused != nullptr && !is_ours) return;
+  const bool is_usable = is_ours && focused != window_ && IsWindowEnabled(focused) != 0 &&
+                         IsWindowVisible(focused) != 0;
+  if (is_usable) return;
+  for (const auto& view : views_) {
+    const bool is_command =
+        view->place().kind == ControlKind::kMainButton || view->place().kind == ControlKind::kTree;
+    if (!is_command || IsWindowEnabled(view->window()) == 0) continue;
+    SetFocus(view->window());
+    return;
+  }
+}
+
+}  // namespace quillvane

@@ -1,0 +1,86 @@
+// The window's edges and its title bar.
+#include <windowsx.h>
+
+#include <algorithm>
+
+#include "platform/win32/wide_text.h"
+#include "view/win32/form_window.h"
+#include "view/win32/screen.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr int kEdge = 6;  // by which the window is made larger and smaller
+constexpr int kTitlePicture = 20;
+constexpr int kTitleIndent = 10;
+constexpr int kTitlePoints = 10;
+constexpr WORD kProgramIcon = 1;
+
+}  // namespace
+
+// In the middle of the screen, and never larger than it.
+RECT FormWindow::first_place() const {
+  const RECT area = work_area(nullptr);
+  const int width = std::min<int>(scaled(layout_.width, dpi_), area.right - area.left);
+  const int height = std::min<int>(scaled(layout_.height, dpi_), area.bottom - area.top);
+  const int left = area.left + (area.right - area.left - width) / 2;
+  const int top = area.top + (area.bottom - area.top - height) / 2;
+  return {left, top, left + width, top + height};
+}
+
+void FormWindow::limit_size(MINMAXINFO& limits) const {
+  const RECT area = work_area(window_);
+  limits.ptMinTrackSize.x =
+      std::min<LONG>(scaled(layout_.least_width, dpi_), area.right - area.left);
+  limits.ptMinTrackSize.y =
+      std::min<LONG>(scaled(layout_.least_height, dpi_), area.bottom - area.top);
+}
+
+LRESULT FormWindow::part_at(POINT place) const {
+  RECT window{};
+  GetWindowRect(window_, &window);
+  const int edge = scaled(kEdge, dpi_);
+  const bool left = place.x < window.left + edge;
+  const bool right = place.x >= window.right - edge;
+  const bool top = place.y < window.top + edge;
+  const bool bottom = place.y >= window.bottom - edge;
+  if (top) return left ? HTTOPLEFT : right ? HTTOPRIGHT : HTTOP;
+  if (bottom) return left ? HTBOTTOMLEFT : right ? HTBOTTOMRIGHT : HTBOTTOM;
+  if (left) return HTLEFT;
+  if (right) return HTRIGHT;
+  const int title = scaled(layout_.rows.front().length, dpi_);
+  return place.y < window.top + title ? HTCAPTION : HTCLIENT;
+}
+
+void FormWindow::paint() {
+  const PaintScope paint(window_);
+  RECT area{};
+  GetClientRect(window_, &area);
+  const int title = scaled(layout_.rows.front().length, dpi_);
+  RECT page = area;
+  page.top = title;
+  fill(paint.dc(), page, theme_.page);
+  frame(paint.dc(), area, theme_.high_contrast ? theme_.border : theme_.title);
+  RECT bar{0, 0, area.right, title};
+  fill(paint.dc(), bar, theme_.title);
+
+  const int size = scaled(kTitlePicture, dpi_);
+  const int indent = scaled(kTitleIndent, dpi_);
+  const auto icon =
+      static_cast<HICON>(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(kProgramIcon),
+                                    IMAGE_ICON, size, size, LR_DEFAULTCOLOR));
+  const IconOwner owner(icon);
+  if (icon != nullptr) {
+    DrawIconEx(paint.dc(), indent, (title - size) / 2, icon, size, size, 0, nullptr, DI_NORMAL);
+  }
+  const FontOwner font = make_font(kTitlePoints, FW_SEMIBOLD, dpi_);
+  const Selected selected(paint.dc(), font.get());
+  SetBkMode(paint.dc(), TRANSPARENT);
+  SetTextColor(paint.dc(), theme_.title_text);
+  bar.left = indent + size + indent;
+  DrawTextW(paint.dc(), widen(model_.caption()).c_str(), -1, &bar,
+            DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS);
+}
+
+}  // namespace quillvane

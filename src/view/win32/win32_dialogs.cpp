@@ -1,0 +1,56 @@
+#include "view/win32/win32_dialogs.h"
+
+#include <windows.h>
+
+#include <objbase.h>
+#include <shlobj.h>
+
+#include <memory>
+
+#include "platform/win32/wide_text.h"
+
+namespace quillvane {
+
+namespace {
+
+struct FreeIdList {
+  void operator()(ITEMIDLIST* list) const { CoTaskMemFree(list); }
+};
+using IdListOwner = std::unique_ptr<ITEMIDLIST, FreeIdList>;
+
+IdListOwner id_list_of(const std::string& folder) {
+  ITEMIDLIST* list = nullptr;
+  if (folder.empty()) return nullptr;
+  // A folder that is not there leaves the whole PC to choose from.
+  if (SHParseDisplayName(widen(folder).c_str(), nullptr, &list, 0, nullptr) != S_OK) return nullptr;
+  return IdListOwner(list);
+}
+
+}  // namespace
+
+Answer Win32Dialogs::message_box(const std::string& text, const std::string& title,
+                                 std::uint32_t style) {
+  const int answer =
+      MessageBoxW(GetActiveWindow(), widen(text).c_str(), widen(title).c_str(), style);
+  // 0: no box could be shown. A question that nobody saw is answered No.
+  if (answer == 0) return (style & kBoxYesNo) != 0 ? Answer::kNo : Answer::kOk;
+  return static_cast<Answer>(answer);
+}
+
+std::string Win32Dialogs::browse_folder(const std::string& title, std::uint32_t flags,
+                                        const std::string& root) {
+  const std::wstring wide_title = widen(title);
+  const IdListOwner below = id_list_of(root);
+  wchar_t path[MAX_PATH] = L"";
+  BROWSEINFOW request{};
+  request.hwndOwner = GetActiveWindow();
+  request.pidlRoot = below.get();
+  request.pszDisplayName = path;
+  request.lpszTitle = wide_title.c_str();
+  request.ulFlags = flags;
+  const IdListOwner chosen(SHBrowseForFolderW(&request));
+  if (chosen == nullptr || SHGetPathFromIDListW(chosen.get(), path) == FALSE) return {};
+  return narrow(path);
+}
+
+}  // namespace quillvane

@@ -1,0 +1,16 @@
+// Message boxes and dialogs on this PC's screen.
+#pragma once
+
+#include "platform/dialogs.h"
+
+namespace quillvane {
+
+class Win32Dialogs final : public Dialogs {
+ public:
+  Answer message_box(const std::string& text, const std::string& title,
+                     std::uint32_t style) override;
+  std::string browse_folder(const std::string& title, std::uint32_t flags,
+                            const std::string& root) override;
+};
+
+}  // namespace quillvane

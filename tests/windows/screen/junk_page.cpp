@@ -1,0 +1,78 @@
+#include "tests/windows/screen/junk_page.h"
+
+#include <commctrl.h>
+
+#include "tests/windows/screen/remote_memory.h"
+
+namespace quillvane {
+
+void JunkPage::SetUpTestSuite() {
+  shared_junk_ = std::make_unique<PlantedJunk>();
+  shared_program_ = std::make_unique<ProgramOnScreen>();
+}
+
+void JunkPage::TearDownTestSuite() {
+  shared_program_ = nullptr;
+  shared_junk_ = nullptr;
+}
+
+void JunkPage::have_result() const {
+  if (summary().empty()) return scan();
+  choose_tab(0, category_list());
+  program_.click("Select None");  // shows the whole result again, without ticks
+  ASSERT_TRUE(eventually("the whole result", [this] {
+    const int rows = program_.rows(category_list());
+    return rows == program_.rows(whole_list()) && !program_.row_ticked(category_list(), 0) &&
+           !program_.row_ticked(category_list(), rows - 1);
+  }));
+}
+
+void JunkPage::scan() const {
+  program_.click("Start");
+  ASSERT_TRUE(eventually("a scan", [this] { return program_.is_enabled("Cancel"); }));
+  await_end_of_scan();
+}
+
+void JunkPage::await_end_of_scan() const {
+  ASSERT_TRUE(eventually("the scan's end", [this] {
+    return program_.is_enabled("Start") && !program_.is_enabled("Cancel") && !summary().empty();
+  }));
+}
+
+void JunkPage::choose_all_files() const { choose_tab(1, whole_list()); }
+
+void JunkPage::choose_tab(int number, HWND list) const {
+  const HWND tabs = program_.control("Results");
+  FileHandle process(OpenProcess(PROCESS_ALL_ACCESS, FALSE, program_.id()));
+  const RemoteMemory memory(process.get(), sizeof(RECT));
+  memory.write(RECT{});
+  ASSERT_NE(SendMessageW(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(number), memory.address()), 0);
+  auto area = memory.read<RECT>();
+  MapWindowPoints(tabs, nullptr, reinterpret_cast<POINT*>(&area), 2);
+  click_at(middle(area));
+  ASSERT_TRUE(eventually("the list", [list] { return IsWindowVisible(list) != 0; }));
+}
+
+HWND JunkPage::await_box(const std::string& title) const {
+  HWND box = nullptr;
+  EXPECT_TRUE(eventually("the box " + title, [&] {
+    box = program_.box(title);
+    return box != nullptr;
+  }));
+  return box;
+}
+
+void JunkPage::answer(HWND box, const std::string& button) const {
+  HWND found = nullptr;
+  for (HWND child = GetWindow(box, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    std::string text = text_of(child);
+    std::erase(text, '&');
+    if (text == button) found = child;
+  }
+  ASSERT_NE(found, nullptr) << button;
+  click_at(middle(area_of(found)));
+  ASSERT_TRUE(eventually("the end of the box", [box] { return IsWindow(box) == 0; }));
+}
+
+}  // namespace quillvane

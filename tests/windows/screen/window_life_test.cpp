@@ -1,0 +1,170 @@
+// The window's own buttons, and starts under poor conditions.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <nlohmann/json.hpp>
+
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win32_tray.h"
+#include "tests/windows/screen/console_result.h"
+#include "tests/windows/screen/junk_page.h"
+
+namespace quillvane {
+namespace {
+
+using WindowLife = JunkPage;
+namespace fs = std::filesystem;
+
+constexpr const wchar_t* kDrivesKey = L"software\\Quillvane\\Tidewrack Deluxe\\timer";
+constexpr const wchar_t* kDrivesCount = L"alldrive";
+
+std::string stored_count() {
+  wchar_t text[20] = L"";
+  DWORD bytes = sizeof(text);
+  const LSTATUS status = RegGetValueW(HKEY_LOCAL_MACHINE, kDrivesKey, kDrivesCount, RRF_RT_REG_SZ,
+                                      nullptr, text, &bytes);
+  return status == ERROR_SUCCESS ? narrow(text) : "none";
+}
+
+bool is_seen(HWND window) { return IsWindowVisible(window) != 0; }
+
+// Starts without the hand, for windows that lie one over the other.
+void start_scan(const ProgramOnScreen& program) {
+  PostMessageW(program.control("Start"), BM_CLICK, 0, 0);
+}
+
+void await_summary(const ProgramOnScreen& program) {
+  ASSERT_TRUE(
+      eventually("a summary", [&] { return !program.text_beginning("Junk files found").empty(); }));
+}
+
+TEST_F(WindowLife, MinimisedItWaitsInTheTrayAndADoubleClickBringsItBack) {
+  program_.click("Minimise");
+  ASSERT_TRUE(eventually("a hidden window", [this] { return !is_seen(program_.window()); }));
+  HWND tray = nullptr;
+  ASSERT_TRUE(eventually("the tray's window", [&] {
+    tray = FindWindowW(kTrayWindowClass, nullptr);
+    return tray != nullptr;
+  }));
+
+  PostMessageW(tray, kTrayMessage, 1, WM_LBUTTONDBLCLK);
+
+  ASSERT_TRUE(eventually("the window", [this] { return is_seen(program_.window()); }));
+  EXPECT_EQ(program_.nodes().size(), 24U);
+}
+
+TEST_F(WindowLife, TheLanguageButtonOpensAndClosesThePanel) {
+  const HWND language = program_.control("English");
+  EXPECT_FALSE(is_seen(language));
+
+  program_.click("Language");
+  ASSERT_TRUE(eventually("the panel", [&] { return is_seen(language); }));
+  program_.click("Language");
+  ASSERT_TRUE(eventually("no panel", [&] { return !is_seen(language); }));
+}
+
+TEST_F(WindowLife, StartedTwiceBothWork) {
+  const ProgramOnScreen second;
+  start_scan(program_);
+  start_scan(second);
+
+  await_summary(program_);
+  await_summary(second);
+
+  EXPECT_EQ(second.text_beginning("Junk files found"), summary());
+}
+
+TEST(ClosedOnScreen, ItSavesTheTickedDrivesAndEnds) {
+  const ProgramOnScreen program;
+  RegDeleteKeyValueW(HKEY_LOCAL_MACHINE, kDrivesKey, kDrivesCount);
+  ASSERT_EQ(stored_count(), "none");
+
+  program.click("Close");
+
+  EXPECT_EQ(program.exit_code(), 0U);
+  EXPECT_EQ(stored_count(), "0");
+}
+
+TEST(ClosedOnScreen, ItEndsInTheMiddleOfAScan) {
+  const PlantedJunk junk;
+  const ProgramOnScreen program;
+  program.click("Start");
+  ASSERT_TRUE(eventually("a scan", [&] { return program.is_enabled("Cancel"); }));
+
+  program.click("Close");
+
+  EXPECT_EQ(program.exit_code(), 0U);
+  EXPECT_EQ(junk.still_there(), 4);
+}
+
+// A folder of the program's own in which none of its files can be made.
+class PoorFolder : public testing::Test {
+ protected:
+  PoorFolder() {
+    fs::create_directories(folder_ / "tmptype.txt");  // where a file shall be put at the start
+    fs::copy_file(cleaner_program(), folder_ / "QuillvaneDiskCleaner.exe");
+  }
+  ~PoorFolder() override {
+    std::error_code in_use;
+    fs::remove_all(folder_, in_use);
+    EXPECT_FALSE(in_use) << in_use.message();
+  }
+
+  void scan_to_the_end() const {
+    const ProgramOnScreen program((folder_ / "QuillvaneDiskCleaner.exe").native());
+    start_scan(program);
+    await_summary(program);
+    EXPECT_EQ(program.nodes()[6].text, "Log Files ( 1 files, 512 B )");
+  }
+
+  const PlantedJunk junk_;
+  const fs::path folder_ = "C:\\qv-poor";
+};
+
+// Runs it without looking for a window; its exit code.
+DWORD run_unseen(const fs::path& program, const std::wstring& switches) {
+  STARTUPINFOW startup{};
+  startup.cb = sizeof(startup);
+  std::wstring command = L"\"" + program.native() + L"\" " + switches;
+  PROCESS_INFORMATION process{};
+  EXPECT_TRUE(CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                             nullptr, &startup, &process));
+  CloseHandle(process.hThread);
+  const FileHandle owner(process.hProcess);
+  EXPECT_EQ(WaitForSingleObject(owner.get(), 30'000), WAIT_OBJECT_0);
+  DWORD code = STILL_ACTIVE;
+  GetExitCodeProcess(owner.get(), &code);
+  return code;
+}
+
+TEST_F(PoorFolder, ARunSwitchCountsUnseenAndLeavesItsResult) {
+  EXPECT_EQ(run_unseen(folder_ / "QuillvaneDiskCleaner.exe", L"w2-c2"), 0U);
+
+  const auto totals = nlohmann::json::parse(console_output(L"scan --json"))["totals"];
+  std::ifstream file(folder_ / "junst.txt");
+  std::string result;
+  std::getline(file, result);
+  EXPECT_EQ(result, std::to_string(totals["files"].get<long long>()) + "|" +
+                        std::to_string(totals["bytes"].get<long long>()));
+  EXPECT_EQ(junk_.still_there(), 4);
+}
+
+TEST_F(PoorFolder, ASwitchOfAWindowThatIsNotThereYetEndsAtOnce) {
+  EXPECT_EQ(run_unseen(folder_ / "QuillvaneDiskCleaner.exe", L"g"), 0U);
+}
+
+TEST_F(PoorFolder, WithoutTheAnimationItScansAllTheSame) { scan_to_the_end(); }
+
+TEST_F(PoorFolder, WithATornAnimationItScansAllTheSame) {
+  std::ifstream whole(fs::path(cleaner_program()).parent_path() / "search.gif", std::ios::binary);
+  const std::string bytes((std::istreambuf_iterator<char>(whole)),
+                          std::istreambuf_iterator<char>());
+  ASSERT_GT(bytes.size(), 1500U);
+  std::ofstream(folder_ / "search.gif", std::ios::binary) << bytes.substr(0, 1500);
+  scan_to_the_end();
+}
+
+}  // namespace
+}  // namespace quillvane

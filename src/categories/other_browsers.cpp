@@ -24,6 +24,8 @@ constexpr Place kInternetExplorer[] = {
     {"USERPROFILE", "\\AppData\\Local\\Microsoft\\Feeds Cache", "*.*"},
 };
 
+constexpr const char* kOperaStable = "\\AppData\\Roaming\\Opera Software\\Opera Stable";
+
 // The first folder exists only as the junction of an older layout.
 constexpr Place kOpera[] = {
     {"USERPROFILE", "\\Local Settings\\Opera Software\\Opera Stable\\Cache", "*.*"},
@@ -83,6 +85,8 @@ void iecache(Form7& form) {
   end_category(form, kInternetExplorerNode);
 }
 
+// Four rows look through each profile in Roaming; those of Local lie apart and are walked as they
+// come.
 void firefoxcache(Form7& form) {
   begin_category(form, kFirefoxNode);
   const std::string home = form.platform().environment.get("USERPROFILE");
@@ -90,17 +94,26 @@ void firefoxcache(Form7& form) {
     return home + (tree == Tree::kLocal ? "\\AppData\\Local" : "\\AppData\\Roaming") +
            "\\Mozilla\\Firefox\\Profiles";
   };
+  KeptListing listing(
+      form, folder_of(Tree::kRoaming),
+      {"*.*", "places.sqlite.*", "sessionCheckpoints.json", "sessionstore.jsonlz4"});
   for (const Pass& pass : firefox_passes()) {
     for (const std::string& profile : subfolder_names(form, folder_of(pass.profiles))) {
       for (const ProfileRow& row : pass.rows) {
-        form.srch(folder_of(row.tree) + "\\" + profile + row.suffix, row.pattern, kFirefoxNode);
+        listing.srch(folder_of(row.tree) + "\\" + profile + row.suffix, row.pattern, kFirefoxNode);
       }
     }
   }
   end_category(form, kFirefoxNode);
 }
 
-void operacache(Form7& form) { scan_places(form, kOperaNode, kOpera); }
+void operacache(Form7& form) {
+  begin_category(form, kOperaNode);
+  const std::string home = form.platform().environment.get("USERPROFILE");
+  KeptListing listing(form, home + kOperaStable, {"*.*", "*-journal.*", "*.tmp"});
+  for (const Place& place : kOpera) listing.srch(home + place.suffix, place.pattern, kOperaNode);
+  end_category(form, kOperaNode);
+}
 
 void uccache(Form7& form) {
   begin_category(form, kUcBrowserNode);

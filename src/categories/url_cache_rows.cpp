@@ -12,15 +12,17 @@ namespace {
 
 void add_row(Form7& form, const UrlCacheEntry& entry, int node) {
   const Platform& platform = form.platform();
-  const auto size = static_cast<double>(platform.files.file_size(entry.local_file).value_or(0));
+  const auto size = platform.files.file_size(entry.local_file);
   const auto date = FileTimeToDate(entry.last_access, platform.system.date_order());
   const int row = form.view1.add(entry.local_file);
-  form.view1.set_sub_item(row, kSizeColumn, form.size_text(size));
+  // A file that is gone has no size: its column stays empty, and the row counts all the same.
+  const auto bytes = static_cast<double>(size.value_or(0));
+  if (size) form.view1.set_sub_item(row, kSizeColumn, form.size_text(bytes));
   form.view1.set_sub_item(row, kDateColumn, date ? platform.system.format_date(*date) : "");
   form.view1.set_sub_item(row, kCategoryColumn, std::to_string(node));
   form.view1.set_icon(row, std::to_string(node - 1));  // not the walker's rule for browsers
   form.totals.catfiles += 1;
-  form.totals.catsize += size;
+  form.totals.catsize += bytes;
 }
 
 }  // namespace

@@ -131,5 +131,111 @@ TEST(BrowserGuard, ACancelAfterACategorySkipsTheFollowingOnesAndTheirQuestions) 
   EXPECT_EQ(form.Tv1.node(12).text, "Browsers ( 0 files, 0 B )");
 }
 
+// "notchrome.exe" would be closed with Chrome, but does not bring the question.
+TEST(BrowserGuard, AProcessWhoseNameOnlyEndsSoBringsNoQuestion) {
+  ScanFixture fixture;
+  fixture.machine.machine().add_process(7, "notchrome.exe");
+  Form7& form = fixture.start();
+  form.cmd_start.click();
+  EXPECT_EQ(fixture.machine.dialogs().take_boxes(), std::vector<ShownBox>{});
+  EXPECT_EQ(scanned_browsers(form), numbers_from(13, 23));
+}
+
+TEST(BrowserGuard, AYesClosesWhateverBearsTheNameOfOperasLauncher) {
+  ScanFixture fixture;
+  fixture.machine.machine().add_process(7, "Launcher.exe");
+  fixture.machine.machine().add_process(8, "gamelauncher.exe");
+  fixture.machine.dialogs().answer(Answer::kYes);
+  fixture.start().cmd_start.click();
+  EXPECT_EQ(fixture.machine.dialogs().take_boxes(), std::vector{question("Opera browser", "yes")});
+  EXPECT_EQ(processes(fixture), Texts{});
+}
+
+TEST(BrowserGuard, EachBrowserThatRunsHasItsQuestionInTheOrderOfTheScan) {
+  ScanFixture fixture;
+  for (const GuardCase& browser : kGuarded) {
+    fixture.machine.machine().add_process(static_cast<std::uint32_t>(browser.node),
+                                          browser.process);
+  }
+  Form7& form = fixture.start();
+  form.cmd_start.click();
+  std::vector<ShownBox> questions;
+  for (const GuardCase& browser : kGuarded) {
+    questions.push_back(question(browser.spoken_name, "no"));
+  }
+  EXPECT_EQ(fixture.machine.dialogs().take_boxes(), questions);
+  EXPECT_EQ(scanned_browsers(form), std::vector{23});
+  EXPECT_EQ(form.skipped_browsers, numbers_from(13, 22));
+}
+
+// In Chrome's category the user cancels; what was found before stays and is summed up.
+TEST(BrowserGuard, ACancelInChromeSkipsTheRestAndTheGroupIsStillSummedUp) {
+  ScanFixture fixture;
+  const std::string local = "C:\\Users\\User\\AppData\\Local\\";
+  const std::string feed = local + "Microsoft\\Feeds Cache\\a.xml";
+  const std::string cache = local + "Google\\Chrome\\User Data\\Default\\Cache\\";
+  for (const std::string& file : {feed, cache + "f_1", cache + "f_2", local + "UCBrowser\\a.tmp"}) {
+    fixture.machine.add_file(file, 10);
+  }
+  fixture.machine.add_registry_key(Hive::kCurrentUser,
+                                   "Software\\Google\\Chrome\\PreferenceMACs\\Default");
+  fixture.machine.machine().add_process(7, "launcher.exe");
+  Form7& form = fixture.start();
+  fixture.when([&] { return form.Text13.text() == cache + "f_1"; },
+               [&] { form.cmd_cancel.click(); });
+
+  form.cmd_start.click();
+
+  EXPECT_EQ(rows(form.view1), (Texts{feed, cache + "f_1"}));
+  EXPECT_EQ(scanned_browsers(form), (std::vector{13, 14, 15}));
+  EXPECT_EQ(fixture.machine.dialogs().take_boxes(), std::vector<ShownBox>{});
+  EXPECT_EQ(form.Tv1.node(15).text, "Google Chrome Cache ( 1 files, 10 B )");
+  EXPECT_EQ(form.Tv1.node(12).text, "Browsers ( 2 files, 20 B )");
+  EXPECT_EQ(form.totals.totalfiles, 2);
+  EXPECT_EQ(form.totals.totalsize, 20);
+  EXPECT_EQ(form.txtfilecont.text(), "2");
+  EXPECT_EQ(form.txtfilesize.text(), "20");
+  EXPECT_FALSE(form.cmd_cancel.enabled());
+}
+
+TEST(BrowserGuard, ACancelAfterANoSkipsTheRestToo) {
+  ScanFixture fixture;
+  fixture.machine.machine().add_process(7, "iexplore.exe");
+  Form7& form = fixture.start();
+  form.cancelflag = 1;
+  form.startcleanexplorer();
+  EXPECT_EQ(fixture.machine.dialogs().take_boxes(),
+            std::vector{question("Internet Explorer", "no")});
+  EXPECT_EQ(scanned_browsers(form), std::vector<int>{});
+  EXPECT_EQ(form.Tv1.node(12).text, "Browsers ( 0 files, 0 B )");
+}
+
+TEST(BrowserGuard, AScanOfOneNodeAsksNothing) {
+  for (const GuardCase& browser : kGuarded) {
+    ScanFixture fixture;
+    fixture.machine.machine().add_process(7, browser.process);
+    Form7& form = fixture.start();
+    form.Tv1.click_node(browser.node);
+    form.scf.click();
+    EXPECT_EQ(fixture.machine.dialogs().take_boxes(), std::vector<ShownBox>{});
+    EXPECT_EQ(scanned_browsers(form), std::vector{browser.node});
+    EXPECT_EQ(processes(fixture), Texts{browser.process});
+  }
+}
+
+TEST(BrowserGuard, AScanOfTheGroupAsksNothingAndReachesAllBrowsers) {
+  ScanFixture fixture;
+  for (const GuardCase& browser : kGuarded) {
+    fixture.machine.machine().add_process(static_cast<std::uint32_t>(browser.node),
+                                          browser.process);
+  }
+  Form7& form = fixture.start();
+  form.Tv1.click_node(12);
+  form.scf.click();
+  EXPECT_EQ(fixture.machine.dialogs().take_boxes(), std::vector<ShownBox>{});
+  EXPECT_EQ(scanned_browsers(form), numbers_from(13, 23));
+  EXPECT_EQ(processes(fixture).size(), 10U);
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -13,7 +13,7 @@ namespace quillvane {
 
 class Form7;
 
-// Lives no longer than the category routine that makes it.
+// Lives no longer than the category routine that makes it: the rows it leads to do not need it.
 class KeptListing {
  public:
   // The tree below `root` is read when it is first needed. Requires: at most
@@ -28,6 +28,11 @@ class KeptListing {
   [[nodiscard]] std::optional<ListedPart> find(const std::string& path, const std::string& pattern);
 
  private:
+  // The subfolder of that name; null when it is not listed. `reached` is the folder's path and
+  // becomes the subfolder's.
+  [[nodiscard]] const ListedFolder* enter(const ListedFolder& folder, const std::string& name,
+                                          std::string& reached) const;
+
   Form7& form_;
   std::string root_;
   std::vector<std::string> patterns_;

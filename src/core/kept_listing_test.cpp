@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <fstream>
 #include <string>
 
 #include "tests/support/scan_fixture.h"
@@ -94,6 +95,16 @@ TEST(KeptListing, LeavesATreeWithLoopsToTheDisk) {
   KeptListing listing(staged.form(), kRoot, {"*.*"});
   EXPECT_FALSE(listing.find(kRoot + "\\one", "*.*").has_value());
   staged.srch(listing, kRoot + "\\one", "*.*");
+}
+
+// On a disk that tells names apart by case the nearer name is a file's.
+TEST(KeptListing, AFileUnderANearerNameHidesTheFolder) {
+  Staged staged;
+  std::ofstream(staged.machine.host_path(kRoot + "\\one") + "/CACHE") << "x";
+  KeptListing listing(staged.form(), kRoot, {"*.*"});
+  EXPECT_EQ(staged.srch(listing, kRoot + "\\one\\CACHE", "*.*"), Texts{});
+  EXPECT_EQ(staged.srch(listing, kRoot + "\\one\\caCHE", "*.*"), Texts{});
+  EXPECT_EQ(staged.srch(listing, kRoot + "\\one\\Cache", "*.*").size(), 2U);
 }
 
 TEST(KeptListing, AMissingFolderYieldsNothing) {

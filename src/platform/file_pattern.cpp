@@ -48,6 +48,16 @@ class UpperText {
 
 bool is_ascii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
+bool all_ascii(std::string_view text) { return std::all_of(text.begin(), text.end(), is_ascii); }
+
+char ascii_upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+// Whether ASCII letters are the same; `capitals` has no small ones.
+bool same_ascii(std::string_view text, std::string_view capitals) {
+  return std::equal(text.begin(), text.end(), capitals.begin(), capitals.end(),
+                    [](char a, char b) { return ascii_upper(a) == b; });
+}
+
 bool is_wildcard(char16_t unit) { return unit == u'*' || unit == u'?'; }
 
 // Windows drops these from the end of a path before it looks at the pattern.
@@ -103,12 +113,49 @@ void FilePattern::compile(std::string_view pattern, bool ended_in_dot) {
     }
   }
 
+  recognise(pattern, ended_in_dot);
+}
+
+// The forms that most patterns have are matched without a look at their places.
+void FilePattern::recognise(std::string_view pattern, bool ended_in_dot) {
   kind_ = Kind::kGeneral;
   const std::string_view ending = pattern.substr(1);
   if (pattern.starts_with("*.") && ending.find_first_of("*?.", 1) == std::string_view::npos &&
-      std::all_of(ending.begin(), ending.end(), is_ascii)) {
+      all_ascii(ending)) {
     kind_ = Kind::kEnding;
     ending_ = upper_case(ending);
+    return;
+  }
+  if (ended_in_dot || !pattern.ends_with(".*")) return;
+  std::string_view stem = pattern.substr(0, pattern.size() - 2);
+  floats_ = stem.starts_with('*');
+  if (floats_) stem.remove_prefix(1);
+  if (stem.empty() || stem.find_first_of("*?.") != std::string_view::npos || !all_ascii(stem)) {
+    return;
+  }
+  kind_ = Kind::kStem;
+  stem_ = upper_case(stem);
+}
+
+// A made-up name has a number before its dot, or at its end, and three letters behind it at most.
+bool FilePattern::matches_no_made_up_name() const {
+  if (kind_ != Kind::kStem) return kind_ == Kind::kNoName;
+  constexpr std::size_t kMostExtension = 3;
+  const bool ends_in_digit = stem_.back() >= '0' && stem_.back() <= '9';
+  return !ends_in_digit && !(floats_ && stem_.size() <= kMostExtension);
+}
+
+// The stem stands before a dot or at the end. Requires: the name is ASCII.
+bool FilePattern::matches_stem(std::string_view name) const {
+  const std::size_t length = stem_.size();
+  if (!floats_) {
+    return name.size() >= length && same_ascii(name.substr(0, length), stem_) &&
+           (name.size() == length || name[length] == '.');
+  }
+  for (std::size_t end = std::min(name.find('.'), name.size());;
+       end = std::min(name.find('.', end + 1), name.size())) {
+    if (end >= length && same_ascii(name.substr(end - length, length), stem_)) return true;
+    if (end == name.size()) return false;
   }
 }
 
@@ -118,7 +165,10 @@ bool FilePattern::matches_by_text(std::string_view name) const {
     if (name.size() < ending_.size()) return false;
     const std::string_view tail = name.substr(name.size() - ending_.size());
     // A few letters above ASCII have capitals below it, so only ASCII is compared in place.
-    if (std::all_of(tail.begin(), tail.end(), is_ascii)) return upper_case(tail) == ending_;
+    if (all_ascii(tail)) return same_ascii(tail, ending_);
+  }
+  if (kind_ == Kind::kStem && name.size() <= kMostUnits && all_ascii(name)) {
+    return matches_stem(name);
   }
   const UpperText text(name);
   if (text.too_long()) return false;

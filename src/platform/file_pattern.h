@@ -29,8 +29,12 @@ class FilePattern {
   // Whether only the end of a name decides, from its last dot on ("*.tmp").
   [[nodiscard]] bool ends_decide() const { return kind_ == Kind::kEnding; }
 
+  // Whether no short name that a disk makes up ("ABCDEF~1.TXT") can match, so that nobody needs to
+  // make them ("History.*"). False where it takes a closer look to tell.
+  [[nodiscard]] bool matches_no_made_up_name() const;
+
  private:
-  enum class Kind { kNoName, kEveryName, kEnding, kGeneral };
+  enum class Kind { kNoName, kEveryName, kEnding, kStem, kGeneral };
 
   // What one place of the pattern takes of the name.
   enum class Takes : std::uint8_t {
@@ -51,13 +55,17 @@ class FilePattern {
   class Positions;
 
   void compile(std::string_view pattern, bool ended_in_dot);
+  void recognise(std::string_view pattern, bool ended_in_dot);
+  [[nodiscard]] bool matches_stem(std::string_view name) const;
   [[nodiscard]] bool matches_by_text(std::string_view name) const;
   [[nodiscard]] bool matches_places(const Name& name) const;
   void step(const Name& name, std::size_t at, const Positions& from, Positions& to) const;
   [[nodiscard]] bool reaches_end(const Positions& from) const;
 
   Kind kind_ = Kind::kNoName;
-  std::string ending_;  // of kEnding: ".TMP", ASCII
+  std::string ending_;   // of kEnding: ".TMP", ASCII in capitals
+  std::string stem_;     // of kStem: "HISTORY" of "History.*", ASCII in capitals
+  bool floats_ = false;  // of kStem: "*-journal.*", so the stem may have something before it
   std::vector<Place> places_;
 };
 

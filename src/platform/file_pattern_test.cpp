@@ -37,6 +37,16 @@ constexpr Case kMatches[] = {
     {"History.*", "History"},
     {"History.*", "HISTORY.DAT"},
     {"History.*", "History.a.b"},
+    {"*-journal.*", "Cookies-journal"},
+    {"*-journal.*", "COOKIES-Journal.old.bak"},
+    {"*-journal.*", "a.b-journal"},
+    {"*-journal.*", "-journal"},
+    {"*-journal.*", "-journals.x-journal"},
+    {"Top Sites.*", "top sites"},
+    {"Top Sites.*", "Top Sites."},
+    // A small dotless i has the capital I here too.
+    {"History.*", "h\xC4\xB1story.dat"},
+    {"*-journal.*", "\xC3\xA4-journal.x"},
     {"a*.*", "abc"},
     {"a*.*", "abc.d.e"},
     {"~*.dat", "~a.dat"},
@@ -89,6 +99,13 @@ constexpr Case kMisses[] = {
     {"*.txt", "atxt"},
     {"History.*", "Historical"},
     {"History.*", "History2.dat"},
+    {"History.*", "My History"},
+    {"History.*", "Histor"},
+    {"*-journal.*", "Cookies-journal2"},
+    {"*-journal.*", "Cookies-journal2.x"},
+    {"*-journal.*", "journal"},
+    {"*-journal.*", "-journals.x"},
+    {"*-journal.*", "\xC3\xA4-journals"},
     {"~*.dat", "a~.dat"},
     {"~*.dat", "~a.data"},
     {"*.", "a.txt"},
@@ -144,6 +161,16 @@ TEST(FilePattern, TellsWhetherOnlyTheEndOfANameDecides) {
   EXPECT_FALSE(FilePattern("~*.tmp").ends_decide());
   EXPECT_FALSE(FilePattern("*.t?p").ends_decide());
   EXPECT_FALSE(FilePattern("*.tar.gz").ends_decide());
+}
+
+TEST(FilePattern, TellsWhichPatternsMatchNoNameThatADiskMakesUp) {
+  for (const char* pattern : {"History.*", "*-journal.*", "Top Sites.*", "*tmp1x.*"}) {
+    EXPECT_TRUE(FilePattern(pattern).matches_no_made_up_name()) << pattern;
+  }
+  // "LETTER~1.*" is made up; "*tmp.*" matches "A~1.TMP", "*~1.*" matches "A~1.TXT".
+  for (const char* pattern : {"LETTER~1.*", "*~1.*", "*tmp.*", "*.tmp", "a?.*", "*.*"}) {
+    EXPECT_FALSE(FilePattern(pattern).matches_no_made_up_name()) << pattern;
+  }
 }
 
 TEST(FilePattern, ManyStarsDoNotMultiplyTheWork) {

@@ -12,8 +12,11 @@ NameFilter::NameFilter(std::span<const std::string> patterns, Folders folders)
       std::all_of(patterns_.begin(), patterns_.end(),
                   [](const FilePattern& pattern) { return pattern.matches_every_name(); });
   needs_numbers_ = !std::all_of(patterns_.begin(), patterns_.end(), [](const FilePattern& pattern) {
-    return pattern.matches_every_name() || pattern.ends_decide();
+    return pattern.matches_every_name() || pattern.ends_decide() ||
+           pattern.matches_no_made_up_name();
   });
+  ends_decide_ = std::any_of(patterns_.begin(), patterns_.end(),
+                             [](const FilePattern& pattern) { return pattern.ends_decide(); });
 }
 
 void NameFilter::apply(NameListing& listing, std::uint32_t usable) const {
@@ -43,7 +46,7 @@ std::uint32_t NameFilter::by_name(std::string_view name) const {
 }
 
 std::uint32_t NameFilter::by_short_ending(std::string_view name) const {
-  if (is_short_name(name)) return 0;
+  if (!ends_decide_ || name.find('.') == std::string_view::npos || is_short_name(name)) return 0;
   const std::string ending = "~" + short_extension(name);
   std::uint32_t matches = 0;
   for (std::size_t i = 0; i < patterns_.size(); ++i) {

@@ -33,6 +33,7 @@ class NameFilter {
   std::vector<FilePattern> patterns_;
   bool takes_all_folders_;
   bool takes_every_name_;  // by each of the patterns
+  bool ends_decide_;       // of names, for one pattern at least
   bool needs_numbers_;     // of short names: a pattern looks at more than a name's end
 };
 

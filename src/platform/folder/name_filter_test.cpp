@@ -67,6 +67,15 @@ TEST_F(NameFilterTest, MatchesTheNumbersOfShortNames) {
   EXPECT_EQ(left_by("letter~?.txt"), (Names{"letter to a.txt", "letter to b.txt", "LETTER~1.TXT"}));
 }
 
+TEST_F(NameFilterTest, MatchesWhatStandsBeforeTheDotOfShortNames) {
+  for (const char* name : {"a.tmpx", "b c.txt", "tmp", "History", "historical.db"}) {
+    host.write(name);
+  }
+  EXPECT_EQ(left_by("*tmp.*"), (Names{"a.tmpx", "tmp"}));  // A~1.TMP ends in the letters
+  EXPECT_EQ(left_by("BC~1.*"), Names{"b c.txt"});
+  EXPECT_EQ(left_by("History.*"), Names{"History"});
+}
+
 TEST_F(NameFilterTest, TakesFoldersOfAnyNameWhenAsked) {
   add_folder("cache");
   add_folder("cache.tmp");

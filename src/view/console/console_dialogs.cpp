@@ -15,6 +15,7 @@ Answer ConsoleDialogs::message_box(const std::string& text, const std::string& t
     const auto known = answers_.find(title);
     return given_[title] = known == answers_.end() ? ask(text) : known->second;
   }
+  if (io_.clear_line) io_.clear_line();
   io_.err << "quillvane: " << text << '\n';
   return Answer::kOk;
 }
@@ -22,6 +23,7 @@ Answer ConsoleDialogs::message_box(const std::string& text, const std::string& t
 Answer ConsoleDialogs::ask(const std::string& text) {
   if (!io_.in_is_terminal) return Answer::kNo;
   io_.out.flush();
+  if (io_.clear_line) io_.clear_line();
   io_.err << text << " [y/N] " << std::flush;
   std::string line;
   std::getline(io_.in, line);

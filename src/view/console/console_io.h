@@ -1,6 +1,7 @@
 // Where the console program reads and writes.
 #pragma once
 
+#include <functional>
 #include <istream>
 #include <ostream>
 
@@ -14,6 +15,8 @@ struct ConsoleIo {
   bool err_is_terminal = false;
   int err_columns = 80;         // width of that terminal
   bool in_is_terminal = false;  // somebody can answer
+  // Takes away what stands in the terminal's last line for the moment; set while it may.
+  std::function<void()> clear_line = nullptr;
 };
 
 }  // namespace quillvane

@@ -3,40 +3,16 @@
 #include <csignal>
 #include <sstream>
 
-#include "tests/support/temp_console_machine.h"
+#include "tests/support/one_machine_host.h"
 #include "view/console/console.h"
 #include "view/console/json_text.h"
 
 namespace quillvane {
 namespace {
 
-// Hands out one machine, which a test has staged.
-class OneMachineHost final : public MachineHost {
- public:
-  std::variant<std::unique_ptr<ConsoleMachine>, HostProblem> open(
-      const std::optional<std::string>& /*dir*/, std::ostream& /*notices*/) override {
-    return std::move(machine);
-  }
-  std::optional<HostProblem> create(const std::string& /*dir*/, bool /*demo*/) override {
-    return HostProblem{"create: not here"};
-  }
-  std::variant<MachineSummary, HostProblem> describe(const std::string& /*dir*/) override {
-    return HostProblem{"describe: not here"};
-  }
-  std::variant<std::string, HostProblem> export_registry(const std::string& /*dir*/) override {
-    return HostProblem{"export: not here"};
-  }
-  std::optional<HostProblem> import_registry(const std::string& /*dir*/,
-                                             const std::string& /*content*/) override {
-    return HostProblem{"import: not here"};
-  }
-
-  std::unique_ptr<TempConsoleMachine> machine = std::make_unique<TempConsoleMachine>();
-};
-
 struct Stage {
   Stage() {
-    TempMachine& machine = host.machine->temp();
+    TempMachine& machine = host.machine.temp();
     machine.add_file("C:\\Windows\\Temp\\a.tmp", 1200);
     machine.add_file("C:\\Windows\\Temp\\b.tmp", 3000);
     machine.add_file("C:\\Users\\User\\AppData\\Local\\Temp\\c.tmp", 500);
@@ -94,12 +70,12 @@ TEST(ScanCommand, ListsEachFileWhenAsked) {
 TEST(ScanCommand, AsJsonTellsWhatEachCategoryPutIntoTheTotals) {
   Stage stage;
   // The dump is in no total; the category before it is counted once more in its place.
-  stage.host.machine->temp().add_file("C:\\Windows\\MEMORY.DMP", 5000);
-  stage.host.machine->temp().add_file(
+  stage.host.machine.temp().add_file("C:\\Windows\\MEMORY.DMP", 5000);
+  stage.host.machine.temp().add_file(
       "C:\\Users\\User\\AppData\\Local\\Microsoft\\Windows\\Explorer\\thumbcache_16.db", 100);
-  stage.host.machine->temp().set_registry_text(Hive::kLocalMachine,
-                                               "SYSTEM\\CurrentControlSet\\Control\\CrashControl",
-                                               "DumpFile", "C:\\Windows\\MEMORY.DMP");
+  stage.host.machine.temp().set_registry_text(Hive::kLocalMachine,
+                                              "SYSTEM\\CurrentControlSet\\Control\\CrashControl",
+                                              "DumpFile", "C:\\Windows\\MEMORY.DMP");
 
   EXPECT_EQ(stage.run({"scan", "--json", "--list"}), 0);
 

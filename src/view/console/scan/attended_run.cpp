@@ -12,7 +12,10 @@ void run_attended(ConsoleIo& io, VirtualLoop& loop, Program& program,
                   const std::function<void()>& act) {
   Interrupt interrupt;
   std::optional<ProgressLine> progress;
-  if (io.err_is_terminal) progress.emplace(io.err, io.err_columns);
+  if (io.err_is_terminal) {
+    progress.emplace(io.err, io.err_columns);
+    io.clear_line = [&] { progress->clear(); };
+  }
   loop.set_served_hook([&] {
     if (!program.started()) return;
     Form7& form = program.main_window();
@@ -21,6 +24,7 @@ void run_attended(ConsoleIo& io, VirtualLoop& loop, Program& program,
   });
   act();
   loop.set_served_hook(nullptr);
+  io.clear_line = nullptr;
 }
 
 }  // namespace quillvane

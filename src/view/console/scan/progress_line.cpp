@@ -21,7 +21,9 @@ ProgressLine::ProgressLine(std::ostream& out, int columns, Clock clock)
       clock_(std::move(clock)),
       next_(clock_()) {}
 
-ProgressLine::~ProgressLine() {
+ProgressLine::~ProgressLine() { clear(); }
+
+void ProgressLine::clear() {
   if (shown_columns_ == 0) return;
   write("");
   out_ << '\r' << std::flush;

@@ -24,6 +24,9 @@ class ProgressLine {
   // so that the terminal doesn't slow the work down.
   void show(std::string_view text);
 
+  // Erases the line, so that something else can be written in its place.
+  void clear();
+
  private:
   void write(std::string_view text);
 

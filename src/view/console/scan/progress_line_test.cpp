@@ -61,6 +61,19 @@ TEST(ProgressLine, IsErasedAtTheEnd) {
   EXPECT_EQ(stage.out.str(), "\rabc\r   \r");
 }
 
+TEST(ProgressLine, MakesRoomForSomethingElseAndGoesOn) {
+  Stage stage;
+  ProgressLine line(stage.out, 80, stage.clock());
+
+  line.show("abc");
+  line.clear();
+  line.clear();
+  stage.now += milliseconds(100);
+  line.show("d");
+
+  EXPECT_EQ(stage.out.str(), "\rabc\r   \r\rd");
+}
+
 TEST(ProgressLine, LeavesNothingWhenNothingWasShown) {
   Stage stage;
   { const ProgressLine line(stage.out, 80, stage.clock()); }

@@ -19,7 +19,7 @@
 #include "categories/chromium_browsers.h"
 #include "core/form7.h"
 #include "core/program.h"
-#include "platform/folder/folder_file_system.h"
+#include "platform/folder/posix/folder_file_system.h"
 #include "platform/folder/folder_machine.h"
 #include "platform/folder/registry_store.h"
 #include "platform/virtual/queued_dialogs.h"
@@ -100,12 +100,6 @@ class Running {
   std::optional<Program> program_;
 };
 
-std::size_t walk(const std::string& folder) {
-  static std::unique_ptr<BareWalk> kept;
-  kept = std::make_unique<BareWalk>(folder);
-  return kept->file_count();
-}
-
 // Tells the number of files when the rows are as many as the plan says, else the rows.
 std::size_t scan(const Options& options, const Subject& subject) {
   static std::unique_ptr<Running> kept;
@@ -122,7 +116,7 @@ int measure_browser(const Options& options, const Subject& subject) {
   const Place place = place_of(options, subject);
   if (!have_browser(place, subject, options.files)) return 1;
   return run_pairs(
-      options, subject.name, [&] { return walk(place.user_data); },
+      options, subject.name, [&] { return walk_bare(place.user_data); },
       [&] { return scan(options, subject); });
 }
 

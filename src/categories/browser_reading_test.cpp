@@ -5,7 +5,7 @@
 #include <string>
 
 #include "categories/other_browsers.h"
-#include "platform/folder/folder_file_system.h"
+#include "platform/folder/posix/folder_file_system.h"
 #include "tests/support/scan_fixture.h"
 #include "tests/support/told_browsers.h"
 #include "tests/support/watched_files.h"

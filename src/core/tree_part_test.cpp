@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "platform/folder/folder_file_system.h"
+#include "platform/folder/posix/folder_file_system.h"
 #include "tests/support/temp_machine.h"
 
 namespace quillvane {

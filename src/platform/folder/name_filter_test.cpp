@@ -69,7 +69,7 @@ TEST_F(NameFilterTest, MatchesTheNumbersOfShortNames) {
 
 TEST_F(NameFilterTest, MatchesWhatStandsBeforeTheDotOfShortNames) {
   for (const char* name : {"a.tmpx", "b c.txt", "tmp", "History", "historical.db"}) {
-    host.write(name);
+    add(name);
   }
   EXPECT_EQ(left_by("*tmp.*"), (Names{"a.tmpx", "tmp"}));  // A~1.TMP ends in the letters
   EXPECT_EQ(left_by("BC~1.*"), Names{"b c.txt"});

@@ -19,8 +19,8 @@
 #include "categories/chromium_browsers.h"
 #include "core/form7.h"
 #include "core/program.h"
-#include "platform/folder/posix/folder_file_system.h"
 #include "platform/folder/folder_machine.h"
+#include "platform/folder/posix/folder_file_system.h"
 #include "platform/folder/registry_store.h"
 #include "platform/virtual/queued_dialogs.h"
 

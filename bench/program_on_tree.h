@@ -9,8 +9,8 @@
 
 #include "core/form7.h"
 #include "core/program.h"
-#include "platform/folder/posix/folder_file_system.h"
 #include "platform/folder/folder_machine.h"
+#include "platform/folder/posix/folder_file_system.h"
 #include "platform/virtual/queued_dialogs.h"
 
 namespace quillvane::bench {

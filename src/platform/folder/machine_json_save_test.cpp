@@ -90,7 +90,8 @@ TEST_F(MachineJsonSave, OnlyWhatChangedIsWrittenAndUnknownKeysStay) {
 TEST_F(MachineJsonSave, EverythingReadsBackAsItWasSaved) {
   MachineState state = load();
   state.drives.push_back({'D', DriveType::kRemovable, folder_.path_of("drive_d"), 5000, 40});
-  state.drives.push_back({'E', DriveType::kRemote, folder_.path_of("share"), std::nullopt, std::nullopt});
+  state.drives.push_back(
+      {'E', DriveType::kRemote, folder_.path_of("share"), std::nullopt, std::nullopt});
   set_variable(state.environment, "temp", "D:\\T");
   set_variable(state.environment, "EXTRA", "1");
   state.program_folder = "D:\\P";

@@ -27,9 +27,10 @@ CLI::App& group_of(CLI::App& app, const ConsoleCommand& command) {
 }
 
 void add_common_options(CLI::App& app, ConsoleSession& session) {
-  app.add_option("--machine", session.machine_folder,
-                 "Work on the machine of this folder (else of QUILLVANE_MACHINE; else on Windows on "
-                 "this PC, elsewhere on a demo)")
+  app.add_option(
+         "--machine", session.machine_folder,
+         "Work on the machine of this folder (else of QUILLVANE_MACHINE; else on Windows on "
+         "this PC, elsewhere on a demo)")
       ->type_name("DIR");
   app.add_flag("--json", session.json, "Print results as one JSON document");
   app.add_flag("--list", session.list, "Print each file too");

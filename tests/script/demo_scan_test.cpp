@@ -18,6 +18,7 @@
 #include "platform/unicode_case.h"
 #include "platform/virtual/queued_dialogs.h"
 #include "tests/support/temp_folder.h"
+#include "tests/support/told_browsers.h"
 
 namespace quillvane {
 namespace {
@@ -80,7 +81,7 @@ struct Expected {
 };
 
 // Counted from the tables; some files come up twice: the font caches, the logs of the first place,
-// what Chrome keeps for both of its profiles.
+// what Chrome keeps for both of its profiles, the jump lists of Torch, Maxthon and Yandex.
 constexpr Expected kCategories[] = {
     {2, "System Temporary ( 31 files, "},
     {3, "User Temporary ( 38 files, "},
@@ -93,22 +94,90 @@ constexpr Expected kCategories[] = {
     {10, "Windows Updates & installer ( 16 files, "},
     {11, "Windows History ( 13 files, "},
     {13, "Internet Explorer ( 13 files, "},
-    {14, "Mozila Firefox Cache ( 25 files, "},
-    {15, "Google Chrome Cache ( 38 files, "},
-    {16, "Opera Cache ( 14 files, "},
-    {17, "Microsoft Edge ( 23 files, "},
-    {18, "Brave Browser ( 19 files, "},
-    {19, "Vivaldi Browser ( 21 files, "},
-    {20, "Torch Browser ( 19 files, "},
-    {21, "Maxthon Browser ( 19 files, "},
-    {22, "Yandex Browser ( 21 files, "},
-    {23, "UC Browser ( 10 files, "},
+    {14, "Mozila Firefox Cache ( 27 files, "},
+    {15, "Google Chrome Cache ( 43 files, "},
+    {16, "Opera Cache ( 23 files, "},
+    {17, "Microsoft Edge ( 28 files, "},
+    {18, "Brave Browser ( 24 files, "},
+    {19, "Vivaldi Browser ( 28 files, "},
+    {20, "Torch Browser ( 29 files, "},
+    {21, "Maxthon Browser ( 29 files, "},
+    {22, "Yandex Browser ( 33 files, "},
+    {23, "UC Browser ( 12 files, "},
 };
 
 TEST_F(DemoScan, FindsJunkInEachCategory) {
   for (const Expected& each : kCategories) {
     const std::string begin = each.begin;
     EXPECT_EQ(form().Tv1.node(each.node).text.substr(0, begin.size()), begin);
+  }
+}
+
+// Files that a walk of the disk finds for one row.
+std::uint32_t count_files(const ListedFolder& folder) {
+  std::uint32_t count = folder.file_count();
+  for (const auto* sub = folder.first_subfolder(); sub != nullptr; sub = sub->next_sibling()) {
+    count += count_files(*sub);
+  }
+  return count;
+}
+
+bool finds_something(const FileSystem& files, const std::string& folder, const char* pattern) {
+  const auto tree = files.read_tree(folder, pattern);
+  return tree != nullptr && count_files(tree->root()) > 0;
+}
+
+TEST_F(DemoScan, EachRowOfTheChromiumBrowsersFindsSomething) {
+  const FileSystem& files = program_->platform.files;
+  for (const ToldBrowser& browser : told_browsers()) {
+    for (const ToldRow& row : browser.rows) {
+      std::string folder = place_of(browser) + (row.base == 'R' ? "" : "\\Default") + row.suffix;
+      if (row.base == 'X') {
+        folder += "\\" + files.list_folder(folder, "*.*").at(0).name + "\\def\\GPUCache";
+      }
+      EXPECT_TRUE(finds_something(files, folder, row.pattern)) << folder << " " << row.pattern;
+    }
+  }
+}
+
+TEST_F(DemoScan, EachRowOfTheOtherBrowsersFindsSomething) {
+  struct Row {
+    const char* folder;  // below the user's
+    const char* pattern;
+  };
+  constexpr Row kRows[] = {
+      {"AppData\\Local\\Microsoft\\Windows\\Temporary Internet Files", "*.*"},
+      {"AppData\\Local\\Microsoft\\Feeds Cache", "*.*"},
+      {"AppData\\Local\\Mozilla\\Firefox\\Profiles\\x7k2m9qa.default-release\\cache2", "*.*"},
+      {"AppData\\Roaming\\Mozilla\\Firefox\\Profiles\\x7k2m9qa.default-release\\cache2", "*.*"},
+      {"AppData\\Local\\Mozilla\\Firefox\\Profiles\\x7k2m9qa.default-release\\thumbnails", "*.*"},
+      {"AppData\\Roaming\\Mozilla\\Firefox\\Profiles\\x7k2m9qa.default-release", "places.sqlite.*"},
+      {"AppData\\Roaming\\Mozilla\\Firefox\\Profiles\\x7k2m9qa.default-release",
+       "sessionCheckpoints.json"},
+      {"AppData\\Roaming\\Mozilla\\Firefox\\Profiles\\x7k2m9qa.default-release",
+       "sessionstore.jsonlz4"},
+      {"AppData\\Local\\Mozilla\\Firefox\\Profiles\\x7k2m9qa.default-release\\startupCache", "*.*"},
+      {"AppData\\Local\\Mozilla\\Firefox\\Profiles\\x7k2m9qa.default-release\\jumpListCache",
+       "*.*"},
+      {"Local Settings\\Opera Software\\Opera Stable\\Cache", "*.*"},
+      {"AppData\\Roaming\\Opera Software\\Opera Stable", "*-journal.*"},
+      {"AppData\\Roaming\\Opera Software\\Opera Stable", "*.tmp"},
+      {"AppData\\Roaming\\Opera Software\\Opera Stable\\GPUCache", "*.*"},
+      {"AppData\\Roaming\\Opera Software\\Opera Stable\\ShaderCache\\GPUCache", "*.*"},
+      {"AppData\\Roaming\\Opera Software\\Opera Stable\\Service Worker\\CacheStorage", "*.*"},
+      {"AppData\\Roaming\\Opera Software\\Opera Stable\\Service Worker\\ScriptCache", "*.*"},
+      {"AppData\\Roaming\\Opera Software\\Opera Stable\\Service Worker\\Database", "*.*"},
+      {"AppData\\Roaming\\Opera Software\\Opera Stable\\Service Worker\\Origins", "*.*"},
+      {"AppData\\Roaming\\Opera Software\\Opera Stable\\file System", "*.*"},
+      {"AppData\\Local\\UCBrowser\\", "*.tmp"},
+      {"AppData\\Local\\UCBrowser\\", "*-journal.*"},
+      {"AppData\\Local\\UCBrowser\\User Data\\Default\\Cache", "*.*"},
+      {"AppData\\Local\\UCBrowser\\User Data_i18n\\Default\\Cache", "*.*"},
+  };
+  for (const Row& row : kRows) {
+    EXPECT_TRUE(finds_something(program_->platform.files,
+                                std::string("C:\\Users\\User\\") + row.folder, row.pattern))
+        << row.folder << " " << row.pattern;
   }
 }
 
@@ -128,6 +197,13 @@ TEST_F(DemoScan, LeavesTheOtherFilesAlone) {
       EXPECT_FALSE(listed.contains(path)) << path;
     }
   }
+}
+
+TEST_F(DemoScan, LeavesTheBookmarksOfChrome) {
+  const std::string bookmarks =
+      "C:\\Users\\User\\AppData\\Local\\Google\\Chrome\\User Data\\Default\\Bookmarks";
+  EXPECT_TRUE(program_->platform.files.file_size(bookmarks).has_value());
+  EXPECT_FALSE(listed_paths().contains(lower_case(bookmarks)));
 }
 
 TEST_F(DemoScan, AsksNothing) { EXPECT_TRUE(dialogs_->take_boxes().empty()); }

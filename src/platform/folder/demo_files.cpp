@@ -159,8 +159,18 @@ constexpr DemoFiles kLeftAlone[] = {
      "key4.db", 288 * kKilobyte},
     {"C:\\Users\\User\\AppData\\Roaming\\Opera Software\\Opera Stable", "Bookmarks",
      11 * kKilobyte},
+    {"C:\\Users\\User\\AppData\\Local\\Mozilla\\Firefox\\Profiles\\x7k2m9qa.default-"
+     "release\\safebrowsing",
+     "goog-phish.vlpset", 70 * kKilobyte},
+    {"C:\\Users\\User\\AppData\\Roaming\\Opera Software\\Opera Stable\\Service Worker", "state",
+     1 * kKilobyte},
     {"C:\\Users\\User\\AppData\\Local\\UCBrowser\\User Data_i18n\\Default", "Bookmarks",
      6 * kKilobyte},
+    {"C:\\Users\\User\\AppData\\Local\\UCBrowser\\Application\\Default\\Cache", "f_001",
+     30 * kKilobyte},
+    {"C:\\Users\\User\\AppData\\Local\\BraveSoftware\\Brave-Browser\\User Data\\ShaderCache",
+     "index", 256 * kKilobyte},
+    {"C:\\Users\\User\\AppData\\Local\\Microsoft\\Feeds", "FeedsStore.feedsdb-ms", 12 * kKilobyte},
     {"C:\\Users\\User\\AppData\\Local\\Google\\Chrome\\User Data\\Default", "History",
      640 * kKilobyte},
     // The custom place takes two patterns only

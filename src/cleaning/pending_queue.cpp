@@ -47,8 +47,8 @@ void PendingQueue::add(std::string_view path) {
 
 void PendingQueue::savepending() {
   allow_access(platform_);
-  if (!platform_.registry.create_key(Hive::kLocalMachine, kKey)) return;
-  // Nothing tests whether the write took effect.
+  // Nothing tests whether either took effect.
+  static_cast<void>(platform_.registry.create_key(Hive::kLocalMachine, kKey));
   static_cast<void>(platform_.registry.set_value(
       Hive::kLocalMachine, kKey, kValue, {RegistryType::kMultiSz, multi_string_data(operations_)}));
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "categories/category_frame.h"
+#include "platform/folder/registry_store.h"
 #include "platform/unicode_case.h"
 #include "tests/support/random_tree.h"
 #include "tests/support/scan_fixture.h"
@@ -82,13 +83,23 @@ struct Staged : ScanFixture {
     const std::string denied = tree.any_folder();
     for (const ToldBrowser& browser : told_browsers()) {
       if (oddities.denied) machine.machine().add_denied(place_of(browser) + "\\" + denied);
-      for (const std::string& profile : profiles) {
-        machine.add_registry_key(Hive::kCurrentUser, std::string(browser.key) + "\\" + profile);
-      }
       machine.add_folder(place_of(browser));
       fs::remove(machine.host_path(place_of(browser)));
     }
+    EXPECT_TRUE(machine.machine().registry().at_one_stroke([&] { return register_profiles(); }));
     start();
+  }
+
+  bool register_profiles() {
+    FolderRegistry& registry = machine.machine().registry();
+    bool done = true;
+    for (const ToldBrowser& browser : told_browsers()) {
+      for (const std::string& profile : profiles) {
+        done = done &&
+               registry.create_key(Hive::kCurrentUser, std::string(browser.key) + "\\" + profile);
+      }
+    }
+    return done;
   }
 
   // Also names a folder to be ignored and a file that is queued.

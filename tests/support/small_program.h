@@ -101,16 +101,13 @@ class ScriptStage {
     std::istringstream lines(script);
     std::ostringstream out;
     ScriptRunner runner(lines, out, machine, program);
-    current = &runner;
     problem = runner.run().value_or("");
-    current = nullptr;
     return out.str();
   }
 
   TempConsoleMachine machine;
   SmallProgram program{machine.loop()};
   SmallWindow& window = program.window;
-  ScriptRunner* current = nullptr;  // while a script runs
   std::string problem;
 };
 

@@ -32,14 +32,6 @@ namespace quillvane {
 inline constexpr Color kGreen = 32768;          // a category that is being scanned
 inline constexpr Color kDarkRed = 192;          // a category in which something was found
 inline constexpr Color kFoundMark = 128;        // Shape1 when the scan found something
-inline constexpr Color kSuiteColor = 10118205;  // when the suite has set none
-inline constexpr Color kShadowColor = 8421504;  // the window's shadow
-
-// Count and bytes that one node of the tree put into the totals.
-struct NodeResult {
-  double files = 0;
-  double bytes = 0;
-};
 
 // The window's shadow; a depth of 0 is none.
 struct Shadow {

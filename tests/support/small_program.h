@@ -39,7 +39,7 @@ class SmallWindow final : public Window {
         page(*this, "Frame1"),
         entry(*this, "a1", "Add"),
         hidden_entry(*this, "a2", "Edit"),
-        menu(*this, "a", {&entry, &hidden_entry}),
+        menu(*this, "a", "foption", {&entry, &hidden_entry}),
         tick(*this, "Timer1", loop, std::chrono::milliseconds(500)) {
     add_field("files", [this] { return PropertyValue(files); });
   }

@@ -15,7 +15,7 @@ constexpr std::string_view kLineEnd = "\r\n";
 // Data in hex go on in a new line once a line has grown to this many columns.
 constexpr std::size_t kHexLineColumns = 77;
 
-std::string quoted(std::string_view text) {
+std::string in_quotes(std::string_view text) {
   std::string out = "\"";
   for (const char c : text) {
     if (c == '"' || c == '\\') out += '\\';
@@ -64,10 +64,10 @@ void append_hex(std::string_view bytes, std::size_t column, std::string& out) {
 
 void append_value(const NamedRegistryValue& named, std::string& out) {
   const RegistryValue& value = named.value;
-  std::string line = named.name.empty() ? "@" : quoted(named.name);
+  std::string line = named.name.empty() ? "@" : in_quotes(named.name);
   line += '=';
   if (is_plain_text(value)) {
-    out += line + quoted(std::string_view(value.data).substr(0, value.data.size() - 1));
+    out += line + in_quotes(std::string_view(value.data).substr(0, value.data.size() - 1));
   } else if (value.type == RegistryType::kDword && value.data.size() == 4) {
     std::uint32_t number = 0;
     for (std::size_t i = 4; i > 0; --i) {

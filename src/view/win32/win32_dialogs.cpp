@@ -22,6 +22,22 @@ constexpr DWORD kLongestPath = 1024;
 
 using IdListOwner = std::unique_ptr<ITEMIDLIST, FreeIdList>;
 
+BOOL CALLBACK keep_usable(HWND window, LPARAM found) {
+  if (IsWindowVisible(window) == 0 || IsWindowEnabled(window) == 0) return TRUE;
+  *reinterpret_cast<HWND*>(found) = window;
+  return FALSE;
+}
+
+// The program's window that the user works in. While another program is at the front none of them
+// is the active one: then it is the foremost that takes acts.
+HWND owner_window() {
+  HWND window = GetActiveWindow();
+  if (window == nullptr) {
+    EnumThreadWindows(GetCurrentThreadId(), keep_usable, reinterpret_cast<LPARAM>(&window));
+  }
+  return window;
+}
+
 IdListOwner id_list_of(const std::string& folder) {
   ITEMIDLIST* list = nullptr;
   if (folder.empty()) return nullptr;
@@ -34,8 +50,7 @@ IdListOwner id_list_of(const std::string& folder) {
 
 Answer Win32Dialogs::message_box(const std::string& text, const std::string& title,
                                  std::uint32_t style) {
-  const int answer =
-      MessageBoxW(GetActiveWindow(), widen(text).c_str(), widen(title).c_str(), style);
+  const int answer = MessageBoxW(owner_window(), widen(text).c_str(), widen(title).c_str(), style);
   // 0: no box could be shown. A question that nobody saw is answered No.
   if (answer == 0) return (style & kBoxYesNo) != 0 ? Answer::kNo : Answer::kOk;
   return static_cast<Answer>(answer);
@@ -47,7 +62,7 @@ std::string Win32Dialogs::browse_folder(const std::string& title, std::uint32_t 
   const IdListOwner below = id_list_of(root);
   wchar_t path[MAX_PATH] = L"";
   BROWSEINFOW request{};
-  request.hwndOwner = GetActiveWindow();
+  request.hwndOwner = owner_window();
   request.pidlRoot = below.get();
   request.pszDisplayName = path;
   request.lpszTitle = wide_title.c_str();
@@ -66,7 +81,7 @@ std::string Win32Dialogs::save_file(const FileQuestion& question) {
   file.copy(path, kLongestPath - 1);
   OPENFILENAMEW request{};
   request.lStructSize = sizeof(request);
-  request.hwndOwner = GetActiveWindow();
+  request.hwndOwner = owner_window();
   request.lpstrFilter = filter.c_str();
   request.lpstrFile = path;
   request.nMaxFile = kLongestPath;

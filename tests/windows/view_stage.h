@@ -72,6 +72,9 @@ class ViewStage final : public ViewHost {
     if (message == WM_NOTIFY && stage != nullptr && stage->view_ != nullptr) {
       if (const auto answer = stage->view_->notified(*reinterpret_cast<NMHDR*>(l))) return *answer;
     }
+    if (message == WM_COMMAND && stage != nullptr && stage->view_ != nullptr) {
+      stage->view_->commanded(HIWORD(w));
+    }
     return DefWindowProcW(window, message, w, l);
   }
 

@@ -13,6 +13,8 @@ namespace {
 
 constexpr int kPictureSize = 16;
 constexpr int kPadding = 14;  // on both sides of a caption
+constexpr int kLinkPadding = 4;
+constexpr int kFocusInside = 3;
 constexpr int kHoverShare = 40;
 constexpr int kPressShare = 80;
 
@@ -21,12 +23,31 @@ constexpr int kPressShare = 80;
 ButtonView::ButtonView(ViewHost& host, Clickable& button, const ControlPlace& place)
     : ControlView(host, button, place), button_(button) {
   create(WC_BUTTONW, WS_TABSTOP | BS_OWNERDRAW);
+  restyle();
+}
+
+HFONT ButtonView::font() const {
+  if (is(ControlKind::kLink)) return link_font_.get();
+  return is(ControlKind::kMainButton) ? host().bold_font() : host().font();
+}
+
+void ButtonView::restyle() {
+  ControlView::restyle();
+  if (!is(ControlKind::kLink)) return;
+  LOGFONTW font{};
+  GetObjectW(host().font(), sizeof(font), &font);
+  font.lfUnderline = TRUE;
+  link_font_.reset(CreateFontIndirectW(&font));
 }
 
 int ButtonView::wanted_width() const {
-  if (in_title()) return 0;
-  return text_width(host().font(), widen(button_.caption()).c_str()) +
-         2 * scaled(kPadding, host().dpi());
+  if (is(ControlKind::kTitleButton)) return 0;
+  const int padding = is(ControlKind::kLink) ? kLinkPadding : kPadding;
+  return text_width(font(), widen(button_.caption()).c_str()) + 2 * scaled(padding, host().dpi());
+}
+
+int ButtonView::overhang() const {
+  return is(ControlKind::kLink) ? scaled(kLinkPadding, host().dpi()) : 0;
 }
 
 bool ButtonView::press() {
@@ -69,37 +90,48 @@ ButtonView::Look ButtonView::title_look(bool pressed) const {
   return {back, back, theme.title_text};
 }
 
+ButtonView::Look ButtonView::link_look() const {
+  const Theme& theme = host().theme();
+  return {theme.page, theme.page, over_ ? theme.text : theme.link};
+}
+
+ButtonView::Look ButtonView::look(bool enabled, bool pressed) const {
+  if (is(ControlKind::kTitleButton)) return title_look(pressed);
+  return is(ControlKind::kLink) ? link_look() : command_look(enabled, pressed);
+}
+
 void ButtonView::draw_caption(HDC dc, RECT area, const Look& look) const {
-  const Selected font(
-      dc, place().kind == ControlKind::kMainButton ? host().bold_font() : host().font());
+  const Selected selected(dc, font());
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, look.text);
   const std::wstring caption = widen(button_.caption());
+  if (is(ControlKind::kLink)) InflateRect(&area, -scaled(kLinkPadding, host().dpi()), 0);
+  const UINT place = is(ControlKind::kLink) ? DT_LEFT : DT_CENTER;
   DrawTextW(dc, caption.c_str(), -1, &area,
-            DT_CENTER | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+            place | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
 void ButtonView::draw(const DRAWITEMSTRUCT& item) {
-  const bool pressed = (item.itemState & ODS_SELECTED) != 0;
-  const bool enabled = (item.itemState & ODS_DISABLED) == 0;
-  const Look look = in_title() ? title_look(pressed) : command_look(enabled, pressed);
+  const Look shown =
+      look((item.itemState & ODS_DISABLED) == 0, (item.itemState & ODS_SELECTED) != 0);
   RECT area = item.rcItem;
-  fill(item.hDC, area, look.back);
-  frame(item.hDC, area, look.edge);
-  if (in_title()) {
+  fill(item.hDC, area, shown.back);
+  frame(item.hDC, area, shown.edge);
+  if (is(ControlKind::kTitleButton)) {
     const int size = scaled(kPictureSize, host().dpi());
     host().pictures().draw(item.hDC, (area.left + area.right - size) / 2,
-                           (area.top + area.bottom - size) / 2, size, place().picture, look.text);
+                           (area.top + area.bottom - size) / 2, size, place().picture, shown.text);
   } else {
-    draw_caption(item.hDC, area, look);
+    draw_caption(item.hDC, area, shown);
   }
   // Only whom the keyboard leads here is shown where it stands.
   const bool shows_focus =
       (item.itemState & ODS_FOCUS) != 0 && (item.itemState & ODS_NOFOCUSRECT) == 0;
   if (!shows_focus) return;
-  InflateRect(&area, -3, -3);
-  const bool on_color = in_title() || place().kind == ControlKind::kMainButton;
-  frame(item.hDC, area, on_color ? look.text : host().theme().focus);
+  const int inside = is(ControlKind::kLink) ? 0 : scaled(kFocusInside, host().dpi());
+  InflateRect(&area, -inside, -inside);
+  const bool on_color = is(ControlKind::kTitleButton) || is(ControlKind::kMainButton);
+  frame(item.hDC, area, on_color ? shown.text : host().theme().focus);
 }
 
 void ButtonView::mouse_is_over(bool over) {
@@ -115,6 +147,10 @@ void ButtonView::mouse_is_over(bool over) {
 }
 
 std::optional<LRESULT> ButtonView::filter(UINT message, WPARAM /*w*/, LPARAM /*l*/) {
+  if (message == WM_SETCURSOR && is(ControlKind::kLink)) {
+    SetCursor(LoadCursorW(nullptr, IDC_HAND));
+    return TRUE;
+  }
   if (message == WM_MOUSEMOVE) mouse_is_over(true);
   if (message == WM_MOUSELEAVE) mouse_is_over(false);
   if (message == WM_ERASEBKGND) return 1;  // all of it is drawn

@@ -1,9 +1,10 @@
-// A push button on the screen, drawn by the program: a command with its caption, or a picture in
-// the title bar.
+// A push button on the screen, drawn by the program: a command with its caption, a picture in the
+// title bar, or a link.
 #pragma once
 
 #include "forms/buttons.h"
 #include "view/win32/control_view.h"
+#include "view/win32/gdi_objects.h"
 
 namespace quillvane {
 
@@ -11,7 +12,9 @@ class ButtonView final : public ControlView {
  public:
   ButtonView(ViewHost& host, Clickable& button, const ControlPlace& place);
 
+  void restyle() override;
   [[nodiscard]] int wanted_width() const override;
+  [[nodiscard]] int overhang() const override;
   bool press() override;
   void commanded(int code) override;
   void draw(const DRAWITEMSTRUCT& item) override;
@@ -27,13 +30,17 @@ class ButtonView final : public ControlView {
     COLORREF text;
   };
 
-  [[nodiscard]] bool in_title() const { return place().kind == ControlKind::kTitleButton; }
+  [[nodiscard]] bool is(ControlKind kind) const { return place().kind == kind; }
+  [[nodiscard]] HFONT font() const;
+  [[nodiscard]] Look look(bool enabled, bool pressed) const;
   [[nodiscard]] Look command_look(bool enabled, bool pressed) const;
   [[nodiscard]] Look title_look(bool pressed) const;
+  [[nodiscard]] Look link_look() const;
   void draw_caption(HDC dc, RECT area, const Look& look) const;
   void mouse_is_over(bool over);
 
   Clickable& button_;
+  FontOwner link_font_;
   bool over_ = false;
 };
 

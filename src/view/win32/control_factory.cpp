@@ -2,6 +2,8 @@
 
 #include "view/win32/animation_view.h"
 #include "view/win32/button_view.h"
+#include "view/win32/check_box_view.h"
+#include "view/win32/edit_view.h"
 #include "view/win32/list_binding.h"
 #include "view/win32/plain_views.h"
 #include "view/win32/toolbar_binding.h"
@@ -28,13 +30,20 @@ std::unique_ptr<ControlView> make_control_view(ViewHost& host, Control& model,
     case ControlKind::kTree:
       return make<TreeBinding, TreeView>(host, model, place);
     case ControlKind::kList:
+    case ControlKind::kPlainList:
       return make<ListBinding, ListView>(host, model, place);
     case ControlKind::kButton:
     case ControlKind::kMainButton:
     case ControlKind::kTitleButton:
+    case ControlKind::kLink:
       return make<ButtonView, Clickable>(host, model, place);
     case ControlKind::kLabel:
+    case ControlKind::kHeading:
       return make<LabelView, Label>(host, model, place);
+    case ControlKind::kEdit:
+      return make<EditView, TextBox>(host, model, place);
+    case ControlKind::kCheckBox:
+      return make<CheckBoxView, CheckBox>(host, model, place);
     case ControlKind::kPathLine:
       return make<PathLineView, TextBox>(host, model, place);
     case ControlKind::kMark:

@@ -77,6 +77,8 @@ class ControlView : public ControlObserver {
   virtual void restyle();
   // Pixels that the caption needs; 0 when it needs none.
   [[nodiscard]] virtual int wanted_width() const { return 0; }
+  // Pixels by which it reaches over the left edge of its place, so that its text begins there.
+  [[nodiscard]] virtual int overhang() const { return 0; }
   // Whether a key that clicks the focused control does something here.
   virtual bool press() { return false; }
 

@@ -4,7 +4,6 @@
 
 #include <utility>
 
-#include "forms/buttons.h"
 #include "platform/win32/wide_text.h"
 #include "view/win32/popup_menu.h"
 #include "view/win32/screen.h"
@@ -37,9 +36,10 @@ const wchar_t* register_class(WNDPROC procedure) {
 
 }  // namespace
 
-FormWindow::FormWindow(Window& model, const WindowLayout& layout, std::function<bool()> ended)
-    : model_(model), layout_(layout), ended_(std::move(ended)) {
-  dpi_ = dpi_of(nullptr);
+FormWindow::FormWindow(Window& model, const WindowLayout& layout, HWND owner,
+                       std::function<bool()> ended)
+    : model_(model), layout_(layout), owner_(owner), ended_(std::move(ended)) {
+  dpi_ = dpi_of(owner_);
   create();
   dpi_ = dpi_of(window_);
   restyle();
@@ -52,7 +52,8 @@ FormWindow::FormWindow(Window& model, const WindowLayout& layout, std::function<
 
 FormWindow::~FormWindow() {
   model_.on_view_change = nullptr;
-  for (Control* page : pages_) page->unobserve(*this);
+  for (Control* control : observed_) control->unobserve(*this);
+  free_owner();
   views_.clear();
   tabs_ = nullptr;
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
@@ -61,12 +62,18 @@ FormWindow::~FormWindow() {
 
 void FormWindow::create() {
   // No caption: the title bar is the program's own. The frame that sizes is there, though unseen.
-  constexpr DWORD kStyle = WS_POPUP | WS_THICKFRAME | WS_SYSMENU | WS_MINIMIZEBOX | WS_CLIPCHILDREN;
+  DWORD style = WS_POPUP | WS_SYSMENU | WS_CLIPCHILDREN;
+  DWORD extended_style = WS_EX_CONTROLPARENT;
+  if (layout_.can_be_sized()) style |= WS_THICKFRAME;
+  if (owner_ == nullptr) {
+    style |= WS_MINIMIZEBOX;
+    extended_style |= WS_EX_APPWINDOW;
+  }
   const RECT place = first_place();
-  window_ = CreateWindowExW(
-      WS_EX_APPWINDOW | WS_EX_CONTROLPARENT, register_class(&FormWindow::procedure),
-      widen(model_.caption()).c_str(), kStyle, place.left, place.top, place.right - place.left,
-      place.bottom - place.top, nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+  window_ = CreateWindowExW(extended_style, register_class(&FormWindow::procedure),
+                            widen(title()).c_str(), style, place.left, place.top,
+                            place.right - place.left, place.bottom - place.top, owner_, nullptr,
+                            GetModuleHandleW(nullptr), nullptr);
   SetWindowLongPtrW(window_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
   SetWindowPos(window_, nullptr, 0, 0, 0, 0,
                SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -153,7 +160,9 @@ std::optional<LRESULT> FormWindow::handle_controls(UINT message, WPARAM w, LPARA
       if (ControlView* view = view_of(item.hwndItem)) view->draw(item);
       return TRUE;
     }
-    case WM_CTLCOLORSTATIC: {
+    case WM_CTLCOLORSTATIC:
+    case WM_CTLCOLORBTN:
+    case WM_CTLCOLOREDIT: {
       ControlView* view = view_of(reinterpret_cast<HWND>(l));
       const HBRUSH brush = view != nullptr ? view->prepare(reinterpret_cast<HDC>(w)) : nullptr;
       if (brush == nullptr) return std::nullopt;
@@ -204,6 +213,7 @@ void FormWindow::run_acts() {
   if (acts_.empty() || ended_()) return;
   const std::function<void()> act = std::move(acts_.front());
   acts_.pop_front();
+  note_focus();
   act();
   if (ended_()) ShowWindow(window_, SW_HIDE);
 }
@@ -230,6 +240,9 @@ void FormWindow::refresh() {
 
 void FormWindow::changed(Control& /*control*/, Change what) {
   if (what == Change::kVisible) needs_refresh();
+  if (what != Change::kCaption) return;
+  SetWindowTextW(window_, widen(title()).c_str());
+  InvalidateRect(window_, nullptr, FALSE);
 }
 
 void FormWindow::restyle() {
@@ -242,36 +255,6 @@ void FormWindow::restyle() {
   if (tabs_ != nullptr) tabs_->restyle();
   needs_refresh();
   InvalidateRect(window_, nullptr, TRUE);
-}
-
-void FormWindow::show_window() {
-  if (!model_.visible() || model_.state() == WindowState::kMinimised) {
-    ShowWindow(window_, SW_HIDE);
-    return;
-  }
-  ShowWindow(window_, SW_SHOWNORMAL);
-  SetForegroundWindow(window_);
-}
-
-void FormWindow::click(std::string_view name) {
-  if (auto* control = dynamic_cast<Clickable*>(model_.find(name))) {
-    act([control] { control->click(); });
-  }
-}
-
-bool FormWindow::take_key(MSG& message) {
-  const bool is_ours = message.hwnd == window_ || IsChild(window_, message.hwnd) != 0;
-  if (!is_ours) return false;
-  if (message.message == WM_KEYDOWN) {
-    for (const KeyClick& key : layout_.keys) {
-      if (message.wParam != static_cast<WPARAM>(key.key)) continue;
-      click(key.control);
-      return true;
-    }
-    ControlView* view = view_of(message.hwnd);
-    if (message.wParam == VK_RETURN && view != nullptr && view->press()) return true;
-  }
-  return IsDialogMessageW(window_, &message) != FALSE;
 }
 
 void FormWindow::show_menu(const Menu& menu, POINT place) {

@@ -25,9 +25,10 @@ inline constexpr wchar_t kFormWindowClass[] = L"QuillvaneForm";
 
 class FormWindow final : public ViewHost, private ControlObserver {
  public:
-  // `model` must outlive it; so must the pictures' library. `ended` tells whether the program has
-  // ended itself: the window is gone from the screen then.
-  FormWindow(Window& model, const WindowLayout& layout, std::function<bool()> ended);
+  // `model` must outlive it; so must the pictures' library. `owner` is the window before which it
+  // stands and which takes no acts of the user while it is there; null: none. `ended` tells whether
+  // the program has ended itself: the window is gone from the screen then.
+  FormWindow(Window& model, const WindowLayout& layout, HWND owner, std::function<bool()> ended);
   ~FormWindow() override;
   FormWindow(const FormWindow&) = delete;
   FormWindow& operator=(const FormWindow&) = delete;
@@ -60,27 +61,39 @@ class FormWindow final : public ViewHost, private ControlObserver {
   void paint();
   void limit_size(MINMAXINFO& limits) const;
   [[nodiscard]] RECT first_place() const;
+  [[nodiscard]] std::string title() const;
+  void show_window();  // as the model tells
+  void free_owner();
 
   // form_window_controls.cpp
   void make_controls();
+  void watch(std::string_view name);
   [[nodiscard]] ControlView* view_of(HWND window) const;
   void arrange_controls();
   [[nodiscard]] bool is_shown(const ControlView& view) const;
   void show_controls();
+  [[nodiscard]] bool takes_keys(HWND control) const;
+  [[nodiscard]] HWND first_focus() const;  // null: nothing takes keys
+  void note_focus();
   void keep_focus();
 
-  // A frame has been shown or hidden, and with it the controls of its page.
+  // A frame has been shown or hidden, and with it the controls of its page; or the title changed.
   void changed(Control& control, Change what) override;
   void run_acts();
   void refresh();
   void restyle();
-  void show_window();  // as the model tells
+
+  // form_window_keys.cpp
   void click(std::string_view name);
+  bool click_by_key(WPARAM key);
+  bool press_focused_or_default(HWND focused);
 
   Window& model_;
   const WindowLayout& layout_;
+  HWND owner_;
   std::function<bool()> ended_;
   HWND window_ = nullptr;
+  HWND last_focus_ = nullptr;  // the control that had it when the user last did something
   int dpi_ = kPlainDpi;
   Theme theme_;
   FontOwner font_;
@@ -90,7 +103,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   std::unique_ptr<TabStrip> tabs_;
   std::vector<std::unique_ptr<ControlView>> views_;  // as in the table
   std::deque<std::function<void()>> acts_;
-  std::vector<Control*> pages_;  // frames that the table names
+  std::vector<Control*> observed_;  // frames that the table names, and the title's label
   std::uint64_t refreshed_ms_ = 0;
   bool refresh_is_due_ = false;
 };

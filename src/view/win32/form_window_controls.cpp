@@ -18,12 +18,17 @@ void FormWindow::make_controls() {
       }
       views_.push_back(std::move(view));
     }
-    Control* page = place.page.empty() ? nullptr : model_.find(place.page);
-    if (page != nullptr && std::find(pages_.begin(), pages_.end(), page) == pages_.end()) {
-      pages_.push_back(page);
-      page->observe(*this);
-    }
+    watch(place.page);
   }
+  watch(layout_.title);
+}
+
+void FormWindow::watch(std::string_view name) {
+  Control* control = name.empty() ? nullptr : model_.find(name);
+  if (control == nullptr) return;
+  if (std::find(observed_.begin(), observed_.end(), control) != observed_.end()) return;
+  observed_.push_back(control);
+  control->observe(*this);
 }
 
 ControlView* FormWindow::view_of(HWND window) const {
@@ -41,7 +46,8 @@ void FormWindow::arrange_controls() {
   const Arrangement places = arrange(layout_, area.right, area.bottom, dpi_, wanted);
   for (std::size_t i = 0; i < views_.size(); ++i) {
     const Box& box = places.controls[i];
-    MoveWindow(views_[i]->window(), box.left, box.top, box.width, box.height, TRUE);
+    MoveWindow(views_[i]->window(), box.left - views_[i]->overhang(), box.top, box.width,
+               box.height, TRUE);
     const Box& strip = places.tab_strips[i];
     if (tabs_ != nullptr && strip.height > 0) {
       tabs_->move(strip);
@@ -69,22 +75,35 @@ void FormWindow::show_controls() {
   if (tabs_ != nullptr) ShowWindow(tabs_->window(), has_tabs ? SW_SHOWNA : SW_HIDE);
 }
 
-// The focus must not stay on what is disabled or hidden: keys would go nowhere.
+bool FormWindow::takes_keys(HWND control) const {
+  return IsChild(window_, control) != 0 && IsWindowEnabled(control) != 0 &&
+         IsWindowVisible(control) != 0;
+}
+
+void FormWindow::note_focus() {
+  const HWND focused = GetFocus();
+  if (takes_keys(focused)) last_focus_ = focused;
+}
+
+HWND FormWindow::first_focus() const {
+  for (const auto& view : views_) {
+    const ControlKind kind = view->place().kind;
+    if (kind == ControlKind::kToolbar || kind == ControlKind::kTitleButton) continue;
+    const bool is_stop = (GetWindowLongW(view->window(), GWL_STYLE) & WS_TABSTOP) != 0;
+    if (is_stop && takes_keys(view->window())) return view->window();
+  }
+  return nullptr;
+}
+
+// The focus must not stay on what is disabled or hidden: keys would go nowhere. It goes back to
+// where it was before another window took it.
 void FormWindow::keep_focus() {
   const HWND focused = GetFocus();
   if (focused == nullptr && GetActiveWindow() != window_) return;
-  const bool is_ours = focused == window_ || IsChild(window_, focused) != 0;
-  if (focused != nullptr && !is_ours) return;
-  const bool is_usable = is_ours && focused != window_ && IsWindowEnabled(focused) != 0 &&
-                         IsWindowVisible(focused) != 0;
-  if (is_usable) return;
-  for (const auto& view : views_) {
-    const bool is_command =
-        view->place().kind == ControlKind::kMainButton || view->place().kind == ControlKind::kTree;
-    if (!is_command || IsWindowEnabled(view->window()) == 0) continue;
-    SetFocus(view->window());
-    return;
-  }
+  if (focused != nullptr && focused != window_ && IsChild(window_, focused) == 0) return;
+  if (takes_keys(focused)) return;
+  const HWND next = takes_keys(last_focus_) ? last_focus_ : first_focus();
+  if (next != nullptr) SetFocus(next);
 }
 
 }  // namespace quillvane

@@ -8,19 +8,11 @@
 #include <cwchar>
 
 #include "platform/win32/wide_text.h"
-#include "view/win32/look/arrange.h"
 
 namespace quillvane {
 
 namespace {
 
-constexpr int kPictureSize = 16;
-constexpr int kPictureBeside = 3;
-constexpr int kPictureAbove = 2;
-constexpr int kOtherColumn = 96;  // sizes; dates take more
-constexpr int kLastColumn = 160;
-constexpr int kLeastFirstColumn = 120;
-constexpr int kTwipsOfUnit = 15;
 constexpr UINT kNoBox = 1;  // state pictures of the control
 constexpr UINT kTickedBox = 2;
 
@@ -30,90 +22,65 @@ ListBinding::ListBinding(ViewHost& host, ListView& list, const ControlPlace& pla
     : ControlView(host, list, place), list_(list) {
   create(WC_LISTVIEWW, WS_TABSTOP | WS_BORDER | LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL |
                            LVS_SHOWSELALWAYS | LVS_SHAREIMAGELISTS);
-  const LPARAM looks =
-      LVS_EX_CHECKBOXES | LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+  LPARAM looks = LVS_EX_FULLROWSELECT | LVS_EX_DOUBLEBUFFER | LVS_EX_LABELTIP;
+  if (has_boxes()) looks |= LVS_EX_CHECKBOXES;
   send(LVM_SETEXTENDEDLISTVIEWSTYLE, static_cast<WPARAM>(looks), looks);
-  send(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);  // ticks are the model's
+  if (has_boxes()) {
+    send(LVM_SETCALLBACKMASK, LVIS_STATEIMAGEMASK);  // ticks are the model's
+    // Made by Windows, and left to be destroyed when others take their place.
+    boxes_.reset(reinterpret_cast<HIMAGELIST>(send(LVM_GETIMAGELIST, LVSIL_STATE)));
+  }
+  SetWindowSubclass(reinterpret_cast<HWND>(send(LVM_GETHEADER)), header_procedure, 0,
+                    reinterpret_cast<DWORD_PTR>(this));
   make_columns();
   restyle();
 }
 
 void ListBinding::restyle() {
   ControlView::restyle();
-  images_ = host().pictures().list(place().picture, scaled(kPictureSize, host().dpi()), false,
-                                   scaled(kPictureBeside, host().dpi()),
-                                   scaled(kPictureAbove, host().dpi()));
-  image_count_ = ImageList_GetImageCount(images_.get());
-  send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.get()));
+  make_images();
   send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(host().theme().list));
   send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(host().theme().list));
   send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(host().theme().list_text));
-  const int count = static_cast<int>(list_.columns().size());
-  for (int column = 1; column < count; ++column) {
-    const int width = column + 1 == count ? kLastColumn : kOtherColumn;
-    const int told = list_.column_width(column + 1) / kTwipsOfUnit;
-    send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column),
-         scaled(told != 0 ? told : width, host().dpi()));
-  }
-  fit_first_column();
+  set_widths();
   InvalidateRect(window(), nullptr, TRUE);
 }
 
-void ListBinding::make_columns() {
-  for (std::size_t i = 0; i < list_.columns().size(); ++i) {
-    std::wstring text = widen(list_.columns()[i]);
-    LVCOLUMNW column{};
-    column.mask = LVCF_TEXT | LVCF_FMT | LVCF_SUBITEM;
-    column.fmt = i == 1 ? LVCFMT_RIGHT : LVCFMT_LEFT;
-    column.pszText = text.data();
-    column.iSubItem = static_cast<int>(i);
-    send(LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
-  }
+int ListBinding::selected_row() const {
+  return static_cast<int>(send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED)) + 1;
 }
 
-// File names take what the other columns leave.
-void ListBinding::fit_first_column() {
-  int others = 0;
-  for (std::size_t i = 1; i < list_.columns().size(); ++i) {
-    others += static_cast<int>(send(LVM_GETCOLUMNWIDTH, i));
-  }
-  const int bar = GetSystemMetrics(SM_CXVSCROLL);
-  RECT area{};
-  GetWindowRect(window(), &area);
-  const int room = area.right - area.left - 2 - bar - others;
-  send(LVM_SETCOLUMNWIDTH, 0, std::max(room, scaled(kLeastFirstColumn, host().dpi())));
-}
-
-void ListBinding::show_order() {
-  const auto header = reinterpret_cast<HWND>(send(LVM_GETHEADER));
-  for (std::size_t i = 0; i < list_.columns().size(); ++i) {
-    HDITEMW item{};
-    item.mask = HDI_FORMAT;
-    SendMessageW(header, HDM_GETITEMW, i, reinterpret_cast<LPARAM>(&item));
-    const int before = item.fmt;
-    item.fmt &= ~(HDF_SORTUP | HDF_SORTDOWN);
-    if (list_.sorted() && list_.sort_key() == static_cast<int>(i)) {
-      item.fmt |= list_.descending() ? HDF_SORTDOWN : HDF_SORTUP;
-    }
-    if (item.fmt != before) {
-      SendMessageW(header, HDM_SETITEMW, i, reinterpret_cast<LPARAM>(&item));
-    }
-  }
+// Looks through the rows only when the one that the control has selected is not the model's: a
+// scan adds rows many times a second.
+void ListBinding::show_selection() {
+  if (clicks_to_come_ != 0) return;  // the control is ahead of the model
+  const int shown = selected_row();
+  if (shown != 0 && shown <= list_.count() && list_.selected(shown)) return;
+  int wanted = 1;
+  while (wanted <= list_.count() && !list_.selected(wanted)) ++wanted;
+  LVITEMW item{};
+  item.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+  if (shown != 0) send(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&item));
+  if (wanted > list_.count()) return;
+  item.state = item.stateMask;
+  send(LVM_SETITEMSTATE, static_cast<WPARAM>(wanted) - 1, reinterpret_cast<LPARAM>(&item));
 }
 
 void ListBinding::show_changes(const Changes& changes) {
   is_drawing_ = true;
+  const bool states_changed = changes.has(Change::kItemState);
   if (changes.has(Change::kItems)) {
     const int rows = list_.count();
     // Without a scroll: rows that are added below must not move what the user reads.
     if (rows != shown_rows_) {
       send(LVM_SETITEMCOUNT, static_cast<WPARAM>(rows), LVSICF_NOSCROLL | LVSICF_NOINVALIDATEALL);
+      fit_columns();
     }
     shown_rows_ = rows;
     show_order();
   }
-  if (changes.has(Change::kItems) || changes.has(Change::kItemState) ||
-      changes.has(Change::kRefresh)) {
+  if (states_changed || selected_row() != 0) show_selection();
+  if (changes.has(Change::kItems) || states_changed || changes.has(Change::kRefresh)) {
     InvalidateRect(window(), nullptr, FALSE);
   }
   is_drawing_ = false;
@@ -155,7 +122,11 @@ int ListBinding::focused_row() const {
 
 void ListBinding::click(int row) {
   if (row == 0) return;
-  host().act([this, row] { list_.click_row(row); });
+  ++clicks_to_come_;
+  host().act([this, row] {
+    --clicks_to_come_;
+    list_.click_row(row);
+  });
 }
 
 void ListBinding::tick(int row) {
@@ -206,7 +177,7 @@ std::optional<LRESULT> ListBinding::filter(UINT message, WPARAM w, LPARAM l) {
     }
     case WM_SIZE: {
       const LRESULT answer = DefSubclassProc(window(), message, w, l);
-      fit_first_column();
+      fit_columns();
       return answer;
     }
     default:
@@ -219,6 +190,11 @@ void ListBinding::focus_moved(const NMLISTVIEW& change) {
   const bool came =
       (change.uNewState & LVIS_FOCUSED) != 0 && (change.uOldState & LVIS_FOCUSED) == 0;
   if (change.iItem >= 0 && came) click(change.iItem + 1);
+  // Ctrl and a click take the selection away, of which the model knows nothing.
+  if ((change.uOldState & LVIS_SELECTED) == 0) return;
+  host().act([this] {
+    if (selected_row() == 0) changed(list_, Change::kItemState);
+  });
 }
 
 std::optional<LRESULT> ListBinding::notified(NMHDR& header) {

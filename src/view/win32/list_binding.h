@@ -1,5 +1,5 @@
 // A list on the screen. It is virtual: the control asks for the rows that it shows, so that a list
-// of a million rows costs no more than one of twenty.
+// of a million rows costs no more than one of twenty. Ticks and the selection are the model's.
 #pragma once
 
 #include <string>
@@ -21,9 +21,14 @@ class ListBinding final : public ControlView {
   std::optional<LRESULT> filter(UINT message, WPARAM w, LPARAM l) override;
 
  private:
+  [[nodiscard]] bool has_boxes() const { return place().kind == ControlKind::kList; }
+  void make_images();
   void make_columns();
-  void fit_first_column();
+  void set_widths();
+  void fit_columns();
   void show_order();
+  void show_selection();
+  [[nodiscard]] int selected_row() const;  // in the control; 0: none
   void answer(LVITEMW& item);
   [[nodiscard]] int row_at(POINT place, UINT& part) const;  // 0: beside the rows
   [[nodiscard]] int focused_row() const;
@@ -32,10 +37,15 @@ class ListBinding final : public ControlView {
   void open_menu(POINT place);
   void focus_moved(const NMLISTVIEW& change);
 
+  static LRESULT CALLBACK header_procedure(HWND header, UINT message, WPARAM w, LPARAM l,
+                                           UINT_PTR id, DWORD_PTR view);
+
   ListView& list_;
   ImageListOwner images_;
+  ImageListOwner boxes_;
   int image_count_ = 0;
   int shown_rows_ = 0;
+  int clicks_to_come_ = 0;   // rows the user has clicked, which the model has yet to be told
   bool is_drawing_ = false;  // what the control reports is then no act of the user
 };
 

@@ -51,6 +51,9 @@ class ListBindingTest : public testing::Test {
     return send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_STATEIMAGEMASK) ==
            static_cast<LRESULT>(INDEXTOSTATEIMAGEMASK(2));
   }
+  [[nodiscard]] bool selected(int row) const {
+    return send(LVM_GETITEMSTATE, static_cast<WPARAM>(row), LVIS_SELECTED) != 0;
+  }
   void press(WPARAM key) const { send(WM_KEYDOWN, key); }
 
   static constexpr ControlPlace kPlace = {
@@ -143,6 +146,61 @@ TEST_F(ListBindingTest, ARowThatGetsTheFocusIsClickedInTheModel) {
   stage_.settle();
 
   EXPECT_EQ(clicked, 2);
+}
+
+TEST_F(ListBindingTest, ARowSelectedInTheModelIsSelectedInTheControl) {
+  for (const char* text : {"a", "b", "c"}) list_.add(text);
+  list_.set_selected(2, true);
+  stage_.settle();
+  EXPECT_TRUE(selected(1));
+
+  list_.set_selected(2, false);
+  list_.set_selected(3, true);
+  stage_.settle();
+
+  EXPECT_FALSE(selected(1));
+  EXPECT_TRUE(selected(2));
+}
+
+TEST_F(ListBindingTest, TheRowInHandIsTheOneSelectedInTheModel) {
+  list_.add("a");
+  list_.add("b");
+  stage_.settle();
+
+  press(VK_DOWN);
+  press(VK_DOWN);
+  stage_.settle();
+
+  EXPECT_FALSE(list_.selected(1));
+  EXPECT_TRUE(list_.selected(2));
+  EXPECT_TRUE(selected(1));
+}
+
+TEST_F(ListBindingTest, ARemovedRowLeavesNoSelectionToTheNext) {
+  list_.add("a");
+  list_.add("b");
+  list_.set_selected(1, true);
+  stage_.settle();
+
+  list_.remove(1);
+  stage_.settle();
+
+  EXPECT_EQ(shown(0, 0), "b");
+  EXPECT_FALSE(selected(0));
+}
+
+TEST_F(ListBindingTest, ASelectionThatTheControlLosesIsDrawnAgain) {
+  list_.add("a");
+  list_.set_selected(1, true);
+  stage_.settle();
+  ASSERT_TRUE(selected(0));
+
+  LVITEMW none{};
+  none.stateMask = LVIS_SELECTED;
+  send(LVM_SETITEMSTATE, 0, reinterpret_cast<LPARAM>(&none));
+  stage_.settle();
+
+  EXPECT_TRUE(selected(0));
 }
 
 }  // namespace

@@ -19,10 +19,18 @@ constexpr int kPictureSize = 16;
 LabelView::LabelView(ViewHost& host, Label& label, const ControlPlace& place)
     : ControlView(host, label, place), label_(label) {
   create(WC_STATICW, SS_LEFT | SS_CENTERIMAGE | SS_NOPREFIX | SS_ENDELLIPSIS);
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(font()), FALSE);
 }
 
-int LabelView::wanted_width() const {
-  return text_width(host().font(), widen(label_.caption()).c_str());
+HFONT LabelView::font() const {
+  return place().kind == ControlKind::kHeading ? host().bold_font() : host().font();
+}
+
+int LabelView::wanted_width() const { return text_width(font(), widen(label_.caption()).c_str()); }
+
+void LabelView::restyle() {
+  ControlView::restyle();
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(font()), TRUE);
 }
 
 HBRUSH LabelView::prepare(HDC dc) {

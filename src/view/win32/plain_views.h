@@ -10,10 +10,11 @@
 
 namespace quillvane {
 
-// A caption on the page.
+// A caption on the page; that of a heading is bold.
 class LabelView final : public ControlView {
  public:
   LabelView(ViewHost& host, Label& label, const ControlPlace& place);
+  void restyle() override;
   [[nodiscard]] int wanted_width() const override;
   HBRUSH prepare(HDC dc) override;
 
@@ -21,6 +22,8 @@ class LabelView final : public ControlView {
   void show_changes(const Changes& changes) override;
 
  private:
+  [[nodiscard]] HFONT font() const;
+
   Label& label_;
   BrushOwner page_;
 };

@@ -6,8 +6,8 @@
 
 #include "core/form7.h"
 #include "platform/win32/win32_loop.h"
-#include "view/win32/form_window.h"
-#include "view/win32/look/form7_layout.h"
+#include "view/win32/open_windows.h"
+#include "view/win32/pictures.h"
 
 namespace quillvane {
 
@@ -20,10 +20,13 @@ void run_program(Program& program, Win32Loop& loop, const std::string& command_l
   // Without a window there is nobody to wait for.
   if (program.ended() || !program.main_window().visible()) return;
 
-  FormWindow window(program.main_window(), form7_layout(), [&program] { return program.ended(); });
-  loop.set_message_filter([&window](MSG& message) { return window.take_key(message); });
+  OpenWindows windows([&program] { return program.ended(); });
+  const auto main_window = windows.open(program.main_window());
+  program.attach_view = [&windows](Window& window) { return windows.open(window); };
+  loop.set_message_filter([&windows](MSG& message) { return windows.take_key(message); });
   loop.serve_until([&program] { return program.ended(); });
   loop.set_message_filter(nullptr);
+  program.attach_view = nullptr;
 }
 
 }  // namespace quillvane

@@ -73,7 +73,8 @@ SystemColors system_colors() {
           .face_text = GetSysColor(COLOR_BTNTEXT),
           .gray_text = GetSysColor(COLOR_GRAYTEXT),
           .highlight = GetSysColor(COLOR_HIGHLIGHT),
-          .highlight_text = GetSysColor(COLOR_HIGHLIGHTTEXT)};
+          .highlight_text = GetSysColor(COLOR_HIGHLIGHTTEXT),
+          .hot_light = GetSysColor(COLOR_HOTLIGHT)};
 }
 
 bool high_contrast() {
@@ -93,6 +94,17 @@ FontOwner make_font(int points, int weight, int dpi) {
   font.lfQuality = CLEARTYPE_QUALITY;
   wcsncpy(font.lfFaceName, face, LF_FACESIZE - 1);
   return FontOwner(CreateFontIndirectW(&font));
+}
+
+int text_height(HFONT font) {
+  const HDC dc = GetDC(nullptr);
+  TEXTMETRICW metric{};
+  {
+    const Selected selected(dc, font);
+    GetTextMetricsW(dc, &metric);
+  }
+  ReleaseDC(nullptr, dc);
+  return metric.tmHeight;
 }
 
 int text_width(HFONT font, const wchar_t* text) {

@@ -24,4 +24,6 @@ namespace quillvane {
 // Pixels of a text in one line.
 [[nodiscard]] int text_width(HFONT font, const wchar_t* text);
 
+[[nodiscard]] int text_height(HFONT font);
+
 }  // namespace quillvane

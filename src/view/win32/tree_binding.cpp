@@ -4,9 +4,11 @@
 #include <windowsx.h>
 
 #include <cstring>
+#include <utility>
 
 #include "platform/win32/wide_text.h"
 #include "view/win32/look/arrange.h"
+#include "view/win32/tick_boxes.h"
 
 namespace quillvane {
 
@@ -15,6 +17,7 @@ namespace {
 constexpr int kPictureSize = 16;
 constexpr int kPictureBeside = 3;
 constexpr int kRowHeight = 22;
+constexpr int kBoxSpace = 16;
 constexpr int kNoBox = 1;  // state pictures of the control
 constexpr int kTickedBox = 2;
 
@@ -28,10 +31,12 @@ UINT state_of(const TreeNode& node) {
 
 TreeBinding::TreeBinding(ViewHost& host, TreeView& tree, const ControlPlace& place)
     : ControlView(host, tree, place), tree_(tree) {
-  create(WC_TREEVIEWW, WS_TABSTOP | WS_BORDER | TVS_HASLINES | TVS_LINESATROOT | TVS_HASBUTTONS |
-                           TVS_SHOWSELALWAYS);
-  // The pictures of the boxes are made at this moment, before there are nodes.
+  create(WC_TREEVIEWW, WS_TABSTOP | WS_BORDER | TVS_FULLROWSELECT | TVS_LINESATROOT |
+                           TVS_HASBUTTONS | TVS_SHOWSELALWAYS);
+  // By this screen readers know of the ticks. Windows makes pictures of the boxes, and leaves them
+  // to be destroyed when others take their place.
   SetWindowLongW(window(), GWL_STYLE, GetWindowLongW(window(), GWL_STYLE) | TVS_CHECKBOXES);
+  boxes_.reset(reinterpret_cast<HIMAGELIST>(send(TVM_GETIMAGELIST, TVSIL_STATE)));
   send(TVM_SETEXTENDEDSTYLE, TVS_EX_DOUBLEBUFFER, TVS_EX_DOUBLEBUFFER);
   restyle();
 }
@@ -41,6 +46,9 @@ void TreeBinding::restyle() {
   images_ = host().pictures().list(place().picture, scaled(kPictureSize, host().dpi()), false,
                                    scaled(kPictureBeside, host().dpi()));
   send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.get()));
+  ImageListOwner boxes = tick_boxes(host(), scaled(kBoxSpace, host().dpi()), 1);
+  send(TVM_SETIMAGELIST, TVSIL_STATE, reinterpret_cast<LPARAM>(boxes.get()));
+  boxes_ = std::move(boxes);
   send(TVM_SETITEMHEIGHT, static_cast<WPARAM>(scaled(kRowHeight, host().dpi())));
   send(TVM_SETBKCOLOR, 0, static_cast<LPARAM>(host().theme().list));
   send(TVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(host().theme().list_text));

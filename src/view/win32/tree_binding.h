@@ -45,6 +45,7 @@ class TreeBinding final : public ControlView {
 
   TreeView& tree_;
   ImageListOwner images_;
+  ImageListOwner boxes_;
   std::vector<Shown> shown_;  // by Index
   bool is_drawing_ = false;   // what the control reports is then no act of the user
 };

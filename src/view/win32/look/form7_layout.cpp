@@ -155,22 +155,6 @@ constexpr KeyClick kKeys[] = {
     {0x1B, "cmd_cancel"},  // Escape
 };
 
-constexpr WindowLayout kLayout = {
-    .window = "Form7",
-    .rows = kRows,
-    .columns = kColumns,
-    .controls = kControls,
-    .hints = kHints,
-    .keys = kKeys,
-    .margin = 12,
-    .gap = 8,
-    .tab_height = 26,
-    .width = 960,
-    .height = 640,
-    .least_width = 740,
-    .least_height = 460,
-};
-
 constexpr std::string_view kUndrawn[] = {
     // Variables and mail boxes; Text3 has no text of its own.
     "Text1",
@@ -240,10 +224,27 @@ constexpr std::string_view kUndrawn[] = {
     "a",
 };
 
+constexpr WindowLayout kLayout = {
+    .window = "Form7",
+    .title = {},
+    .default_button = {},
+    .rows = kRows,
+    .columns = kColumns,
+    .controls = kControls,
+    .hints = kHints,
+    .keys = kKeys,
+    .undrawn = kUndrawn,
+    .margin = 12,
+    .gap = 8,
+    .tab_height = 26,
+    .width = 960,
+    .height = 640,
+    .least_width = 740,
+    .least_height = 460,
+};
+
 }  // namespace
 
 const WindowLayout& form7_layout() { return kLayout; }
-
-std::span<const std::string_view> form7_undrawn() { return kUndrawn; }
 
 }  // namespace quillvane

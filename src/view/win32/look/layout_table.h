@@ -13,11 +13,16 @@ namespace quillvane {
 enum class ControlKind {
   kToolbar,
   kTree,
-  kList,
+  kList,         // with boxes to tick and pictures
+  kPlainList,    // without
   kButton,       // a command with its caption
   kMainButton,   // the command of the page
   kTitleButton,  // a picture in the title bar
+  kLink,         // a text that is clicked
   kLabel,
+  kHeading,  // a label in bold
+  kEdit,     // a line of text to be typed
+  kCheckBox,
   kPathLine,  // a line of text that is shortened in its middle
   kMark,      // a small square of colour
   kPicture,
@@ -40,7 +45,8 @@ struct ControlPlace {
   int columns;  // how many columns the cell takes
   Pack pack;
   int width;  // of a packed control; one with a longer caption gets wider
-  // What a screen reader says; empty: the text that the control shows.
+  // What a screen reader says; empty: the text that the control shows. A line to be typed in takes
+  // the name of the label before it.
   std::string_view accessible_name;
   // The frame whose showing it shares; empty: it stands in the window itself.
   std::string_view page;
@@ -69,18 +75,29 @@ struct KeyClick {
 
 struct WindowLayout {
   std::string_view window;
+  // The label whose caption the title bar shows; empty: it shows the window's own.
+  std::string_view title;
+  // The button that Enter presses where no other one has the focus; empty: none.
+  std::string_view default_button;
   std::span<const Track> rows;
   std::span<const Track> columns;
   std::span<const ControlPlace> controls;
   std::span<const ToolbarHint> hints;
   std::span<const KeyClick> keys;
+  // Controls of the window that it does not draw: variables, pages to come, and what stands for
+  // itself (timers, menus, the tray icon).
+  std::span<const std::string_view> undrawn;
   int margin;      // to the window's edges; row 0 is the title bar and has none
   int gap;         // between rows, columns and packed controls
   int tab_height;  // of the strip above controls that share a cell
   int width;       // at the start
   int height;
-  int least_width;  // to which it can be made smaller
+  int least_width;  // to which it can be made smaller; with both as at the start, it keeps its size
   int least_height;
+
+  [[nodiscard]] constexpr bool can_be_sized() const {
+    return least_width != width || least_height != height;
+  }
 };
 
 }  // namespace quillvane

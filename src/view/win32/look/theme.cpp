@@ -1,5 +1,6 @@
 #include "view/win32/look/theme.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace quillvane {
@@ -23,6 +24,15 @@ double brightness(Color color) {
          0.0722 * linear(channel(color, 2));
 }
 
+// The suite's colour, darkened until it can be read on the page.
+Color link_color(Color suite, Color page) {
+  constexpr double kReadable = 4.5;  // ratio of contrast
+  constexpr int kStep = 32;
+  Color color = suite;
+  while (contrast(color, page) < kReadable) color = mixed(color, kBlack, kStep);
+  return color;
+}
+
 }  // namespace
 
 Color readable_on(Color background) {
@@ -42,6 +52,13 @@ Color mixed(Color color, Color other, int share) {
   return result;
 }
 
+double contrast(Color one, Color other) {
+  constexpr double kStray = 0.05;  // light that a screen sends where it is black
+  const double first = brightness(one) + kStray;
+  const double second = brightness(other) + kStray;
+  return std::max(first, second) / std::min(first, second);
+}
+
 Color node_text_color(const Theme& theme, Color own) {
   return theme.high_contrast || own == kBlack ? theme.list_text : own;
 }
@@ -58,6 +75,8 @@ Theme make_theme(Color suite, const SystemColors& system, bool high_contrast) {
     theme.page = system.face;
     theme.text = system.face_text;
     theme.border = system.face_text;
+    theme.box_edge = system.window_text;
+    theme.link = system.hot_light;
     theme.button = system.face;
     theme.button_over = system.face;
     theme.button_pressed = system.face;
@@ -71,6 +90,8 @@ Theme make_theme(Color suite, const SystemColors& system, bool high_contrast) {
   theme.page = 0xF9F6F4;
   theme.text = 0x2B2320;
   theme.border = 0xD8CFC8;
+  theme.box_edge = 0x8A817A;
+  theme.link = link_color(suite, theme.page);
   theme.button = kWhite;
   theme.button_over = mixed(kWhite, suite, 28);
   theme.button_pressed = mixed(kWhite, suite, 64);

@@ -14,6 +14,7 @@ struct SystemColors {
   Color gray_text = 0;
   Color highlight = 0;
   Color highlight_text = 0;
+  Color hot_light = 0;  // of links
 };
 
 struct Theme {
@@ -25,6 +26,8 @@ struct Theme {
   Color border = 0;
   Color list = 0;  // behind rows and nodes
   Color list_text = 0;
+  Color box_edge = 0;  // of an empty box before a row or node
+  Color link = 0;
   Color button = 0;
   Color button_over = 0;  // while the mouse is over it
   Color button_pressed = 0;
@@ -39,6 +42,9 @@ struct Theme {
 
 // Black or white, whichever is read better on `background`.
 [[nodiscard]] Color readable_on(Color background);
+
+// The ratio of contrast between two colours: from 1, the same, to 21, black and white.
+[[nodiscard]] double contrast(Color one, Color other);
 
 // `share` of 256 parts of `other`, the rest of `color`.
 [[nodiscard]] Color mixed(Color color, Color other, int share);

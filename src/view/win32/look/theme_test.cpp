@@ -16,7 +16,8 @@ constexpr SystemColors kBlackAndWhite = {.window = 0,
                                          .face_text = 0xFEFEFE,
                                          .gray_text = 0x3FF23F,
                                          .highlight = 0xFFEB1A,
-                                         .highlight_text = 0x020202};
+                                         .highlight_text = 0x020202,
+                                         .hot_light = 0x00FFFF};
 
 TEST(Theme, TextOnAColourIsBlackOrWhiteWhicheverIsReadBetter) {
   EXPECT_EQ(readable_on(0), kWhite);
@@ -50,6 +51,22 @@ TEST(Theme, HighContrastKnowsTheSystemsColoursAlone) {
   EXPECT_EQ(theme.list_text, kBlackAndWhite.window_text);
   EXPECT_EQ(theme.main_button, kBlackAndWhite.face);
   EXPECT_EQ(theme.disabled_text, kBlackAndWhite.gray_text);
+  EXPECT_EQ(theme.box_edge, kBlackAndWhite.window_text);
+  EXPECT_EQ(theme.link, kBlackAndWhite.hot_light);
+}
+
+TEST(Theme, ContrastIsAHighestOfTwentyOneToOne) {
+  EXPECT_NEAR(contrast(0, kWhite), 21, 0.001);
+  EXPECT_NEAR(contrast(kWhite, 0), 21, 0.001);
+  EXPECT_NEAR(contrast(kSuiteBlue, kSuiteBlue), 1, 0.001);
+}
+
+TEST(Theme, LinksCanBeReadWhateverTheSuitesColour) {
+  for (const Color suite : {kSuiteBlue, Color{0x00FFFF}, kWhite, Color{0}}) {
+    const Theme theme = make_theme(suite, {}, false);
+    EXPECT_GE(contrast(theme.link, theme.page), 4.5) << suite;
+  }
+  EXPECT_EQ(make_theme(kSuiteBlue, {}, false).link, kSuiteBlue);
 }
 
 TEST(Theme, ANodeKeepsItsColourExceptInHighContrast) {

@@ -1,0 +1,50 @@
+// The ignore list.
+#include "view/win32/look/dialog_layouts.h"
+#include "view/win32/look/dialog_parts.h"
+
+namespace quillvane {
+
+namespace {
+
+enum Row { kTitle, kText, kList, kCommands };
+
+constexpr Track kRows[] = {{kDialogTitle, 0}, {24, 0}, {120, 1}, {kDialogCommands, 0}};
+constexpr Track kColumns[] = {{300, 1}};
+
+// In the order in which Tab goes through them.
+constexpr ControlPlace kControls[] = {
+    dialog_place("Label1", ControlKind::kLabel, kText, 0, 1),
+    dialog_list("view1", kList, "Ignored folders and files"),
+    dialog_place("Command3", ControlKind::kButton, kCommands, 0, 1, Pack::kFromLeft, 96),
+    dialog_place("Command4", ControlKind::kButton, kCommands, 0, 1, Pack::kFromLeft, 96),
+    dialog_place("Command1", ControlKind::kButton, kCommands, 0, 1, Pack::kFromRight, 96),
+    dialog_place("Command2", ControlKind::kMainButton, kCommands, 0, 1, Pack::kFromRight, 96),
+    dialog_close_cross(1),
+};
+
+constexpr std::string_view kUndrawn[] = {"Label222(1)"};  // the title bar shows it
+
+constexpr WindowLayout kLayout = {
+    .window = "Form1",
+    .title = "Label222(1)",
+    .default_button = "Command2",
+    .rows = kRows,
+    .columns = kColumns,
+    .controls = kControls,
+    .hints = {},
+    .keys = kDialogKeys,
+    .undrawn = kUndrawn,
+    .margin = kDialogMargin,
+    .gap = kDialogGap,
+    .tab_height = 0,
+    .width = 560,
+    .height = 400,
+    .least_width = 520,
+    .least_height = 280,
+};
+
+}  // namespace
+
+const WindowLayout& form1_layout() { return kLayout; }
+
+}  // namespace quillvane

@@ -1,0 +1,56 @@
+// About the program.
+#include "view/win32/look/dialog_layouts.h"
+#include "view/win32/look/dialog_parts.h"
+
+namespace quillvane {
+
+namespace {
+
+enum Row { kTitle, kName, kVersion, kWeb, kMail, kTranslation };
+
+constexpr Track kRows[] = {{kDialogTitle, 0}, {28, 0}, {22, 0}, {24, 0}, {24, 0}, {24, 0}};
+constexpr Track kColumns[] = {{300, 1}};
+
+constexpr ControlPlace link(std::string_view name, Row row) {
+  return dialog_place(name, ControlKind::kLink, row, 0, 1, Pack::kFromLeft, 40);
+}
+
+// In the order in which Tab goes through them.
+constexpr ControlPlace kControls[] = {
+    dialog_place("Label2(0)", ControlKind::kHeading, kName, 0, 1),
+    dialog_place("Label2(1)", ControlKind::kLabel, kVersion, 0, 1),
+    link("Label2(2)", kWeb),
+    link("Label2(3)", kMail),
+    link("Label6", kTranslation),
+    dialog_close_cross(1),
+};
+
+constexpr std::string_view kUndrawn[] = {"Label222(1)"};  // the title bar shows it
+
+constexpr int kWidth = 400;
+constexpr int kHeight = 214;
+
+constexpr WindowLayout kLayout = {
+    .window = "frmabout",
+    .title = "Label222(1)",
+    .default_button = "chameleonButton3",
+    .rows = kRows,
+    .columns = kColumns,
+    .controls = kControls,
+    .hints = {},
+    .keys = kDialogKeys,
+    .undrawn = kUndrawn,
+    .margin = kDialogMargin,
+    .gap = kDialogGap,
+    .tab_height = 0,
+    .width = kWidth,
+    .height = kHeight,
+    .least_width = kWidth,
+    .least_height = kHeight,
+};
+
+}  // namespace
+
+const WindowLayout& frmabout_layout() { return kLayout; }
+
+}  // namespace quillvane

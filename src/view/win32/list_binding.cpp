@@ -1,6 +1,7 @@
 #include "view/win32/list_binding.h"
 
 #include <commctrl.h>
+#include <uxtheme.h>
 #include <windowsx.h>
 
 #include <algorithm>
@@ -39,6 +40,9 @@ ListBinding::ListBinding(ViewHost& host, ListView& list, const ControlPlace& pla
 void ListBinding::restyle() {
   ControlView::restyle();
   make_images();
+  // In high contrast the header has the system's colours, whatever the look of other controls is.
+  const wchar_t* const look = host().theme().high_contrast ? L"" : nullptr;
+  SetWindowTheme(reinterpret_cast<HWND>(send(LVM_GETHEADER)), look, look);
   send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(host().theme().list));
   send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(host().theme().list));
   send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(host().theme().list_text));

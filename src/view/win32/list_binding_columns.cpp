@@ -44,7 +44,7 @@ void ListBinding::make_images() {
   const int size = scaled(kPictureSize, host().dpi());
   const int above = scaled(kPictureAbove, host().dpi());
   if (has_boxes()) {
-    images_ = host().pictures().list(place().picture, size, false,
+    images_ = host().pictures().list(place().picture, size, CLR_NONE,
                                      scaled(kPictureBeside, host().dpi()), above);
     ImageListOwner boxes = tick_boxes(host(), size + 2 * above, 0);
     send(LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(boxes.get()));

@@ -133,12 +133,13 @@ void Pictures::draw(HDC dc, int left, int top, int size, std::string_view name, 
   draw_scaled(graphics, *picture, left, top, size, tint == CLR_NONE ? nullptr : &matrix);
 }
 
-ImageListOwner Pictures::list(std::string_view name, int size, bool grayed, int beside, int above) {
+ImageListOwner Pictures::list(std::string_view name, int size, COLORREF look, int beside,
+                              int above) {
   const int width = size + 2 * beside;
   const int height = size + 2 * above;
   ImageListOwner list(
       ImageList_Create(width, height, ILC_COLOR32 | ILC_MASK, kMostPictures / 2, 1));
-  const Matrix gray = gray_matrix();
+  const Matrix matrix = look == kPale ? gray_matrix() : tint_matrix(look);
   for (int number = 1; number <= kMostPictures; ++number) {
     std::array<char, 4> digits{};
     std::snprintf(digits.data(), digits.size(), "-%02d", number % 100);
@@ -147,7 +148,7 @@ ImageListOwner Pictures::list(std::string_view name, int size, bool grayed, int 
     Gdiplus::Bitmap space(width, height, PixelFormat32bppARGB);
     {
       Gdiplus::Graphics graphics(&space);
-      draw_scaled(graphics, *picture, beside, above, size, grayed ? &gray : nullptr);
+      draw_scaled(graphics, *picture, beside, above, size, look == CLR_NONE ? nullptr : &matrix);
     }
     HICON icon = nullptr;
     if (space.GetHICON(&icon) != Gdiplus::Ok) break;

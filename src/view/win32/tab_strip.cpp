@@ -13,6 +13,9 @@ namespace {
 
 constexpr int kTabEdge = 2;  // above the tabs, where the chosen one is higher
 
+constexpr int kTabBeside = 8;  // beside and above a caption
+constexpr int kTabAbove = 3;
+
 }  // namespace
 
 TabStrip::TabStrip(ViewHost& host) : host_(host) {
@@ -53,6 +56,8 @@ void TabStrip::move(const Box& box) {
 
 void TabStrip::restyle() {
   SendMessageW(window_, WM_SETFONT, reinterpret_cast<WPARAM>(host_.font()), TRUE);
+  SendMessageW(window_, TCM_SETPADDING, 0,
+               MAKELPARAM(scaled(kTabBeside, host_.dpi()), scaled(kTabAbove, host_.dpi())));
   const int height = scaled(host_.layout().tab_height, host_.dpi());
   SendMessageW(window_, TCM_SETITEMSIZE, 0, MAKELPARAM(0, height - kTabEdge));
 }

@@ -39,8 +39,10 @@ ToolbarBinding::ToolbarBinding(ViewHost& host, Toolbar& bar, const ControlPlace&
 void ToolbarBinding::restyle() {
   ControlView::restyle();
   const int size = scaled(kPictureSize, host().dpi());
-  images_ = host().pictures().list(place().picture, size, false);
-  gray_images_ = host().pictures().list(place().picture, size, true);
+  const Theme& theme = host().theme();
+  images_ = host().pictures().list(place().picture, size);
+  gray_images_ = host().pictures().list(
+      place().picture, size, theme.high_contrast ? theme.disabled_text : Pictures::kPale);
   send(TB_SETIMAGELIST, 0, reinterpret_cast<LPARAM>(images_.get()));
   send(TB_SETDISABLEDIMAGELIST, 0, reinterpret_cast<LPARAM>(gray_images_.get()));
   const int button = scaled(kButtonSize, host().dpi());

@@ -43,7 +43,7 @@ TreeBinding::TreeBinding(ViewHost& host, TreeView& tree, const ControlPlace& pla
 
 void TreeBinding::restyle() {
   ControlView::restyle();
-  images_ = host().pictures().list(place().picture, scaled(kPictureSize, host().dpi()), false,
+  images_ = host().pictures().list(place().picture, scaled(kPictureSize, host().dpi()), CLR_NONE,
                                    scaled(kPictureBeside, host().dpi()));
   send(TVM_SETIMAGELIST, TVSIL_NORMAL, reinterpret_cast<LPARAM>(images_.get()));
   ImageListOwner boxes = tick_boxes(host(), scaled(kBoxSpace, host().dpi()), 1);

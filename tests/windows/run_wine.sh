@@ -9,7 +9,7 @@
 # screen, and has none unless the variable RUN_WINE_SCREEN names a display; a PREFIX is for one kind.
 set -euo pipefail
 
-prefix=$1
+prefix=$(realpath -m "$1")
 shift
 
 loader=

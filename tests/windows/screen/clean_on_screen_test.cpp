@@ -13,10 +13,10 @@ TEST_F(CleanOnScreen, AsksAndKeepsEverythingAfterNo) {
   const int rows = program_.rows(whole_list());
 
   program_.click("Start Cleaning");
-  const HWND box = await_box("Please Confirm");
+  const HWND box = await_box(program_, "Please Confirm");
   EXPECT_EQ(program_.box_text(box), "Are You sure you want to delete the selected file(s)");
   keep_picture("window-question", program_.area());
-  answer(box, "No");
+  answer_box(box, "No");
 
   EXPECT_EQ(program_.rows(whole_list()), rows);
   EXPECT_EQ(junk_.still_there(), 4);
@@ -26,7 +26,7 @@ TEST_F(CleanOnScreen, RemovesWhatWasFoundAfterYesAndScansAgain) {
   have_result();
 
   program_.click("Start Cleaning");
-  answer(await_box("Please Confirm"), "Yes");
+  answer_box(await_box(program_, "Please Confirm"), "Yes");
 
   ASSERT_TRUE(eventually("clean folders", [this] { return junk_.still_there() == 0; }));
   ASSERT_TRUE(eventually("the scan that follows", [this] {

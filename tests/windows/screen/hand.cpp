@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <iostream>
+#include <sstream>
 
 namespace quillvane {
 
@@ -38,12 +39,20 @@ void double_click_at(POINT place) { use(moved_to(place) + "click --repeat 2 --de
 
 void press_keys(const std::string& keys) { use("key --clearmodifiers " + keys); }
 
-bool shows_color(const RECT& area, COLORREF color) {
-  char text[16];
-  std::snprintf(text, sizeof(text), "#%02X%02X%02X", static_cast<unsigned>(GetRValue(color)),
-                static_cast<unsigned>(GetGValue(color)), static_cast<unsigned>(GetBValue(color)));
-  return ask("colors " + numbers(area)).find(text) != std::string::npos;
+void type_text(const std::string& text) { use("type --clearmodifiers --delay 20 " + text); }
+
+std::set<COLORREF> colors_in(const RECT& area) {
+  std::istringstream words(ask("colors " + numbers(area)));
+  std::set<COLORREF> colors;
+  std::string word;
+  while (words >> word) {
+    const auto number = std::stoul(word.substr(1), nullptr, 16);  // "#RRGGBB"
+    colors.insert(RGB((number >> 16) & 0xFF, (number >> 8) & 0xFF, number & 0xFF));
+  }
+  return colors;
 }
+
+bool shows_color(const RECT& area, COLORREF color) { return colors_in(area).contains(color); }
 
 void keep_picture(const std::string& name, const RECT& area) {
   EXPECT_EQ(ask("picture " + name + " " + numbers(area)), "done");

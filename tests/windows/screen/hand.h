@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include <set>
 #include <string>
 
 namespace quillvane {
@@ -13,8 +14,11 @@ void right_click_at(POINT place);
 void double_click_at(POINT place);
 // Keys as the hand's tool names them: "Tab", "Return", "space", "n".
 void press_keys(const std::string& keys);
+// Types a text into the control that has the focus.
+void type_text(const std::string& text);
 
-// Whether a colour (0x00BBGGRR) shows in an area of the screen.
+// The colours (0x00BBGGRR) that show in an area of the screen.
+[[nodiscard]] std::set<COLORREF> colors_in(const RECT& area);
 [[nodiscard]] bool shows_color(const RECT& area, COLORREF color);
 
 // Keeps a picture of an area of the screen, when the script was told where to.

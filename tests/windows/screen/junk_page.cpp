@@ -53,26 +53,4 @@ void JunkPage::choose_tab(int number, HWND list) const {
   ASSERT_TRUE(eventually("the list", [list] { return IsWindowVisible(list) != 0; }));
 }
 
-HWND JunkPage::await_box(const std::string& title) const {
-  HWND box = nullptr;
-  EXPECT_TRUE(eventually("the box " + title, [&] {
-    box = program_.box(title);
-    return box != nullptr;
-  }));
-  return box;
-}
-
-void JunkPage::answer(HWND box, const std::string& button) const {
-  HWND found = nullptr;
-  for (HWND child = GetWindow(box, GW_CHILD); child != nullptr;
-       child = GetWindow(child, GW_HWNDNEXT)) {
-    std::string text = text_of(child);
-    std::erase(text, '&');
-    if (text == button) found = child;
-  }
-  ASSERT_NE(found, nullptr) << button;
-  click_at(middle(area_of(found)));
-  ASSERT_TRUE(eventually("the end of the box", [box] { return IsWindow(box) == 0; }));
-}
-
 }  // namespace quillvane

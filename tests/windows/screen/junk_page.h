@@ -36,10 +36,6 @@ class JunkPage : public testing::Test {
   // Brings the list of all files to the front.
   void choose_all_files() const;
   void choose_tab(int number, HWND list) const;  // from 0; the list that it shows
-  // Clicks a button of a message box: "Yes".
-  void answer(HWND box, const std::string& button) const;
-  // Waits for a message box.
-  [[nodiscard]] HWND await_box(const std::string& title) const;
 
  private:
   static inline std::unique_ptr<PlantedJunk> shared_junk_;

@@ -30,6 +30,19 @@ struct ScreenNode {
   HTREEITEM item = nullptr;
 };
 
+// The middle of an area.
+[[nodiscard]] POINT middle(const RECT& area);
+[[nodiscard]] std::string text_of(HWND window);
+[[nodiscard]] RECT area_of(HWND window);
+
+// Controls of a window. One is known by its text, which is its accessible name; null when there is
+// none of it.
+[[nodiscard]] std::vector<HWND> controls_in(HWND window);
+[[nodiscard]] HWND control_in(HWND window, std::string_view text);
+[[nodiscard]] HWND control_of_class(HWND window, const wchar_t* window_class);
+[[nodiscard]] bool is_enabled_in(HWND window, std::string_view text);
+void click_in(HWND window, std::string_view text);
+
 class ProgramOnScreen {
  public:
   // Starts it and waits for its window.
@@ -46,14 +59,17 @@ class ProgramOnScreen {
   // Waits until the process has ended; its exit code, or STILL_ACTIVE when it has not.
   [[nodiscard]] DWORD exit_code() const;
 
-  // A control by its text, which is its accessible name; null when there is none.
-  [[nodiscard]] HWND control(std::string_view text) const;
-  [[nodiscard]] HWND control_of_class(const wchar_t* window_class) const;
-  [[nodiscard]] std::vector<HWND> controls() const;
+  // Controls of the main window; see the functions below.
+  [[nodiscard]] HWND control(std::string_view text) const { return control_in(window_, text); }
+  [[nodiscard]] std::vector<HWND> controls() const { return controls_in(window_); }
   // The text of the first control whose text begins so; empty when there is none.
   [[nodiscard]] std::string text_beginning(std::string_view begin) const;
-  [[nodiscard]] bool is_enabled(std::string_view text) const;
-  void click(std::string_view text) const;
+  [[nodiscard]] bool is_enabled(std::string_view text) const {
+    return is_enabled_in(window_, text);
+  }
+  void click(std::string_view text) const { click_in(window_, text); }
+  // The window of the program's own that waits for the user, by its title; null when there is none.
+  [[nodiscard]] HWND form(std::string_view title) const;
   // Another window of the program by its title: a message box. Null when there is none.
   [[nodiscard]] HWND box(std::string_view title) const;
   [[nodiscard]] std::string box_text(HWND box) const;
@@ -64,11 +80,14 @@ class ProgramOnScreen {
   [[nodiscard]] RECT node_area(const ScreenNode& node) const;  // of its text, on the screen
   void click_node(std::string_view begin) const;
   void tick_node(std::string_view begin) const;
+  // Goes down any tree from its first node, by parts of the nodes' texts, and selects the last one.
+  void choose_in(HWND tree, const std::vector<std::string>& names) const;
 
   // Lists.
   [[nodiscard]] int rows(HWND list) const;
   [[nodiscard]] std::string row_text(HWND list, int row, int column) const;  // rows from 0
   [[nodiscard]] bool row_ticked(HWND list, int row) const;
+  [[nodiscard]] bool row_selected(HWND list, int row) const;
   [[nodiscard]] RECT row_area(HWND list, int row) const;  // on the screen
   [[nodiscard]] std::vector<std::string> row_texts(HWND list, int column) const;
 
@@ -78,7 +97,7 @@ class ProgramOnScreen {
   void click_tool(int button) const;
 
  private:
-  [[nodiscard]] ScreenNode node_of(HTREEITEM item) const;
+  [[nodiscard]] ScreenNode node_of(HWND tree, HTREEITEM item) const;
   [[nodiscard]] ScreenNode node_beginning(std::string_view begin) const;
   void collect(HTREEITEM item, std::vector<ScreenNode>& nodes) const;
 
@@ -87,9 +106,9 @@ class ProgramOnScreen {
   HWND window_ = nullptr;
 };
 
-// The middle of an area.
-[[nodiscard]] POINT middle(const RECT& area);
-[[nodiscard]] std::string text_of(HWND window);
-[[nodiscard]] RECT area_of(HWND window);
+// Waits for a message box or another dialog of Windows; its window.
+[[nodiscard]] HWND await_box(const ProgramOnScreen& program, const std::string& title);
+// Clicks a button of it and waits for its end.
+void answer_box(HWND box, const std::string& button);
 
 }  // namespace quillvane

@@ -5,16 +5,16 @@
 #include <windows.h>
 
 #include <cstddef>
+#include <string>
 #include <vector>
 
 namespace quillvane {
 
 class RemoteMemory {
  public:
-  RemoteMemory(HANDLE process, std::size_t bytes)
+  RemoteMemory(HANDLE process, std::size_t bytes, DWORD protection = PAGE_READWRITE)
       : process_(process),
-        address_(
-            VirtualAllocEx(process, nullptr, bytes, MEM_COMMIT | MEM_RESERVE, PAGE_READWRITE)) {
+        address_(VirtualAllocEx(process, nullptr, bytes, MEM_COMMIT | MEM_RESERVE, protection)) {
     EXPECT_NE(address_, nullptr);
   }
   ~RemoteMemory() { VirtualFreeEx(process_, address_, 0, MEM_RELEASE); }

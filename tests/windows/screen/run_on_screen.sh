@@ -10,6 +10,7 @@
 #                                      variable PICTURES_DIR names; nothing without it
 #
 # All other lines are the program's output. PREFIX holds a Windows with a screen, made at the first use.
+# The variable RUN_WINE_DPI tells the screen's resolution in dots per inch; it is 96 without it.
 set -euo pipefail
 
 prefix=$1
@@ -35,6 +36,18 @@ trap end_screen EXIT
 read -r -t 30 -u "$number_pipe" number
 export DISPLAY=:$number RUN_WINE_SCREEN=:$number
 
+# Windows reads its resolution when it starts. Windows stay as they are made: without a window manager
+# nobody else would give a message box its frame.
+"$run_wine" "$prefix" --stop
+cat >>"$prefix/user.reg" <<EOF
+
+[Control Panel\\\\Desktop]
+"LogPixels"=dword:$(printf '%08x' "${RUN_WINE_DPI:-96}")
+
+[Software\\\\Wine\\\\X11 Driver]
+"Managed"="N"
+EOF
+
 "$run_wine" "$prefix" --start
 
 colors() {  # colors LEFT TOP WIDTH HEIGHT
@@ -45,6 +58,8 @@ colors() {  # colors LEFT TOP WIDTH HEIGHT
 
 picture() {  # picture NAME LEFT TOP WIDTH HEIGHT
   [ -n "${PICTURES_DIR:-}" ] || return 0
+  # Without the mouse's traces, and once everything is drawn.
+  xdotool mousemove 0 0 sleep 0.4
   import -window root -crop "$4x$5+$2+$3" +repage -strip -define png:exclude-chunks=date,time \
     "$PICTURES_DIR/$1.png"
 }

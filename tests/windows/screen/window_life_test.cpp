@@ -9,6 +9,8 @@
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win32_tray.h"
 #include "tests/windows/screen/console_result.h"
+#include "tests/windows/screen/copied_program.h"
+#include "tests/windows/screen/denied_key.h"
 #include "tests/windows/screen/junk_page.h"
 
 namespace quillvane {
@@ -99,28 +101,40 @@ TEST(ClosedOnScreen, ItEndsInTheMiddleOfAScan) {
   EXPECT_EQ(junk.still_there(), 4);
 }
 
+TEST(ClosedOnScreen, WithoutRightsToItsKeysItScansClosesAndLeavesThemAsTheyAre) {
+  const PlantedJunk junk;
+  ASSERT_EQ(RegSetKeyValueW(HKEY_LOCAL_MACHINE, kDrivesKey, kDrivesCount, REG_SZ, L"0",
+                            2 * sizeof(wchar_t)),
+            ERROR_SUCCESS);
+  const DeniedKey timer(kDrivesKey);
+  const DeniedKey options(L"software\\Quillvane\\Tidewrack Deluxe");
+  const DeniedKey suite(L"software\\Quillvane");
+  const ProgramOnScreen program;
+
+  start_scan(program);
+  await_summary(program);
+  EXPECT_EQ(program.nodes()[6].text, "Log Files ( 1 files, 512 B )");
+  program.click("Close");
+
+  EXPECT_EQ(program.exit_code(), 0U);
+  EXPECT_EQ(stored_count(), "0");
+}
+
 // A folder of the program's own in which none of its files can be made.
 class PoorFolder : public testing::Test {
  protected:
-  PoorFolder() {
-    fs::create_directories(folder_ / "tmptype.txt");  // where a file shall be put at the start
-    fs::copy_file(cleaner_program(), folder_ / "QuillvaneDiskCleaner.exe");
-  }
-  ~PoorFolder() override {
-    std::error_code in_use;
-    fs::remove_all(folder_, in_use);
-    EXPECT_FALSE(in_use) << in_use.message();
-  }
+  // Where a file shall be put at the start.
+  PoorFolder() { fs::create_directories(copy_.folder() / "tmptype.txt"); }
 
   void scan_to_the_end() const {
-    const ProgramOnScreen program((folder_ / "QuillvaneDiskCleaner.exe").native());
+    const ProgramOnScreen program(copy_.executable().native());
     start_scan(program);
     await_summary(program);
     EXPECT_EQ(program.nodes()[6].text, "Log Files ( 1 files, 512 B )");
   }
 
   const PlantedJunk junk_;
-  const fs::path folder_ = "C:\\qv-poor";
+  const CopiedProgram copy_;
 };
 
 // Runs it without looking for a window; its exit code.
@@ -140,10 +154,10 @@ DWORD run_unseen(const fs::path& program, const std::wstring& switches) {
 }
 
 TEST_F(PoorFolder, ARunSwitchCountsUnseenAndLeavesItsResult) {
-  EXPECT_EQ(run_unseen(folder_ / "QuillvaneDiskCleaner.exe", L"w2-c2"), 0U);
+  EXPECT_EQ(run_unseen(copy_.executable(), L"w2-c2"), 0U);
 
   const auto totals = nlohmann::json::parse(console_output(L"scan --json"))["totals"];
-  std::ifstream file(folder_ / "junst.txt");
+  std::ifstream file(copy_.folder() / "junst.txt");
   std::string result;
   std::getline(file, result);
   EXPECT_EQ(result, std::to_string(totals["files"].get<long long>()) + "|" +
@@ -152,7 +166,7 @@ TEST_F(PoorFolder, ARunSwitchCountsUnseenAndLeavesItsResult) {
 }
 
 TEST_F(PoorFolder, ASwitchOfAWindowThatIsNotThereYetEndsAtOnce) {
-  EXPECT_EQ(run_unseen(folder_ / "QuillvaneDiskCleaner.exe", L"g"), 0U);
+  EXPECT_EQ(run_unseen(copy_.executable(), L"g"), 0U);
 }
 
 TEST_F(PoorFolder, WithoutTheAnimationItScansAllTheSame) { scan_to_the_end(); }
@@ -162,7 +176,7 @@ TEST_F(PoorFolder, WithATornAnimationItScansAllTheSame) {
   const std::string bytes((std::istreambuf_iterator<char>(whole)),
                           std::istreambuf_iterator<char>());
   ASSERT_GT(bytes.size(), 1500U);
-  std::ofstream(folder_ / "search.gif", std::ios::binary) << bytes.substr(0, 1500);
+  copy_.write("search.gif", bytes.substr(0, 1500));
   scan_to_the_end();
 }
 

@@ -72,7 +72,7 @@ void Form7::close() {
 
 void Form7::apply_color() {
   const auto value =
-      platform().registry.value(Hive::kLocalMachine, kSuiteKey, "color", RegistryView::k64Bit);
+      platform().registry.value(Hive::kLocalMachine, kSuiteKey, "color", KeyAccess::kRead64);
   Color color = kSuiteColor;
   if (value && (value->type == RegistryType::kSz || value->type == RegistryType::kExpandSz)) {
     const std::string stored = value->data.substr(0, value->data.find('\0'));

@@ -1,9 +1,8 @@
 // Copying the ticked files aside before they go, with an index and a history in the registry.
-#include <array>
-#include <cstdio>
 #include <string>
 
 #include "core/form7.h"
+#include "support/date_text.h"
 #include "support/file_date.h"
 #include "support/registry_text.h"
 #include "support/text.h"
@@ -17,10 +16,7 @@ constexpr const char* kHistoryKey = "software\\Quillvane\\Tidewrack Deluxe\\junk
 
 // Date and time of the backup: "21_11_2026_10.00.00".
 std::string stamp_of(const DateTime& now) {
-  std::array<char, 64> buffer{};
-  std::snprintf(buffer.data(), buffer.size(), "%02d_%02d_%04d_%02d.%02d.%02d", now.day, now.month,
-                now.year, now.hour, now.minute, now.second);
-  return buffer.data();
+  return date_text(now, "dd_mm_yyyy") + "_" + time_text(now, "hh.mm.ss");
 }
 
 // The path up to and including its last backslash.

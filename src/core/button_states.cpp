@@ -96,8 +96,23 @@ void Form7::toolbar_cancel() {
   enable_toolbar({12, 13}, true);
 }
 
+void Form7::toolbar_page(const Button& page) {
+  enable_toolbar({5}, true);
+  enable_toolbar({6, 9, 10, 12}, false);
+  page.raise_click();
+}
+
 void Form7::toolbar_button(int number) {
   switch (number) {
+    case 1:
+      toolbar_page(chameleonButton6);
+      break;
+    case 2:
+      toolbar_page(orvbutton8);
+      break;
+    case 3:
+      toolbar_page(chameleonButton1);
+      break;
     case 5:
       toolbar_start();
       break;
@@ -112,6 +127,15 @@ void Form7::toolbar_button(int number) {
       break;
     case 10:
       show_everything(false);
+      break;
+    case 12:
+      open_custom_list();
+      break;
+    case 13:
+      open_ignore_list();
+      break;
+    case kToolbarReport:
+      orvbutton3.raise_click();
       break;
     case 16:
       start_eraser();

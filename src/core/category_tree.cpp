@@ -4,6 +4,7 @@
 #include "categories/catalogue.h"
 #include "core/form7.h"
 #include "core/hit_rows.h"
+#include "drivesearch/list_files.h"
 #include "support/size_text.h"
 #include "support/text.h"
 
@@ -11,7 +12,6 @@ namespace quillvane {
 
 namespace {
 
-constexpr std::string_view kCustomFile = "custom.tdw";
 constexpr int kFirstCustomKey = 18;  // the keys are only there to be unique
 
 // Nodes and rows that a tick on a group reaches. The limits of the rows, and the first node of the
@@ -53,13 +53,10 @@ void Form7::build_tree() {
 }
 
 void Form7::add_custom_nodes() {
-  const auto content = platform().files.read_file(program.data_file(kCustomFile));
-  if (!content) return;
   int key_number = kFirstCustomKey;
-  for (const std::string& line : text_lines(*content)) {
-    if (Trim(line).empty()) continue;
-    const std::string caption = part(Split(line, "|"), 0);
-    Tv1.add("f", "f-" + std::to_string(key_number), caption, kCustomImage);
+  for (const std::string& line :
+       read_list_lines(platform().files, program.data_file(kCustomFile))) {
+    Tv1.add("f", "f-" + std::to_string(key_number), custom_entry_of(line).name, kCustomImage);
     ++key_number;
   }
 }

@@ -52,7 +52,9 @@ Form7::Form7(Program& owner)
     : Window("Form7"),
       program(owner),
       pending(owner.platform),
+      Text1(*this, "Text1"),
       Text3(*this, "Text3"),
+      Text5(*this, "Text5"),
       Text8(*this, "Text8"),
       Text9(*this, "Text9"),
       Text13(*this, "Text13"),
@@ -85,25 +87,41 @@ Form7::Form7(Program& owner)
       cmd_ignore(*this, "cmd_ignore"),
       cmd_report(*this, "cmd_report"),
       orvbutton2(*this, "orvbutton2"),
+      orvbutton3(*this, "orvbutton3"),
+      Command9(*this, "Command9"),
       Command14(*this, "Command14"),
       chameleonButton2(*this, "chameleonButton2"),
       chameleonButton9(*this, "chameleonButton9"),
       chameleonButton12(*this, "chameleonButton12"),
       chameleonButton13(*this, "chameleonButton13"),
       chameleonButton18(*this, "chameleonButton18"),
+      chameleonButton6(*this, "chameleonButton6"),
+      orvbutton8(*this, "orvbutton8"),
+      chameleonButton1(*this, "chameleonButton1"),
+      command111(*this, "command111"),
+      command811(*this, "command811"),
+      command911(*this, "command911"),
+      orvbutton611(*this, "orvbutton611"),
+      orvbutton711(*this, "orvbutton711"),
       Image44_0(*this, "Image44(0)"),
       Toolbar1(*this, "Toolbar1"),
       TrayArea1(*this, "TrayArea1", owner.platform.tray),
       scf(*this, "scf", "Scan"),
       stc(*this, "stc", "Start Cleaning"),
-      sc(*this, "sc", {&scf, &stc}),
+      sc(*this, "sc", "scan", {&scf, &stc}),
       b1(*this, "b1", "Remove Selected File(s)"),
       b2(*this, "b2", "Remove All Files Listed"),
       b4(*this, "b4", "Locate Selected File"),
       b5(*this, "b5", "File Properties"),
       b7(*this, "b7", "Select All"),
       b8(*this, "b8", "Select None"),
-      b(*this, "b", {&b1, &b2, &b4, &b5, &b7, &b8}),
+      b(*this, "b", "remove", {&b1, &b2, &b4, &b5, &b7, &b8}),
+      a1(*this, "a1", "Add New Item"),
+      a2(*this, "a2", "Edit Selected Item"),
+      a3(*this, "a3", "Remove Selected Item"),
+      a5(*this, "a5", "Select All Items"),
+      a6(*this, "a6", "Select none"),
+      a(*this, "a", "foption", {&a1, &a2, &a3, &a5, &a6}),
       lbllanguage_0(*this, "lbllanguage(0)"),
       imglangselect(*this, "imglangselect"),
       pictrlang(*this, "pictrlang"),
@@ -117,6 +135,26 @@ Form7::Form7(Program& owner)
       View101(*this, "View101", {"File Description", "File Type"}),
       List1(*this, "List1"),
       Timer2(*this, "Timer2", program.platform.loop, kQuickRunInterval) {
+  set_captions();
+  Toolbar1.set_buttons(design_toolbar());
+  for (Control* hidden :
+       std::initializer_list<Control*>{&Text1,       &Text3,           &Text5,    &Text8,
+                                       &Text9,       &Text13,          &Text14,   &Text15,
+                                       &txtfilecont, &txtfilesize,     &Gif89a2,  &pictrlang,
+                                       &Drive1,      &List1,           &Frame4,   &Frame6,
+                                       &Frame8,      &Frame80,         &bar3,     &Bar2,
+                                       &orvbutton2,  &orvbutton3,      &Command9, &chameleonButton6,
+                                       &orvbutton8,  &chameleonButton1}) {
+    hidden->hide();
+  }
+  enter_state(ButtonState::kFresh);
+  connect_controls();
+  connect_menus();
+  connect_lists();
+  name_fields();
+}
+
+void Form7::set_captions() {
   set_caption(kProgramName);
   cmd_start.set_caption("Start");
   cmd_clean.set_caption("Start Cleaning");
@@ -129,17 +167,6 @@ Form7::Form7(Program& owner)
   chameleonButton2.set_tool_tip("Run shortcut tool");
   lbllanguage_0.set_caption("English");
   TrayArea1.set_tool_tip(kProgramName);
-  Toolbar1.set_buttons(design_toolbar());
-  for (Control* hidden : std::initializer_list<Control*>{
-           &Text3, &Text8, &Text9, &Text13, &Text14, &Text15, &txtfilecont, &txtfilesize, &Gif89a2,
-           &pictrlang, &Drive1, &List1, &Frame4, &Frame6, &Frame8, &Frame80, &bar3, &Bar2,
-           &orvbutton2}) {
-    hidden->hide();
-  }
-  enter_state(ButtonState::kFresh);
-  connect_controls();
-  connect_lists();
-  name_fields();
 }
 
 void Form7::connect_controls() {
@@ -149,7 +176,12 @@ void Form7::connect_controls() {
   cmd_start.on_click = [this] { start_button(); };
   cmd_cancel.on_click = [this] { cancel_button(); };
   cmd_clean.on_click = [this] { clean_button(); };
+  cmd_custom.on_click = [this] { open_custom_list(); };
+  cmd_ignore.on_click = [this] { open_ignore_list(); };
+  cmd_report.on_click = [this] { orvbutton3.raise_click(); };
   orvbutton2.on_click = [this] { run_cleaning(); };
+  orvbutton3.on_click = [this] { write_text_report(); };
+  Command9.on_click = [this] { write_html_report(); };
   Command14.on_click = [this] { back_up(); };
   cmd_all.on_click = [this] { show_everything(true); };
   cmd_non.on_click = [this] { show_everything(false); };
@@ -157,11 +189,15 @@ void Form7::connect_controls() {
   chameleonButton12.on_click = [this] { minimise(); };
   chameleonButton13.on_click = [this] { pictrlang.set_visible(!pictrlang.visible()); };
   Toolbar1.on_button_click = [this](int number) { toolbar_button(number); };
-  scf.on_click = [this] { rescan_node(); };
-  stc.on_click = [this] { clean_node(); };
+  chameleonButton18.on_click = [this] { open_about(); };
   Image44_0.on_click = [this] { show_help(); };
   TrayArea1.on_double_click = [this] { leave_tray(); };
   Timer2.on_timer = [this] { tell_suite(); };
+}
+
+void Form7::connect_menus() {
+  scf.on_click = [this] { rescan_node(); };
+  stc.on_click = [this] { clean_node(); };
   b1.on_click = [this] { orvbutton2.click(); };
   b2.on_click = [this] {
     view5.check_all(true);
@@ -171,6 +207,15 @@ void Form7::connect_controls() {
   b5.on_click = [this] { show_row_properties(); };
   b7.on_click = [this] { view5.check_all(true); };
   b8.on_click = [this] { view5.check_all(false); };
+  for (const auto& [entry, button] : std::initializer_list<std::pair<MenuEntry*, const Button*>>{
+           {&a1, &command111},
+           {&a2, &command811},
+           {&a3, &command911},
+           {&a5, &orvbutton611},
+           {&a6, &orvbutton711},
+       }) {
+    entry->on_click = [button] { button->raise_click(); };
+  }
 }
 
 void Form7::connect_lists() {

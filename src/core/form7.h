@@ -29,17 +29,9 @@
 
 namespace quillvane {
 
-inline constexpr Color kGreen = 32768;          // a category that is being scanned
-inline constexpr Color kDarkRed = 192;          // a category in which something was found
-inline constexpr Color kFoundMark = 128;        // Shape1 when the scan found something
-inline constexpr Color kSuiteColor = 10118205;  // when the suite has set none
-inline constexpr Color kShadowColor = 8421504;  // the window's shadow
-
-// Count and bytes that one node of the tree put into the totals.
-struct NodeResult {
-  double files = 0;
-  double bytes = 0;
-};
+inline constexpr Color kGreen = 32768;    // a category that is being scanned
+inline constexpr Color kDarkRed = 192;    // a category in which something was found
+inline constexpr Color kFoundMark = 128;  // Shape1 when the scan found something
 
 // The window's shadow; a depth of 0 is none.
 struct Shadow {
@@ -87,6 +79,10 @@ class Form7 final : public Window {
   // --- Views (result_views.cpp).
   void loadfirstscan();  // copies all rows of view1 into view5
 
+  // --- Reports of view1 (drivesearch/reports.cpp).
+  void write_text_report();  // asks for a file, writes it, opens it
+  void write_html_report();  // into the file that the text report named
+
   // Bytes as the lists show them.
   [[nodiscard]] std::string size_text(double bytes) const;
   // What the node put into the totals at its last scan.
@@ -112,6 +108,7 @@ class Form7 final : public Window {
   int custnode = 25;              // Index of the custom node being scanned
   int anydrivechecked = 0;        // 1 when a row of View2 is ticked
   int fontcharset = 0;            // character set of the system's code page
+  std::string foundsizetext;      // size of what the drive search found, as text
   std::string systempaccess;      // option of the suite, read and kept
   FileTime systempdate;           // option of the suite: today less a number of days
   Shadow shadow;
@@ -120,7 +117,9 @@ class Form7 final : public Window {
   std::vector<int> skipped_browsers;       // nodes the user kept out, since their browser runs
 
   // --- Hidden text boxes that serve as variables.
+  TextBox Text1;        // what the HTML report names behind "Report For Drive"
   TextBox Text3;        // line beside the animation; visible during a cleaning run
+  TextBox Text5;        // name of the report's file
   TextBox Text8;        // number of the row clicked last in a list
   TextBox Text9;        // mailbox: its Change event starts the suite's run
   TextBox Text13;       // the file being looked at; visible during a scan
@@ -159,12 +158,22 @@ class Form7 final : public Window {
   Button cmd_ignore;         // opens the ignore list
   Button cmd_report;         // writes a report
   Button orvbutton2;         // holds the cleaning run
+  Button orvbutton3;         // holds the text report
+  Button Command9;           // holds the HTML report, which nothing else calls
   Button Command14;          // copies the ticked files aside
   Button chameleonButton2;   // opens the shortcut window
   Button chameleonButton9;   // closes the window
   Button chameleonButton12;  // minimises the window
   Button chameleonButton13;  // opens and closes the language panel
   Button chameleonButton18;  // opens the about window
+  Button chameleonButton6;   // holds the way to the page of drives
+  Button orvbutton8;         // holds the way to the page of file types
+  Button chameleonButton1;   // holds the way to the page of lists
+  Button command111;         // a new file type
+  Button command811;         // edits the file type clicked last
+  Button command911;         // deletes the selected file types
+  Button orvbutton611;       // ticks all file types
+  Button orvbutton711;       // clears all ticks of file types
   Picture Image44_0;         // opens the help
   Toolbar Toolbar1;          // the same commands as pictures
   TrayArea TrayArea1;        // the icon of the minimised window
@@ -180,6 +189,12 @@ class Form7 final : public Window {
   MenuEntry b7;   // "Select All"
   MenuEntry b8;   // "Select None"
   Menu b;         // pop-up of the result lists
+  MenuEntry a1;   // "Add New Item"
+  MenuEntry a2;   // "Edit Selected Item"
+  MenuEntry a3;   // "Remove Selected Item"
+  MenuEntry a5;   // "Select All Items"
+  MenuEntry a6;   // "Select none"
+  Menu a;         // pop-up of the file types
 
   // --- Languages.
   Label lbllanguage_0;    // first language of the panel
@@ -206,7 +221,9 @@ class Form7 final : public Window {
   enum class ButtonState { kFresh, kScanning, kCustomGroup, kDone, kCancelling };
 
   // form7.cpp
+  void set_captions();
   void connect_controls();
+  void connect_menus();
   void connect_lists();
   void name_fields();
 
@@ -263,6 +280,9 @@ class Form7 final : public Window {
   void start_eraser();
   void show_help();
   void leave_tray();
+  void open_ignore_list();
+  void open_custom_list();
+  void open_about();
 
   // button_states.cpp
   void enter_state(ButtonState state);
@@ -274,6 +294,7 @@ class Form7 final : public Window {
   void toolbar_start();
   void toolbar_clean();
   void toolbar_cancel();
+  void toolbar_page(const Button& page);
   void toolbar_button(int number);
 
   // rescan.cpp

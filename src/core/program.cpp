@@ -1,9 +1,19 @@
 #include "core/program.h"
 
+#include <algorithm>
+#include <array>
+
 #include "core/form7.h"
 #include "platform/unicode_case.h"
 
 namespace quillvane {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> kWindows = {"Form7", "Form1", "Form2", "Form5",
+                                                      "frmabout"};
+
+}  // namespace
 
 Program::Program(const Platform& machine)
     : platform(machine), trail(platform.event_log, kProgramName) {}
@@ -23,9 +33,28 @@ void Program::PumpWait(std::chrono::milliseconds time) {
   if (!ended_) platform.loop.wait(time);
 }
 
+void Program::show_modal(ModalWindow& window) {
+  modal_windows_.push_back(&window);
+  {
+    const auto view = attach_view ? attach_view(window) : nullptr;
+    window.show();
+    platform.loop.serve_until([&] { return window.unloaded() || ended_; });
+  }
+  std::erase(modal_windows_, &window);
+  if (!window.unloaded() && !ended_) stop();
+}
+
 Window* Program::find_window(std::string_view name) const {
   if (form7_ != nullptr && same_name(form7_->name(), name)) return form7_.get();
-  return nullptr;
+  const auto found =
+      std::find_if(modal_windows_.begin(), modal_windows_.end(),
+                   [name](const ModalWindow* window) { return same_name(window->name(), name); });
+  return found == modal_windows_.end() ? nullptr : *found;
+}
+
+bool Program::has_window(std::string_view name) {
+  return std::any_of(kWindows.begin(), kWindows.end(),
+                     [name](std::string_view window) { return same_name(window, name); });
 }
 
 std::string Program::data_file(std::string_view name) const {

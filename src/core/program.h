@@ -2,10 +2,13 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
+#include "forms/modal_window.h"
 #include "forms/window.h"
 #include "platform/platform.h"
 #include "support/error_trail.h"
@@ -45,8 +48,14 @@ class Program {
   // Waits while the message loop runs.
   void PumpWait(std::chrono::milliseconds time);
 
-  // The window of that name, without regard to case; null when the program has none of it.
+  // Shows the window and serves the message loop until it is closed or the program has ended; the
+  // caller goes on then. When nobody is left who could close it, the program is stopped.
+  void show_modal(ModalWindow& window);
+
+  // The window of that name, without regard to case; null while it isn't loaded.
   [[nodiscard]] Window* find_window(std::string_view name) const;
+  // Whether the program has a window of that name, be it loaded or not.
+  [[nodiscard]] static bool has_window(std::string_view name);
   [[nodiscard]] bool started() const { return form7_ != nullptr; }
   // The main window. Requires: start has begun.
   [[nodiscard]] Form7& main_window() const { return *form7_; }
@@ -60,9 +69,15 @@ class Program {
   bool CommandLineGiven = false;  // the trimmed command line is not empty
   bool Is64Bit = false;           // a 32-bit program on a 64-bit system
   int HiddenRun = 0;              // 1 after the switches "g" and "s"
+  int page_value = 0;             // page that the suite's windows go by; 7 for the about window
+
+  // How a view gets a modal window on the screen: called before it is shown. What it returns is
+  // kept until the window has been closed, and let go before the window is.
+  std::function<std::shared_ptr<void>(Window& window)> attach_view;
 
  private:
   std::unique_ptr<Form7> form7_;
+  std::vector<ModalWindow*> modal_windows_;  // those that wait, the innermost last
   bool ended_ = false;
   bool stopped_ = false;
 };

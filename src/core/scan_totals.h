@@ -17,4 +17,10 @@ struct ScanTotals {
   double totalsize = 0;
 };
 
+// Count and bytes that one node of the tree put into the totals.
+struct NodeResult {
+  double files = 0;
+  double bytes = 0;
+};
+
 }  // namespace quillvane

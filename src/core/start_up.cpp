@@ -1,10 +1,11 @@
 // Load and close of the main window.
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <string>
 
 #include "core/form7.h"
+#include "core/suite_color.h"
+#include "drivesearch/list_files.h"
 #include "drivesearch/type_table.h"
 #include "platform/unicode_case.h"
 #include "support/file_date.h"
@@ -16,9 +17,9 @@ namespace quillvane {
 
 namespace {
 
-constexpr const char* kSuiteKey = "SOFTWARE\\Quillvane\\Tidewrack";
 constexpr const char* kSystemTempKey = "software\\Quillvane\\Tidewrack Deluxe\\option\\systemp";
 constexpr int kTwipsOfFileColumn = 5000;
+constexpr Color kShadowColor = 8421504;
 constexpr int kShadowDepth = 10;
 
 struct CodePageFont {
@@ -71,17 +72,7 @@ void Form7::close() {
 }
 
 void Form7::apply_color() {
-  const auto value =
-      platform().registry.value(Hive::kLocalMachine, kSuiteKey, "color", KeyAccess::kRead64);
-  Color color = kSuiteColor;
-  if (value && (value->type == RegistryType::kSz || value->type == RegistryType::kExpandSz)) {
-    const std::string stored = value->data.substr(0, value->data.find('\0'));
-    const std::string text(Trim(platform().environment.expand(stored)));
-    Color chosen = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), chosen);
-    const bool is_number = error == std::errc() && end == text.data() + text.size();
-    if (is_number && !text.empty()) color = chosen;
-  }
+  const Color color = suite_color(platform());
   set_back_color(color);
   for (Control* part : std::initializer_list<Control*>{&Text13, &Shape1, &Shape2, &chameleonButton9,
                                                        &chameleonButton12, &chameleonButton13,
@@ -116,13 +107,10 @@ void Form7::read_system_temp_option() {
 }
 
 void Form7::read_ignore_list() {
-  const auto content = platform().files.read_file(program.data_file("ignore.tdw"));
   std::string list;
-  if (content) {
-    for (const std::string& line : text_lines(*content)) {
-      const std::string_view entry = Trim(line);
-      if (!entry.empty()) list.append(entry).push_back('|');
-    }
+  for (const std::string& line :
+       read_list_lines(platform().files, program.data_file(kIgnoreFile))) {
+    list.append(Trim(line)).push_back('|');
   }
   ignorelist.set_text(lower_case(list));
 }

@@ -1,8 +1,11 @@
 // Commands of the main window that are no part of a scan: what the lists' pop-up shows of a file,
-// help, the suite's eraser, and the way into the tray and back.
+// help, the suite's eraser, the small windows, and the way into the tray and back.
 #include <string>
 
 #include "core/form7.h"
+#include "drivesearch/about_window.h"
+#include "drivesearch/custom_dialog.h"
+#include "drivesearch/ignore_dialog.h"
 #include "support/shell_helpers.h"
 #include "support/val.h"
 
@@ -11,6 +14,7 @@ namespace quillvane {
 namespace {
 
 constexpr int kHelpTopic = 18;
+constexpr int kAboutPage = 7;
 
 }  // namespace
 
@@ -39,6 +43,28 @@ void Form7::start_eraser() {
 
 void Form7::show_help() {
   platform().shell.show_help(program.data_file("tidehelp.chm") + ">sec", kHelpTopic);
+}
+
+void Form7::open_ignore_list() {
+  if (program.find_window("Form1") != nullptr) return;  // it is open already
+  Form1 dialog(program);
+  dialog.load();
+  program.show_modal(dialog);
+}
+
+void Form7::open_custom_list() {
+  if (program.find_window("Form2") != nullptr) return;
+  Form2 dialog(program);
+  dialog.load();
+  program.show_modal(dialog);
+}
+
+void Form7::open_about() {
+  program.page_value = kAboutPage;
+  if (program.find_window("frmabout") != nullptr) return;
+  frmabout window(program);
+  window.load();
+  program.show_modal(window);
 }
 
 void Form7::leave_tray() {

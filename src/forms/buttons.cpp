@@ -63,4 +63,9 @@ std::optional<PropertyValue> OptionButton::property(std::string_view name) const
   return Clickable::property(name);
 }
 
+std::optional<PropertyValue> Menu::property(std::string_view name) const {
+  if (same_name(name, "caption")) return caption_;
+  return Control::property(name);
+}
+
 }  // namespace quillvane

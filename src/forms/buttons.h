@@ -21,6 +21,10 @@ class Clickable : public Control {
 
   // The user's click. Does nothing while the control is disabled.
   virtual void click();
+  // Runs what stands behind the click for the program itself, be the control enabled or not.
+  void raise_click() const {
+    if (on_click) on_click();
+  }
 
   // Besides the common ones: Caption, and Text with the same content.
   [[nodiscard]] std::optional<PropertyValue> property(std::string_view name) const override;
@@ -102,12 +106,19 @@ class MenuEntry : public Clickable {
 // A popup menu. Entries stand in their order; separators are drawn before the entries named so.
 class Menu : public Control {
  public:
-  Menu(Window& window, std::string_view name, std::vector<MenuEntry*> entries)
-      : Control(window, name), entries_(std::move(entries)) {}
+  Menu(Window& window, std::string_view name, std::string_view caption,
+       std::vector<MenuEntry*> entries)
+      : Control(window, name), caption_(caption), entries_(std::move(entries)) {}
 
+  // As in a menu bar; no window shows one.
+  [[nodiscard]] const std::string& caption() const { return caption_; }
   [[nodiscard]] const std::vector<MenuEntry*>& entries() const { return entries_; }
 
+  // Besides the common ones: Caption.
+  [[nodiscard]] std::optional<PropertyValue> property(std::string_view name) const override;
+
  private:
+  std::string caption_;
   std::vector<MenuEntry*> entries_;
 };
 

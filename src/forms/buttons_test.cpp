@@ -161,10 +161,28 @@ TEST(Menu, HoldsItsEntriesInOrder) {
   Window window("Form");
   MenuEntry scan(window, "scf", "Scan");
   MenuEntry clean(window, "stc", "Start Cleaning");
-  const Menu menu(window, "sc", {&scan, &clean});
+  const Menu menu(window, "sc", "scan", {&scan, &clean});
   ASSERT_EQ(menu.entries().size(), 2U);
   EXPECT_EQ(menu.entries()[0]->caption(), "Scan");
   EXPECT_EQ(menu.entries()[1]->name(), "stc");
+}
+
+TEST(Menu, HasACaptionThatIsReadByName) {
+  Window window("Form");
+  const Menu menu(window, "b", "remove", {});
+  EXPECT_EQ(menu.property("Caption"), PropertyValue("remove"));
+  EXPECT_EQ(menu.property("Enabled"), PropertyValue(true));
+}
+
+TEST(Clickable, TheProgramsOwnClickTakesNoNoticeOfADisabledControl) {
+  Window window("Form");
+  Button button(window, "Command1");
+  button.raise_click();  // nothing stands behind it yet
+  int clicks = 0;
+  button.on_click = [&] { ++clicks; };
+  button.set_enabled(false);
+  button.raise_click();
+  EXPECT_EQ(clicks, 1);
 }
 
 }  // namespace

@@ -426,7 +426,7 @@ TEST(ListView, ATickByTheProgramIsNoAct) {
 TEST(ListView, TheRightButtonOpensTheHandlersMenu) {
   Staged staged;
   EXPECT_EQ(staged.list.right_click(), nullptr);
-  Menu menu(staged.window, "b", {});
+  Menu menu(staged.window, "b", "remove", {});
   staged.list.on_right_click = [&] { return &menu; };
   EXPECT_EQ(staged.list.right_click(), &menu);
 }

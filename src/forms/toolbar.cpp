@@ -23,7 +23,7 @@ void Toolbar::set_button_visible(int number, bool visible) {
 
 void Toolbar::click_button(int number) {
   const ToolbarButton* pressed = button(number);
-  if (pressed == nullptr || pressed->separator || !pressed->visible) return;
+  if (pressed == nullptr || pressed->separator) return;
   if (enabled() && pressed->enabled && on_button_click) on_button_click(number);
 }
 

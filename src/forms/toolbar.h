@@ -26,7 +26,8 @@ class Toolbar : public Control {
   void set_button_enabled(int number, bool enabled);
   void set_button_visible(int number, bool visible);
 
-  // The user's click. Does nothing on a disabled, hidden or missing button, or on a separator.
+  // The user's click. Does nothing on a disabled or missing button, or on a separator. A hidden
+  // button can be clicked, as any hidden control, by whoever needs no screen for it.
   void click_button(int number);
 
   // Besides the common ones: Count.

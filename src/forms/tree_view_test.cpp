@@ -133,7 +133,7 @@ TEST(TreeView, ActsOnADisabledTreeOrAMissingNodeDoNothing) {
 TEST(TreeView, TheRightButtonOpensTheHandlersMenu) {
   Staged staged;
   EXPECT_EQ(staged.tree.right_click(), nullptr);
-  Menu menu(staged.window, "sc", {});
+  Menu menu(staged.window, "sc", "scan", {});
   staged.tree.on_right_click = [&] { return &menu; };
   EXPECT_EQ(staged.tree.right_click(), &menu);
 }

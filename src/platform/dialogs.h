@@ -17,6 +17,13 @@ inline constexpr std::uint32_t kBoxSystemModal = 4096;
 // As Windows numbers them.
 enum class Answer { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
 
+// What a dialog for a file name asks.
+struct FileQuestion {
+  std::string title;
+  std::string filter;  // pairs of a text and its pattern, all parted by "|"
+  std::string file;    // the name it begins with
+};
+
 class Dialogs {
  public:
   virtual ~Dialogs() = default;
@@ -30,6 +37,9 @@ class Dialogs {
   // `root` the folder below which to choose, empty for all.
   virtual std::string browse_folder(const std::string& title, std::uint32_t flags,
                                     const std::string& root) = 0;
+
+  // Lets the user name a file to be written, which may be there already; empty when cancelled.
+  virtual std::string save_file(const FileQuestion& question) = 0;
 };
 
 }  // namespace quillvane

@@ -23,6 +23,10 @@ class MessageLoop {
   // Serves the loop until more than `time` has passed; at least once.
   virtual void wait(std::chrono::milliseconds time) = 0;
 
+  // Serves the loop until `done` holds, asleep while nothing is due: how a window waits for the
+  // user. Returns before that only where there is no user, or no more of one.
+  virtual void serve_until(const std::function<bool()>& done) = 0;
+
   // Calls `tick` each `interval` until stop_timer. A tick that is late is served once, not made up.
   virtual TimerId start_timer(std::chrono::milliseconds interval, std::function<void()> tick) = 0;
   virtual void stop_timer(TimerId timer) = 0;

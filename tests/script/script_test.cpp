@@ -6,6 +6,7 @@
 //   #:folder PATH            a folder
 //   #:file BYTES PATH        a file of that length
 //   #:line PATH | TEXT       one more line of a text file
+//   #:left PATH | TEXT       one more line of what a text file must hold when the script has ended
 // What it must print stands in NAME.expected. A script that ends early has NAME.problem with what
 // is told on standard error.
 
@@ -76,6 +77,19 @@ class StagedMachine {
 
   [[nodiscard]] std::string dir() const { return folder_.path() + "/machine"; }
 
+  // What the files hold that the script tells the end of, by path, as it is and as it shall be.
+  using Texts = std::map<std::string, std::string>;
+  [[nodiscard]] Texts left() const {
+    Texts texts;
+    for (const auto& [path, text] : shall_be_left_) {
+      std::string place = path.substr(2);
+      std::replace(place.begin(), place.end(), '\\', '/');
+      texts[path] = text_of(dir() + "/drive_c" + place);
+    }
+    return texts;
+  }
+  [[nodiscard]] const Texts& shall_be_left() const { return shall_be_left_; }
+
   std::string out;
   std::string err;
 
@@ -90,10 +104,11 @@ class StagedMachine {
       words >> bytes >> std::ws;
       std::getline(words, rest);
       put(rest, {.text = {}, .bytes = bytes, .time = {}});
-    } else if (std::getline(words, rest); what == "line") {
+    } else if (std::getline(words, rest); what == "line" || what == "left") {
       const std::size_t bar = rest.find(" | ");
       ASSERT_NE(bar, std::string::npos) << remark;
-      texts_[rest.substr(0, bar)] += rest.substr(bar + 3) + "\r\n";
+      Texts& texts = what == "line" ? texts_ : shall_be_left_;
+      texts[rest.substr(0, bar)] += rest.substr(bar + 3) + "\r\n";
     } else if (what == "machine") {
       folder_.write("machine/machine.json", rest);
     } else if (what == "folder") {
@@ -116,7 +131,8 @@ class StagedMachine {
 
   TempFolder folder_;
   std::unique_ptr<MachineHost> host_ = make_machine_host();
-  std::map<std::string, std::string> texts_;
+  Texts texts_;
+  Texts shall_be_left_;
 };
 
 class Script : public testing::TestWithParam<std::string> {};
@@ -131,6 +147,7 @@ TEST_P(Script, Behaves) {
   const std::string expected = text_of(kFolder / (GetParam() + ".expected"));
   const std::string differs = difference(expected_values(expected), printed_values(machine.out));
   EXPECT_TRUE(differs.empty()) << differs;
+  EXPECT_EQ(machine.left(), machine.shall_be_left());
   EXPECT_EQ(machine.err, problem);
   EXPECT_EQ(status, problem.empty() ? 0 : 1);
 }

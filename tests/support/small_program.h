@@ -39,7 +39,7 @@ class SmallWindow final : public Window {
         page(*this, "Frame1"),
         entry(*this, "a1", "Add"),
         hidden_entry(*this, "a2", "Edit"),
-        menu(*this, "a", {&entry, &hidden_entry}),
+        menu(*this, "a", "foption", {&entry, &hidden_entry}),
         tick(*this, "Timer1", loop, std::chrono::milliseconds(500)) {
     add_field("files", [this] { return PropertyValue(files); });
   }
@@ -101,16 +101,13 @@ class ScriptStage {
     std::istringstream lines(script);
     std::ostringstream out;
     ScriptRunner runner(lines, out, machine, program);
-    current = &runner;
     problem = runner.run().value_or("");
-    current = nullptr;
     return out.str();
   }
 
   TempConsoleMachine machine;
   SmallProgram program{machine.loop()};
   SmallWindow& window = program.window;
-  ScriptRunner* current = nullptr;  // while a script runs
   std::string problem;
 };
 

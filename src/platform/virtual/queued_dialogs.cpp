@@ -37,14 +37,23 @@ std::string_view answer_name(Answer answer) {
   return "";
 }
 
+std::string QueuedDialogs::next_path() {
+  if (paths_.empty()) return {};
+  std::string path = std::move(paths_.front());
+  paths_.pop_front();
+  return path;
+}
+
 std::string QueuedDialogs::browse_folder(const std::string& title, std::uint32_t flags,
                                          const std::string& /*root*/) {
-  std::string path;
-  if (!paths_.empty()) {
-    path = std::move(paths_.front());
-    paths_.pop_front();
-  }
+  std::string path = next_path();
   boxes_.push_back({"folder", title, "", flags, path});
+  return path;
+}
+
+std::string QueuedDialogs::save_file(const FileQuestion& question) {
+  std::string path = next_path();
+  boxes_.push_back({"save", "", question.title, 0, path, question.file, question.filter});
   return path;
 }
 

@@ -16,11 +16,13 @@ namespace quillvane {
 
 // A box that came up. Texts, so that dialogs which are answered by a path or an input fit in.
 struct ShownBox {
-  std::string kind;  // "message", "question" or "folder"
+  std::string kind;  // "message", "question", "folder" or "save"
   std::string text;
   std::string title;
   std::uint32_t style = 0;
-  std::string answer;  // "ok", "cancel", "yes" or "no"; of a dialog the path chosen
+  std::string answer;       // "ok", "cancel", "yes" or "no"; of a dialog the path chosen
+  std::string file = {};    // of a file dialog: the name it began with ...
+  std::string filter = {};  // ... and what it lets through
 
   friend bool operator==(const ShownBox&, const ShownBox&) = default;
 };
@@ -40,6 +42,7 @@ class QueuedDialogs final : public Dialogs {
   // With no path queued it is cancelled.
   std::string browse_folder(const std::string& title, std::uint32_t flags,
                             const std::string& root) override;
+  std::string save_file(const FileQuestion& question) override;
 
   // Answers to file and folder dialogs and to input boxes; an empty path cancels.
   void answer_path(std::string path) { paths_.push_back(std::move(path)); }
@@ -49,6 +52,8 @@ class QueuedDialogs final : public Dialogs {
   [[nodiscard]] std::vector<ShownBox> take_boxes() { return std::exchange(boxes_, {}); }
 
  private:
+  [[nodiscard]] std::string next_path();
+
   EffectLog& effects_;
   std::deque<Answer> answers_;
   std::deque<std::string> paths_;

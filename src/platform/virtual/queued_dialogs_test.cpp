@@ -68,6 +68,22 @@ TEST(QueuedDialogs, EachBoxIsAnEffect) {
                                                  {"box", {{"text", std::string("Sure?")}}}}));
 }
 
+TEST(QueuedDialogs, FolderAndSaveDialogsTakeTheQueuedPathsInTheirOrder) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  dialogs.answer_path("C:\\Folder");
+  dialogs.answer_path("C:\\a.txt");
+
+  EXPECT_EQ(dialogs.browse_folder("Select a folder:", 1, ""), "C:\\Folder");
+  EXPECT_EQ(dialogs.save_file({"Save As", "all|*.*", "*.txt"}), "C:\\a.txt");
+  EXPECT_EQ(dialogs.save_file({"Save As", "all|*.*", "*.txt"}), "");
+
+  EXPECT_EQ(dialogs.take_boxes(),
+            (std::vector<ShownBox>{{"folder", "Select a folder:", "", 1, "C:\\Folder"},
+                                   {"save", "", "Save As", 0, "C:\\a.txt", "*.txt", "all|*.*"},
+                                   {"save", "", "Save As", 0, "", "*.txt", "all|*.*"}}));
+}
+
 TEST(QueuedDialogs, AnswersHaveNames) {
   EXPECT_EQ(answer_name(Answer::kOk), "ok");
   EXPECT_EQ(answer_name(Answer::kCancel), "cancel");

@@ -37,6 +37,10 @@ class VirtualLoop final : public MessageLoop {
   TimerId start_timer(std::chrono::milliseconds interval, std::function<void()> tick) override;
   void stop_timer(TimerId timer) override;
 
+  // Lets the user act; without one it returns at once.
+  void serve_until(const std::function<bool()>& done) override {
+    if (user_) user_(done);
+  }
   [[nodiscard]] FileTime local_now() const override {
     return {local_start_.ticks + now_ms_ * kTicksPerMillisecond};
   }
@@ -50,6 +54,12 @@ class VirtualLoop final : public MessageLoop {
   // Called at each serving of the loop, after the timers; servings inside the hook call it too.
   // Requires: not changed while it runs.
   void set_served_hook(std::function<void()> hook) { served_hook_ = std::move(hook); }
+  // What stands for the user while a window waits for one. It acts until `done` holds or it has
+  // nothing more to do, and may be called again inside one of its acts. Requires: not changed while
+  // it runs.
+  void set_user(std::function<void(const std::function<bool()>& done)> user) {
+    user_ = std::move(user);
+  }
 
  private:
   static constexpr std::int64_t kTicksPerMillisecond = 10'000;
@@ -72,6 +82,7 @@ class VirtualLoop final : public MessageLoop {
   std::vector<RunningTimer> timers_;
   TimerId last_id_ = 0;
   std::function<void()> served_hook_;
+  std::function<void(const std::function<bool()>& done)> user_;
 };
 
 }  // namespace quillvane

@@ -202,6 +202,23 @@ TEST(VirtualLoop, TheHookComesAfterTheTimers) {
   EXPECT_EQ(order, "timer hook ");
 }
 
+TEST(VirtualLoop, WaitingForTheUserLetsHimActUntilItIsDone) {
+  VirtualLoop loop(kStart);
+  int acts = 0;
+  loop.set_user([&](const std::function<bool()>& done) {
+    while (!done()) ++acts;
+  });
+  loop.serve_until([&] { return acts == 3; });
+  EXPECT_EQ(acts, 3);
+  EXPECT_EQ(loop.local_now(), kStart);
+}
+
+TEST(VirtualLoop, WaitingForAUserWhoIsNotThereEndsAtOnce) {
+  VirtualLoop loop(kStart);
+  loop.serve_until([] { return false; });
+  EXPECT_EQ(loop.local_now(), kStart);
+}
+
 TEST(VirtualLoop, SettingTheClockLeavesTimersAlone) {
   VirtualLoop loop(kStart);
   int ticks = 0;

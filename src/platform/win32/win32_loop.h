@@ -26,11 +26,10 @@ class Win32Loop final : public MessageLoop {
   void wait(std::chrono::milliseconds time) override;
   TimerId start_timer(std::chrono::milliseconds interval, std::function<void()> tick) override;
   void stop_timer(TimerId timer) override;
+  // `done` is asked after each serving.
+  void serve_until(const std::function<bool()>& done) override;
   [[nodiscard]] FileTime local_now() const override;
 
-  // Serves the loop until `done` holds, asleep while nothing is due. `done` is asked after each
-  // serving.
-  void serve_until(const std::function<bool()>& done);
   // `take` sees each message before it is dispatched; what it takes is not. For windows whose keys
   // go through their controls. An empty one takes nothing.
   void set_message_filter(std::function<bool(MSG&)> take) { take_ = std::move(take); }

@@ -29,6 +29,9 @@ class ConsoleDialogs final : public Dialogs {
     return {};
   }
 
+  // Nor for a file.
+  std::string save_file(const FileQuestion& /*question*/) override { return {}; }
+
  private:
   [[nodiscard]] Answer ask(const std::string& text);
 

@@ -1,7 +1,5 @@
 #include "view/console/program_driver.h"
 
-#include "platform/unicode_case.h"
-
 namespace quillvane {
 
 void ProgramDriver::start(const std::string& command_line) {
@@ -15,6 +13,6 @@ Window* ProgramDriver::find_window(std::string_view name) const {
   return program_.find_window(name);
 }
 
-bool ProgramDriver::has_window(std::string_view name) const { return same_name(name, "Form7"); }
+bool ProgramDriver::has_window(std::string_view name) const { return Program::has_window(name); }
 
 }  // namespace quillvane

@@ -2,9 +2,11 @@
 
 #include <windows.h>
 
+#include <commdlg.h>
 #include <objbase.h>
 #include <shlobj.h>
 
+#include <algorithm>
 #include <memory>
 
 #include "platform/win32/wide_text.h"
@@ -16,6 +18,8 @@ namespace {
 struct FreeIdList {
   void operator()(ITEMIDLIST* list) const { CoTaskMemFree(list); }
 };
+constexpr DWORD kLongestPath = 1024;
+
 using IdListOwner = std::unique_ptr<ITEMIDLIST, FreeIdList>;
 
 IdListOwner id_list_of(const std::string& folder) {
@@ -51,6 +55,25 @@ std::string Win32Dialogs::browse_folder(const std::string& title, std::uint32_t 
   const IdListOwner chosen(SHBrowseForFolderW(&request));
   if (chosen == nullptr || SHGetPathFromIDListW(chosen.get(), path) == FALSE) return {};
   return narrow(path);
+}
+
+std::string Win32Dialogs::save_file(const FileQuestion& question) {
+  const std::wstring title = widen(question.title);
+  std::wstring filter = widen(question.filter) + L'|';
+  std::replace(filter.begin(), filter.end(), L'|', L'\0');  // as Windows parts and ends them
+  wchar_t path[kLongestPath] = L"";
+  const std::wstring file = widen(question.file);
+  file.copy(path, kLongestPath - 1);
+  OPENFILENAMEW request{};
+  request.lStructSize = sizeof(request);
+  request.hwndOwner = GetActiveWindow();
+  request.lpstrFilter = filter.c_str();
+  request.lpstrFile = path;
+  request.nMaxFile = kLongestPath;
+  request.lpstrTitle = title.c_str();
+  // The working folder of the program stays what it is.
+  request.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_OVERWRITEPROMPT;
+  return GetSaveFileNameW(&request) != FALSE ? narrow(path) : std::string();
 }
 
 }  // namespace quillvane

@@ -11,6 +11,7 @@ class Win32Dialogs final : public Dialogs {
                      std::uint32_t style) override;
   std::string browse_folder(const std::string& title, std::uint32_t flags,
                             const std::string& root) override;
+  std::string save_file(const FileQuestion& question) override;
 };
 
 }  // namespace quillvane

@@ -49,11 +49,16 @@ Json node_json(const TreeNode& node) {
 }
 
 Json box_json(const ShownBox& box) {
-  return {{"kind", box.kind},
-          {"text", box.text},
-          {"title", box.title},
-          {"style", box.style},
-          {"answer", box.answer}};
+  Json json = {{"kind", box.kind},
+               {"text", box.text},
+               {"title", box.title},
+               {"style", box.style},
+               {"answer", box.answer}};
+  if (box.kind == "save") {
+    json["file"] = box.file;
+    json["filter"] = box.filter;
+  }
+  return json;
 }
 
 Json effect_json(const Effect& effect) {

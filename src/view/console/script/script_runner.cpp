@@ -14,9 +14,13 @@ ScriptRunner::ScriptRunner(std::istream& script, std::ostream& out, ConsoleMachi
       output_(out),
       context_{machine, program, output_, triggers_} {
   loop_.set_served_hook([this] { served(); });
+  loop_.set_user([this](const std::function<bool()>& done) { run_until(done); });
 }
 
-ScriptRunner::~ScriptRunner() { loop_.set_served_hook(nullptr); }
+ScriptRunner::~ScriptRunner() {
+  loop_.set_served_hook(nullptr);
+  loop_.set_user(nullptr);
+}
 
 std::optional<std::string> ScriptRunner::run() {
   run_until([] { return false; });

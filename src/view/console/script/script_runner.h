@@ -14,7 +14,7 @@ namespace quillvane {
 
 class ScriptRunner {
  public:
-  // All of these must outlive it. The runner takes the loop's served hook for itself.
+  // All of these must outlive it. The runner takes the loop's served hook and its user for itself.
   ScriptRunner(std::istream& script, std::ostream& out, ConsoleMachine& machine,
                DrivenProgram& program);
   ~ScriptRunner();
@@ -25,11 +25,10 @@ class ScriptRunner {
   // it came to its end.
   [[nodiscard]] std::optional<std::string> run();
 
-  // Runs the lines that follow until `done` holds, the script ends or a line fails: what a window
-  // does that keeps the others waiting. May be called inside a line.
-  void run_until(const std::function<bool()>& done);
-
  private:
+  // Runs the lines that follow until `done` holds, the script ends or a line fails. Called inside a
+  // line when a window waits for the user.
+  void run_until(const std::function<bool()>& done);
   void execute(int line, const ScriptWords& words);
   // Looks a trigger's condition up; a name in it that isn't there ends the script.
   bool holds(const ScriptTrigger& trigger);

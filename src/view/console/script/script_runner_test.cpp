@@ -191,7 +191,7 @@ TEST(ScriptRunner, AWaitingWindowRunsTheLinesThatFollow) {
   ScriptStage stage;
   bool closed = false;
   stage.window.go.on_click = [&] {
-    stage.current->run_until([&] { return closed; });
+    stage.machine.loop().serve_until([&] { return closed; });
     stage.window.input.set_text("went on");
   };
   stage.window.entry.on_click = [&] { closed = true; };
@@ -206,9 +206,49 @@ TEST(ScriptRunner, AWaitingWindowRunsTheLinesThatFollow) {
   EXPECT_EQ(out, "\"\"\n\"went on\"\n");
 }
 
+TEST(ScriptRunner, AWaitingWindowInsideAnotherIsFinishedFirst) {
+  ScriptStage stage;
+  bool inner_closed = false;
+  bool outer_closed = false;
+  stage.window.go.on_click = [&] {
+    stage.machine.loop().serve_until([&] { return outer_closed; });
+    stage.window.input.set_text(stage.window.input.text() + "outer");
+  };
+  stage.window.info.on_click = [&] {
+    stage.machine.loop().serve_until([&] { return inner_closed; });
+    stage.window.input.set_text(stage.window.input.text() + "inner ");
+  };
+  stage.window.entry.on_click = [&] { outer_closed = true; };
+  stage.window.hidden_entry.on_click = [&] { inner_closed = true; };
+
+  const std::string out = stage.run(
+      "start\n"
+      "click Form7.cmd_go\n"
+      "click Form7.Label1(1)\n"
+      "click Form7.a1\n"
+      "echo the inner one waits on\n"
+      "click Form7.a2\n"
+      "get Form7.Text1.Text\n");
+
+  EXPECT_EQ(out, "\"the inner one waits on\"\n\"inner outer\"\n");
+}
+
+TEST(ScriptRunner, TheEndOfTheScriptEndsTheWait) {
+  ScriptStage stage;
+  int waits_ended = 0;
+  stage.window.go.on_click = [&] {
+    stage.machine.loop().serve_until([] { return false; });
+    ++waits_ended;
+  };
+
+  EXPECT_EQ(stage.run("start\nclick Form7.cmd_go\nclick Form7.cmd_go\necho last\n"), "\"last\"\n");
+
+  EXPECT_EQ(waits_ended, 2);
+}
+
 TEST(ScriptRunner, AnErrorInsideAWaitingWindowEndsTheWholeScript) {
   ScriptStage stage;
-  stage.window.go.on_click = [&] { stage.current->run_until([] { return false; }); };
+  stage.window.go.on_click = [&] { stage.machine.loop().serve_until([] { return false; }); };
 
   EXPECT_EQ(stage.run("start\nclick Form7.cmd_go\nnonsense\necho after\n"), "");
   EXPECT_EQ(stage.problem, "line 3: nonsense: there is no such command");

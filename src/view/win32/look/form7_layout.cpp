@@ -173,7 +173,9 @@ constexpr WindowLayout kLayout = {
 
 constexpr std::string_view kUndrawn[] = {
     // Variables and mail boxes; Text3 has no text of its own.
+    "Text1",
     "Text3",
+    "Text5",
     "Text8",
     "Text9",
     "Text14",
@@ -185,7 +187,18 @@ constexpr std::string_view kUndrawn[] = {
     "Shape2",
     // Buttons that only hold a run.
     "orvbutton2",
+    "orvbutton3",
+    "Command9",
     "Command14",
+    // Ways to the pages of the drive search, and the commands of its file types.
+    "chameleonButton6",
+    "orvbutton8",
+    "chameleonButton1",
+    "command111",
+    "command811",
+    "command911",
+    "orvbutton611",
+    "orvbutton711",
     // The backup's bar, the year and the way to the shortcut window: on pages to come.
     "Bar2",
     "Label12(0)",
@@ -219,6 +232,12 @@ constexpr std::string_view kUndrawn[] = {
     "b7",
     "b8",
     "b",
+    "a1",
+    "a2",
+    "a3",
+    "a5",
+    "a6",
+    "a",
 };
 
 }  // namespace

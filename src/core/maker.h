@@ -1,0 +1,11 @@
+// How to reach the program's maker.
+#pragma once
+
+#include <string_view>
+
+namespace quillvane {
+
+inline constexpr std::string_view kWebAddress = "https://www.quillvane.example";
+inline constexpr std::string_view kMailAddress = "support@quillvane.example";
+
+}  // namespace quillvane

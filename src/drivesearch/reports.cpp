@@ -1,0 +1,85 @@
+// Reports of what was found: the full names of view1 as a text file and as a page of HTML.
+#include <string>
+
+#include "core/form7.h"
+#include "core/maker.h"
+#include "support/date_text.h"
+#include "support/file_date.h"
+#include "support/text.h"
+
+namespace quillvane {
+
+namespace {
+
+constexpr const char* kLineEnd = "\r\n";
+
+std::string rule(std::size_t hyphens) { return std::string(hyphens, '-'); }
+
+std::string addresses() { return std::string(kWebAddress) + " || " + std::string(kMailAddress); }
+
+DateTime now(const Platform& platform) {
+  return calendar_date(platform.loop.local_now()).value_or(DateTime{});
+}
+
+// The size is that of the category scan, also after a drive search. Meant so.
+std::string text_report(const Form7& form) {
+  const DateTime time = now(form.platform());
+  std::string report = "Report Time " + date_text(time, "dd,mm,yyyy") + "   " +
+                       time_text(time, "hh:mm:ss") + kLineEnd;
+  report += "Total files found = " + std::to_string(form.view1.count()) +
+            " Total files size = " + form.size_text(form.totals.winsize + form.totals.brsize) +
+            kLineEnd;
+  report += rule(59) + kLineEnd;
+  report += std::string("\r") + kLineEnd;  // a line that holds a CR of its own; meant so
+  for (int row = 1; row <= form.view1.count(); ++row) {
+    report.append(Trim(form.view1.text(row))).append(kLineEnd);
+  }
+  report += rule(59) + kLineEnd;
+  report += std::string("This Report Made by Tidewrack") + kLineEnd;
+  report += addresses() + kLineEnd;
+  return report;
+}
+
+// A row's link is its path as it stands, without quotes, and its heading is closed by "<h/5>"; a
+// "</font>" that nothing opened closes the list; the time begins with its seconds. All meant so.
+std::string html_report(const Form7& form) {
+  const DateTime time = now(form.platform());
+  std::string report = std::string("<body>") + kLineEnd;
+  report += "<h4><font face = verdana > Report For Drive  " + std::string(Trim(form.Text1.text())) +
+            "  At        " + date_text(time, " dd /mm/yyyy ") + "             " +
+            time_text(time, " ss: mm: hh ") + "</font></h4>" + kLineEnd;
+  report += std::string("<br>") + kLineEnd;
+  report += "<h4>Total files found = " + std::to_string(form.view1.count()) +
+            " Total files size = " + form.foundsizetext + "</h4>" + kLineEnd;
+  report += "<h5>" + rule(59) + "</h5>" + kLineEnd;
+  for (int row = 1; row <= form.view1.count(); ++row) {
+    const std::string path(Trim(form.view1.text(row)));
+    report +=
+        "<h5><font color=blue size=2><a href= " + path + ">" + path + "</a></font><h/5>" + kLineEnd;
+  }
+  report += "<h5>" + rule(57) + "</font></h5>" + kLineEnd;
+  report += std::string("<h5> Report Made by Tidewrack Deluxe </h5>") + kLineEnd;
+  report += "<h5>" + addresses() + "</h5>" + kLineEnd;
+  return report;
+}
+
+}  // namespace
+
+void Form7::write_text_report() {
+  if (view1.count() == 0) return;
+  Text5.set_text("");
+  const std::string file =
+      platform().dialogs.save_file({"Save As", "*.txt (text files)|*.txt", "*.txt"});
+  if (Trim(file).empty()) return;
+  Text5.set_text(file);
+  // Without a word when it cannot be written; what lies there is shown then.
+  static_cast<void>(platform().files.write_file(file, text_report(*this)));
+  platform().shell.open({"", file, {}, kShowNormal});
+}
+
+void Form7::write_html_report() {
+  if (Trim(Text5.text()).empty()) return;
+  static_cast<void>(platform().files.write_file(Text5.text(), html_report(*this)));
+}
+
+}  // namespace quillvane

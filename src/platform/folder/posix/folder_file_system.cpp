@@ -247,7 +247,9 @@ bool FolderFileSystem::make_folder(const std::string& path) {
 void FolderFileSystem::remove_contents(const std::string& folder) {
   forget_seen();
   const auto place = paths_.find(folder);
-  if (place && is_folder(place->status)) remove_folder_contents(*place);
+  if (!place || !is_folder(place->status)) return;
+  remove_folder_contents(*place,
+                         [this](const HostIdentity& file) { return paths_.is_in_use(file); });
 }
 
 void FolderFileSystem::expect_removals(const std::vector<std::string>& paths) {

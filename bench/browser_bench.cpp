@@ -82,7 +82,7 @@ class Running {
     if (machine_ == nullptr) return;
     dialogs_ = std::make_unique<QueuedDialogs>(machine_->effects());
     files_ = std::make_unique<FolderFileSystem>(machine_->state(), threads);
-    program_.emplace(machine_->platform(*dialogs_).with_files(*files_));
+    program_.emplace(machine_->platform(*dialogs_).with({.files = files_.get()}));
     program_->start("");
   }
 

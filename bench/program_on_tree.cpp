@@ -31,7 +31,7 @@ ProgramOnTree::ProgramOnTree(const std::string& folder, std::uint32_t threads) {
   machine_ = std::get<std::unique_ptr<FolderMachine>>(std::move(opened));
   dialogs_ = std::make_unique<QueuedDialogs>(machine_->effects());
   files_ = std::make_unique<FolderFileSystem>(machine_->state(), threads);
-  program_.emplace(machine_->platform(*dialogs_).with_files(*files_));
+  program_.emplace(machine_->platform(*dialogs_).with({.files = files_.get()}));
   program_->start("");
 }
 

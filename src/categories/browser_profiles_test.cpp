@@ -38,7 +38,7 @@ TEST(BrowserProfiles, WithoutTheKeyNoFolderIsTouched) {
     ScanFixture fixture;
     fixture.machine.add_file(place_of(browser) + "\\Default\\Cache\\data_0", 10);
     WatchedFiles watched(fixture.machine.machine().files());
-    fixture.program.emplace(fixture.machine.platform().with_files(watched));
+    fixture.program.emplace(fixture.machine.platform().with({.files = &watched}));
     fixture.program->start("");
     Form7& form = fixture.program->main_window();
     const std::string caption = form.Tv1.node(browser.node).text;

@@ -26,7 +26,7 @@ struct WholeFolder : ScanFixture {
         machine.add_file(base + row.suffix + below + "\\History-journal.tmp", 10);
       }
     }
-    program.emplace(machine.platform().with_files(watched));
+    program.emplace(machine.platform().with({.files = &watched}));
     program->start("");
     watched.walked.clear();
     watched.trees.clear();
@@ -64,7 +64,7 @@ TEST(BrowserReading, OperaReadsItsFolderAndTheOlderCacheOnce) {
                              "Service Worker\\Origins", "file System"}) {
     fixture.machine.add_file(stable + "\\" + folder + "\\a", 10);
   }
-  fixture.program.emplace(fixture.machine.platform().with_files(watched));
+  fixture.program.emplace(fixture.machine.platform().with({.files = &watched}));
   fixture.program->start("");
 
   operacache(fixture.program->main_window());
@@ -105,7 +105,7 @@ TEST(BrowserReading, UcBrowserAndFirefoxReadTheirFoldersOnceToo) {
     ScanFixture fixture;
     WatchedFiles watched(fixture.machine.machine().files());
     for (const std::string& file : each.files) fixture.machine.add_file(each.folder + file, 10);
-    fixture.program.emplace(fixture.machine.platform().with_files(watched));
+    fixture.program.emplace(fixture.machine.platform().with({.files = &watched}));
     fixture.program->start("");
     each.routine(fixture.program->main_window());
     EXPECT_EQ(std::count(watched.walked.begin(), watched.walked.end(), each.folder), 1);

@@ -160,7 +160,8 @@ void scan_row(Form7& form, KeptListing& listing, const Row& row, const std::stri
 void scan_browser(Form7& form, const Browser& browser) {
   begin_category(form, browser.node);
   form.List1.clear();
-  fEnumKey(form, "HKCU", browser.profiles_key);
+  std::string joined_names;  // the list box has them one by one
+  fEnumKey(form, "HKCU", browser.profiles_key, joined_names);
   const std::string user_data = form.platform().environment.get("USERPROFILE") + browser.user_data;
   const std::vector<Row> rows = all_rows(browser);
   KeptListing listing(form, user_data, patterns_of(rows));

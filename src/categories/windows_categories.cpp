@@ -85,9 +85,8 @@ constexpr Place kWindowsHistory[] = {
 // The size of the memory dump file; nothing when there is none.
 std::optional<std::uint64_t> dump_file_size(const Form7& form) {
   const Platform& platform = form.platform();
-  const auto value =
-      GetRegistryValue(platform.registry, Hive::kLocalMachine,
-                       "SYSTEM\\CurrentControlSet\\Control\\CrashControl", "DumpFile");
+  auto value = GetRegistryValue(platform.registry, Hive::kLocalMachine,
+                                "SYSTEM\\CurrentControlSet\\Control\\CrashControl", "DumpFile");
   if (!value || !std::holds_alternative<std::string>(*value)) return std::nullopt;
   const std::string path =
       GetPath(platform.environment, form.program.Is64Bit, std::get<std::string>(*value));

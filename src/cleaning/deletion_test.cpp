@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "cleaning/permission.h"
+#include "platform/forwarding_file_system.h"
 #include "tests/support/temp_machine.h"
 
 namespace quillvane {
@@ -43,6 +44,29 @@ TEST_F(DeletionTest, AFileInUseStays) {
 TEST_F(DeletionTest, AnEmptyFileIsThereToo) {
   machine.add_file("C:\\Temp\\empty.tmp", 0);
   EXPECT_TRUE(StillThere(platform, "C:\\Temp\\empty.tmp"));
+}
+
+// A machine whose files nobody can open.
+class ClosedFiles final : public ForwardingFileSystem {
+ public:
+  using ForwardingFileSystem::ForwardingFileSystem;
+  [[nodiscard]] bool can_open(const std::string&) const override { return false; }
+};
+
+TEST_F(DeletionTest, AnEmptyFileThatCannotBeOpenedIsSeenByItsNameUnlessItIsHidden) {
+  ClosedFiles closed(platform.files);
+  const Platform refusing = platform.with({.files = &closed});
+  const std::string path = "C:\\Temp\\empty.tmp";
+  machine.add_file(path, 0);
+  EXPECT_TRUE(StillThere(refusing, path));
+  for (const std::uint32_t unseen : {kAttributeHidden, kAttributeSystem}) {
+    ASSERT_TRUE(platform.files.set_attributes(path, unseen));
+    EXPECT_FALSE(StillThere(refusing, path));
+    EXPECT_TRUE(StillThere(platform, path));
+  }
+  machine.add_file("C:\\Temp\\full.tmp", 1);
+  ASSERT_TRUE(platform.files.set_attributes("C:\\Temp\\full.tmp", kAttributeHidden));
+  EXPECT_TRUE(StillThere(refusing, "C:\\Temp\\full.tmp"));
 }
 
 TEST_F(DeletionTest, AFolderIsNoFileThatIsThere) {

@@ -65,5 +65,55 @@ TEST(ThumbnailPolicy, MakesNoKey) {
             RegistryContent(std::uint32_t{1}));
 }
 
+// Writing below HKEY_LOCAL_MACHINE is refused, as to a user without an administrator's rights.
+class UsersRegistry final : public Registry {
+ public:
+  explicit UsersRegistry(Registry& next) : next_(next) {}
+  [[nodiscard]] std::optional<std::vector<std::string>> sub_keys(Hive hive, const std::string& key,
+                                                                 KeyAccess access) const override {
+    return next_.sub_keys(hive, key, access);
+  }
+  [[nodiscard]] std::optional<std::vector<NamedRegistryValue>> values(
+      Hive hive, const std::string& key, KeyAccess access) const override {
+    return next_.values(hive, key, access);
+  }
+  [[nodiscard]] std::optional<RegistryValue> value(Hive hive, const std::string& key,
+                                                   const std::string& name,
+                                                   KeyAccess access) const override {
+    return next_.value(hive, key, name, access);
+  }
+  [[nodiscard]] bool create_key(Hive hive, const std::string& key) override {
+    return hive != Hive::kLocalMachine && next_.create_key(hive, key);
+  }
+  [[nodiscard]] bool set_value(Hive hive, const std::string& key, const std::string& name,
+                               const RegistryValue& value) override {
+    return hive != Hive::kLocalMachine && next_.set_value(hive, key, name, value);
+  }
+
+ private:
+  Registry& next_;
+};
+
+TEST(ThumbnailPolicy, ValuesThatAreRefusedDoNotStopTheOthers) {
+  TempMachine machine;
+  Registry& registry = machine.platform().registry;
+  for (const Policy& policy : kAll) machine.add_registry_key(policy.hive, policy.key);
+  machine.set_registry_number(Hive::kLocalMachine, kPolicies, "NoThumbnailCache", 7);
+
+  UsersRegistry users(registry);
+  disablethumbcache(users);
+
+  for (const Policy& policy : kAll) {
+    const auto value = GetRegistryValue(registry, policy.hive, policy.key, policy.name);
+    if (policy.hive == Hive::kCurrentUser) {
+      EXPECT_EQ(value, RegistryContent(std::uint32_t{1})) << policy.key << " " << policy.name;
+    } else if (policy.key == kPolicies && policy.name == std::string("NoThumbnailCache")) {
+      EXPECT_EQ(value, RegistryContent(std::uint32_t{7}));
+    } else {
+      EXPECT_EQ(value, std::nullopt) << policy.key << " " << policy.name;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -1,6 +1,5 @@
 // The drive list View2, and the memory of the drives that are ticked in it.
-#include <array>
-#include <cstdio>
+#include <cstdint>
 #include <optional>
 #include <string>
 
@@ -15,7 +14,7 @@ namespace quillvane {
 namespace {
 
 constexpr const char* kTimerKey = "software\\Quillvane\\Tidewrack Deluxe\\timer";
-constexpr double kBytesOfMegabyte = 1048576;
+constexpr std::uint64_t kBytesOfMegabyte = 1048576;
 constexpr int kLettersOfDrives = 26;  // more can never have been stored
 
 // What a row begins with, for the kinds of drives that have one; nothing for a CD-ROM. A kind that
@@ -36,11 +35,14 @@ std::optional<std::string_view> row_beginning(DriveType type, std::string_view b
   }
 }
 
+// Two decimals; what lies in the middle is rounded up.
 std::string megabytes(std::uint64_t bytes, const std::string& decimal_separator) {
-  std::array<char, 64> buffer{};
-  std::snprintf(buffer.data(), buffer.size(), "%.2f",
-                static_cast<double>(bytes) / kBytesOfMegabyte);
-  return replace_all(buffer.data(), ".", decimal_separator) + " MB";
+  const std::uint64_t rest = bytes % kBytesOfMegabyte;
+  const std::uint64_t hundredths =
+      bytes / kBytesOfMegabyte * 100 + (rest * 100 + kBytesOfMegabyte / 2) / kBytesOfMegabyte;
+  const std::string decimals = std::to_string(hundredths % 100);
+  return std::to_string(hundredths / 100) + decimal_separator + (decimals.size() < 2 ? "0" : "") +
+         decimals + " MB";
 }
 
 std::string folded(std::string_view text) { return lower_case(Trim(text)); }

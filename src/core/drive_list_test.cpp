@@ -50,6 +50,17 @@ TEST(DriveList, ShowsTotalAndFreeSpaceInMegabytes) {
   EXPECT_EQ(list.sub_item(4, 2), "1.00 MB");
 }
 
+// 0.125 and 0.375: what lies in the middle goes up, to whichever digit. Just below it goes down.
+TEST(DriveList, RoundsTheMiddleBetweenTwoHundredthsUp) {
+  ScanFixture fixture(R"({"drives": [{"letter": "C", "total": 393216, "free": 131072},
+                          {"letter": "D", "total": 1043334, "free": 131071}]})");
+  const ListView& list = fixture.start().View2;
+  EXPECT_EQ(list.sub_item(1, 1), "0.38 MB");
+  EXPECT_EQ(list.sub_item(1, 2), "0.13 MB");
+  EXPECT_EQ(list.sub_item(2, 1), "1.00 MB");  // 0.9950008
+  EXPECT_EQ(list.sub_item(2, 2), "0.12 MB");
+}
+
 TEST(DriveList, ShowsNoSpaceForRemovableMedia) {
   FourDrives fixture;
   const ListView& list = fixture.start().View2;

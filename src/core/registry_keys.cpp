@@ -14,13 +14,15 @@ constexpr int kNotRead = 2;
 
 }  // namespace
 
-int fEnumKey(Form7& form, const std::string& hive, const std::string& sub_key) {
+int fEnumKey(Form7& form, const std::string& hive, const std::string& sub_key, std::string& names) {
   const HiveOrFile source = fHiveFromName(form.platform().files, hive);
   if (!std::holds_alternative<Hive>(source)) return kNotRead;
-  const auto names = form.platform().registry.sub_keys(std::get<Hive>(source), sub_key);
-  if (!names) return kNotRead;
-  for (const std::string& name : *names) {
+  const auto sub_keys =
+      form.platform().registry.sub_keys(std::get<Hive>(source), sub_key, KeyAccess::kAll64);
+  if (!sub_keys) return kNotRead;
+  for (const std::string& name : *sub_keys) {
     const std::string_view trimmed = Trim(name);
+    names += trimmed;
     if (!trimmed.empty()) form.List1.add(trimmed);
     form.program.do_events();
   }

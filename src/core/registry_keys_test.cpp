@@ -16,18 +16,26 @@ struct TwoKeys : ScanFixture {
     start();
   }
   Form7& form() { return program->main_window(); }
+  std::string names;
 };
 
 TEST(FEnumKey, AddsTheNamesOfTheSubKeysToTheWorkingList) {
   TwoKeys fixture;
-  EXPECT_EQ(fEnumKey(fixture.form(), "HKCU", kKey), 0);
+  EXPECT_EQ(fEnumKey(fixture.form(), "HKCU", kKey, fixture.names), 0);
   EXPECT_EQ(fixture.form().List1.items(), (Texts{"First", "second"}));
+}
+
+TEST(FEnumKey, AppendsTheNamesToTheCallersText) {
+  TwoKeys fixture;
+  fixture.names = "before;";
+  EXPECT_EQ(fEnumKey(fixture.form(), "HKCU", kKey, fixture.names), 0);
+  EXPECT_EQ(fixture.names, "before;Firstsecond");
 }
 
 TEST(FEnumKey, LeavesTheListForItsCallerToClear) {
   TwoKeys fixture;
   fixture.form().List1.add("before");
-  EXPECT_EQ(fEnumKey(fixture.form(), "hkcu", kKey), 0);
+  EXPECT_EQ(fEnumKey(fixture.form(), "hkcu", kKey, fixture.names), 0);
   EXPECT_EQ(fixture.form().List1.items(), (Texts{"before", "First", "second"}));
 }
 
@@ -35,16 +43,17 @@ TEST(FEnumKey, ServesTheMessageLoopOncePerName) {
   TwoKeys fixture;
   int served = 0;
   fixture.machine.loop().set_served_hook([&] { ++served; });
-  EXPECT_EQ(fEnumKey(fixture.form(), "HKCU", kKey), 0);
+  EXPECT_EQ(fEnumKey(fixture.form(), "HKCU", kKey, fixture.names), 0);
   EXPECT_EQ(served, 2);
 }
 
 TEST(FEnumKey, TellsThatTheKeyWasNotRead) {
   TwoKeys fixture;
-  EXPECT_NE(fEnumKey(fixture.form(), "HKCU", "Software\\Missing"), 0);
-  EXPECT_NE(fEnumKey(fixture.form(), "HKLM", kKey), 0);
-  EXPECT_NE(fEnumKey(fixture.form(), "HKXX", kKey), 0);
+  EXPECT_NE(fEnumKey(fixture.form(), "HKCU", "Software\\Missing", fixture.names), 0);
+  EXPECT_NE(fEnumKey(fixture.form(), "HKLM", kKey, fixture.names), 0);
+  EXPECT_NE(fEnumKey(fixture.form(), "HKXX", kKey, fixture.names), 0);
   EXPECT_EQ(fixture.form().List1.items(), Texts{});
+  EXPECT_EQ(fixture.names, "");
 }
 
 }  // namespace

@@ -41,11 +41,33 @@ void Files::Add(const ListedFolder& folder, std::uint32_t file) {
   ++count_;
 }
 
-const FolderRun& Files::run_of(std::size_t index) const {
+std::optional<File> FilesEnumerator::next() {
+  if (next_ >= files_.Count()) return std::nullopt;
+  return files_.Item(next_++);
+}
+
+std::size_t Files::run_of(std::size_t index) const {
   const auto next =
       std::upper_bound(runs_.begin(), runs_.end(), index,
                        [](std::size_t value, const FolderRun& run) { return value < run.begin; });
-  return *std::prev(next);
+  return static_cast<std::size_t>(next - runs_.begin()) - 1;
+}
+
+// The run that held the file becomes what stood before it and what stood behind it.
+void Files::Remove(std::size_t index) {
+  const std::size_t number = run_of(index);
+  const auto at = runs_.begin() + static_cast<std::ptrdiff_t>(number);
+  const FolderRun whole = *at;
+  const auto before = static_cast<std::uint32_t>(index - whole.begin);
+  const std::uint32_t behind = whole.count - before - 1;
+  std::vector<FolderRun> parts;
+  if (before > 0) parts.push_back({whole.folder, whole.first, before, whole.begin});
+  if (behind > 0) parts.push_back({whole.folder, whole.first + before + 1, behind, index + 1});
+  runs_.insert(runs_.erase(at), parts.begin(), parts.end());
+  for (std::size_t i = number; i < runs_.size(); ++i) {
+    if (runs_[i].begin > index) --runs_[i].begin;
+  }
+  --count_;
 }
 
 // Filled from its end, so that the text is made in one piece.
@@ -68,13 +90,13 @@ std::string Files::full_name_in(const ListedFolder& folder, std::string_view nam
 std::string Files::path_of(const ListedFolder& folder) const { return full_name_in(folder, ""); }
 
 std::string Files::full_name(std::size_t index) const {
-  const FolderRun& run = run_of(index);
+  const FolderRun& run = runs_[run_of(index)];
   const auto file = run.first + static_cast<std::uint32_t>(index - run.begin);
   return full_name_in(*run.folder, run.folder->name_of(file));
 }
 
 File Files::Item(std::size_t index) const {
-  const FolderRun& run = run_of(index);
+  const FolderRun& run = runs_[run_of(index)];
   const auto number = run.first + static_cast<std::uint32_t>(index - run.begin);
   const ListedFile listed = run.folder->file(number);
   const std::string path = path_of(*run.folder);

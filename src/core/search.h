@@ -23,6 +23,12 @@ struct File {
   FileTime Modified;
   FileTime Created;
   double FileSize = 0;  // bytes, as FileSizeToDouble reads them
+
+  // The attribute bits as the system reports them; 0 when the file has gone. They are looked up
+  // when asked for: no test of a scan needs them.
+  [[nodiscard]] std::uint32_t FileAttributes(const FileSystem& files) const {
+    return files.attributes(FileNameFull).value_or(0);
+  }
 };
 
 // Bytes from the two words of a size, in signed 32-bit arithmetic: high * 2147483647 + low. Nothing
@@ -45,6 +51,20 @@ struct FolderRun {
   std::size_t begin = 0;  // number of the first in the collection
 };
 
+class Files;
+
+// Goes over a collection from its first file on. The collection outlives it.
+class FilesEnumerator {
+ public:
+  explicit FilesEnumerator(const Files& files) : files_(files) {}
+  // Nothing behind the last file.
+  [[nodiscard]] std::optional<File> next();
+
+ private:
+  const Files& files_;
+  std::size_t next_ = 0;
+};
+
 // The files found, in order. Names and times stay in the tree that was read; the collection keeps
 // only which files of which folders belong to it.
 class Files {
@@ -53,10 +73,13 @@ class Files {
   Files(std::shared_ptr<const FolderTree> tree, const ListedFolder& root, std::string root_path);
 
   void Add(const ListedFolder& folder, std::uint32_t file);
+  // Takes a file out; those behind it move up by one. Requires: index < Count().
+  void Remove(std::size_t index);
   [[nodiscard]] std::size_t Count() const { return count_; }
   // Counts from 0. Requires: index < Count().
   [[nodiscard]] File Item(std::size_t index) const;
   [[nodiscard]] std::string full_name(std::size_t index) const;
+  [[nodiscard]] FilesEnumerator NewEnum() const { return FilesEnumerator(*this); }
 
   [[nodiscard]] const std::vector<FolderRun>& runs() const { return runs_; }
   // Path of a folder of the tree, with its backslash.
@@ -64,7 +87,7 @@ class Files {
   [[nodiscard]] std::string full_name_in(const ListedFolder& folder, std::string_view name) const;
 
  private:
-  [[nodiscard]] const FolderRun& run_of(std::size_t index) const;
+  [[nodiscard]] std::size_t run_of(std::size_t index) const;  // number of the run it is in
 
   std::shared_ptr<const FolderTree> tree_;
   const ListedFolder* root_;

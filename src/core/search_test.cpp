@@ -128,6 +128,65 @@ TEST(Search, HoldsFolderNameAndSizeOfEachFile) {
   EXPECT_EQ(file.FileSize, 120);
 }
 
+TEST(Search, LooksAttributesUpWhenTheyAreAskedFor) {
+  Staged staged;
+  staged.machine.add_file("C:\\T\\a.txt");
+  ASSERT_EQ(staged.search("C:\\T", "*.*").size(), 1U);
+  FileSystem& files = staged.machine.platform().files;
+  ASSERT_TRUE(files.set_attributes("C:\\T\\a.txt", kAttributeHidden | kAttributeSystem));
+  const File file = staged.found->Item(0);
+  EXPECT_EQ(file.FileAttributes(files), kAttributeHidden | kAttributeSystem);
+  ASSERT_EQ(files.remove_file("C:\\T\\a.txt"), RemoveResult::kRemoved);
+  EXPECT_EQ(file.FileAttributes(files), 0U);
+}
+
+// --- The collection.
+
+struct Collected : Staged {
+  Collected() {
+    for (const char* path : {"C:\\T\\sub\\a", "C:\\T\\sub\\b", "C:\\T\\sub\\c", "C:\\T\\d"}) {
+      machine.add_file(path);
+    }
+    search("C:\\T", "*.*");
+    files = std::make_unique<Files>(*found);
+  }
+  [[nodiscard]] std::string names() const {
+    std::string text;
+    FilesEnumerator all = files->NewEnum();
+    while (const auto file = all.next()) text += file->FileName;
+    return text;
+  }
+  std::unique_ptr<Files> files;
+};
+
+TEST(Files, AreEnumeratedInTheirOrder) {
+  const Collected collected;
+  EXPECT_EQ(collected.files->Count(), 4U);
+  EXPECT_EQ(collected.names(), "abcd");
+}
+
+TEST(Files, MoveUpWhenOneIsRemoved) {
+  const std::string left[] = {"bcd", "acd", "abd", "abc"};
+  for (std::size_t i = 0; i < 4; ++i) {
+    const Collected collected;
+    collected.files->Remove(i);
+    EXPECT_EQ(collected.files->Count(), 3U);
+    EXPECT_EQ(collected.names(), left[i]);
+  }
+}
+
+TEST(Files, CanBeRemovedOneAfterTheOther) {
+  const Collected collected;
+  collected.files->Remove(1);
+  collected.files->Remove(1);
+  EXPECT_EQ(collected.names(), "ad");
+  collected.files->Remove(0);
+  EXPECT_EQ(collected.names(), "d");
+  EXPECT_EQ(collected.files->Item(0).FileNameFull, "C:\\T\\d");
+  collected.files->Remove(0);
+  EXPECT_EQ(collected.names(), "");
+}
+
 TEST(Search, AnOverflowEndsTheListingOfItsFolderOnly) {
   Staged staged;
   staged.machine.add_file("C:\\T\\big\\a.txt");

@@ -68,6 +68,8 @@ void Form7::activate() {
 
 void Form7::close() {
   save_ticked_drives();
+  TrayArea1.set_icon_visible(false);
+  hide();
   program.end();
 }
 

@@ -38,12 +38,18 @@ struct Platform {
   MessageLoop& loop;
   Dialogs& dialogs;
 
-  // The same machine with one part replaced: how a layer gets between the behaviour and the
-  // machine.
-  [[nodiscard]] Platform with_files(FileSystem& other) const {
-    return {.files = other,
+  // Parts to be replaced; null leaves the machine's own.
+  struct Replacement {
+    FileSystem* files = nullptr;
+    Registry* registry = nullptr;
+    Dialogs* dialogs = nullptr;
+  };
+
+  // The same machine with parts replaced: how a layer gets between the behaviour and the machine.
+  [[nodiscard]] Platform with(const Replacement& other) const {
+    return {.files = other.files != nullptr ? *other.files : files,
             .drives = drives,
-            .registry = registry,
+            .registry = other.registry != nullptr ? *other.registry : registry,
             .environment = environment,
             .system = system,
             .event_log = event_log,
@@ -54,23 +60,7 @@ struct Platform {
             .suite = suite,
             .tray = tray,
             .loop = loop,
-            .dialogs = dialogs};
-  }
-  [[nodiscard]] Platform with_dialogs(Dialogs& other) const {
-    return {.files = files,
-            .drives = drives,
-            .registry = registry,
-            .environment = environment,
-            .system = system,
-            .event_log = event_log,
-            .processes = processes,
-            .url_cache = url_cache,
-            .security = security,
-            .shell = shell,
-            .suite = suite,
-            .tray = tray,
-            .loop = loop,
-            .dialogs = other};
+            .dialogs = other.dialogs != nullptr ? *other.dialogs : dialogs};
   }
 };
 

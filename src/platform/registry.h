@@ -44,9 +44,18 @@ struct NamedRegistryValue {
   RegistryValue value;
 };
 
-// Which half of the registry a 32-bit program on 64-bit Windows sees. The machine folder has one
-// half only and answers both alike.
-enum class RegistryView { kOwn, k64Bit };
+// The rights that a key is opened with, in the numbers of RegOpenKeyEx. A key that does not grant
+// all of them is not opened at all, so a routine that asks for more than it needs sees nothing
+// where the user may only read. Where 0x100 is in the number, a 32-bit program on 64-bit Windows
+// sees the 64-bit half of the registry. The machine folder grants everything and has one half.
+enum class KeyAccess : std::uint32_t {
+  kQueryValues = 0x1,
+  kRead = 0x20019,
+  kRead64 = 0x20119,
+  kAll64 = 0x13F,             // all but changing the rights themselves
+  kSettings = 0x2003F,        // the program's own settings
+  kSystemSettings = 0x2013F,  // settings of the system
+};
 
 class Registry {
  public:
@@ -55,16 +64,16 @@ class Registry {
   // Names of the keys directly below, in the registry's order; nothing when the key cannot be
   // opened.
   [[nodiscard]] virtual std::optional<std::vector<std::string>> sub_keys(
-      Hive hive, const std::string& key) const = 0;
+      Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const = 0;
 
   // Values in the registry's order; nothing when the key cannot be opened.
   [[nodiscard]] virtual std::optional<std::vector<NamedRegistryValue>> values(
-      Hive hive, const std::string& key) const = 0;
+      Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const = 0;
 
   // One value; nothing when key or value are missing or cannot be read.
   [[nodiscard]] virtual std::optional<RegistryValue> value(
       Hive hive, const std::string& key, const std::string& name,
-      RegistryView view = RegistryView::kOwn) const = 0;
+      KeyAccess access = KeyAccess::kRead) const = 0;
 
   // Makes the key and every missing one above it. True when it is there afterwards.
   [[nodiscard]] virtual bool create_key(Hive hive, const std::string& key) = 0;

@@ -24,8 +24,8 @@ std::string dword_text(std::string_view bytes) {
 }
 
 RegistryText read(const Registry& registry, Hive hive, const std::string& key,
-                  const std::string& name, RegistryView view) {
-  const auto value = registry.value(hive, key, name, view);
+                  const std::string& name, KeyAccess access) {
+  const auto value = registry.value(hive, key, name, access);
   if (!value || value->data.size() >= kBufferBytes) return {};
   std::string_view data = value->data;
   if (data.ends_with('\0')) data.remove_suffix(1);
@@ -38,12 +38,12 @@ RegistryText read(const Registry& registry, Hive hive, const std::string& key,
 
 RegistryText ReadRegistryString(const Registry& registry, Hive hive, const std::string& key,
                                 const std::string& name) {
-  return read(registry, hive, key, name, RegistryView::k64Bit);
+  return read(registry, hive, key, name, KeyAccess::kSystemSettings);
 }
 
 RegistryText ReadRegistryString32(const Registry& registry, Hive hive, const std::string& key,
                                   const std::string& name) {
-  return read(registry, hive, key, name, RegistryView::kOwn);
+  return read(registry, hive, key, name, KeyAccess::kSettings);
 }
 
 bool WriteRegistryString(Registry& registry, Hive hive, const std::string& key,

@@ -14,14 +14,14 @@ struct RegistryText {
   std::string text;   // empty otherwise
 };
 
-// A value of the 64-bit view. Text values give their text. Numbers give "&h" and the hexadecimal
-// digits of their bytes from the last to the first, each without leading zeros; a last byte of 0
-// has been dropped before. Other types give an empty text. A value of 1024 bytes or more reads
-// as absent.
+// A setting of the system, in the 64-bit half of the registry. Text values give their text. Numbers
+// give "&h" and the hexadecimal digits of their bytes from the last to the first, each without
+// leading zeros; a last byte of 0 has been dropped before. Other types give an empty text. A value
+// of 1024 bytes or more reads as absent.
 [[nodiscard]] RegistryText ReadRegistryString(const Registry& registry, Hive hive,
                                               const std::string& key, const std::string& name);
 
-// The same of the view that a program of this width sees.
+// The same of the half that a program of this width sees.
 [[nodiscard]] RegistryText ReadRegistryString32(const Registry& registry, Hive hive,
                                                 const std::string& key, const std::string& name);
 

@@ -116,14 +116,15 @@ TEST(ReadRegistryString, ReadsOtherTypesAsAnEmptyText) {
   }
 }
 
-TEST(ReadRegistryString, AsksForThe64BitViewAndItsTwinForTheProgramsOwn) {
+TEST(ReadRegistryString, AsksForThe64BitHalfAndItsTwinForTheProgramsOwn) {
   MemoryRegistry registry;
   registry.put(kHive, kKey, "value", RegistryType::kSz, "x");
 
   EXPECT_EQ(ReadRegistryString(registry, kHive, kKey, "value").text, "x");
   EXPECT_EQ(ReadRegistryString32(registry, kHive, kKey, "value").text, "x");
 
-  EXPECT_EQ(registry.views, (std::vector{RegistryView::k64Bit, RegistryView::kOwn}));
+  EXPECT_EQ(registry.accesses,
+            (std::vector{static_cast<KeyAccess>(0x2013F), static_cast<KeyAccess>(0x2003F)}));
 }
 
 TEST(ReadRegistryString32, ReadsBytesAsItsTwinDoes) {

@@ -12,6 +12,7 @@ namespace {
 constexpr int kNoSuchHive = 99;
 constexpr int kKeyNotOpened = 2;
 constexpr std::size_t kIniBufferChars = 8192;
+constexpr std::size_t kValueBufferBytes = 2048;  // for the name with its terminator, and the data
 
 std::uint32_t little_endian(std::string_view bytes) {
   std::uint32_t number = 0;
@@ -52,11 +53,16 @@ std::string value_text(const NamedRegistryValue& entry) {
   return {};
 }
 
+// The list ends at the first value that the reader's buffers do not hold: meant so.
+bool fits_buffers(const NamedRegistryValue& entry) {
+  return entry.name.size() < kValueBufferBytes && entry.value.data.size() <= kValueBufferBytes;
+}
+
 }  // namespace
 
 std::optional<RegistryContent> GetRegistryValue(const Registry& registry, Hive hive,
                                                 const std::string& key, const std::string& name) {
-  const auto value = registry.value(hive, key, name);
+  const auto value = registry.value(hive, key, name, KeyAccess::kAll64);
   if (!value) return std::nullopt;
   switch (value->type) {
     case RegistryType::kSz:
@@ -115,13 +121,14 @@ ValueList fEnumValue(const Registry& registry, const FileSystem& files, const st
     list.text = ini_section(files, hive, sub_key);
     return list;
   }
-  const auto values = registry.values(std::get<Hive>(source), sub_key);
+  const auto values = registry.values(std::get<Hive>(source), sub_key, KeyAccess::kQueryValues);
   if (!values) {
     list.status = kKeyNotOpened;
     return list;
   }
   for (std::size_t i = 0; i < values->size(); ++i) {
     const NamedRegistryValue& entry = (*values)[i];
+    if (!fits_buffers(entry)) break;
     list.text += value_text(entry);
     if (i > 0) list.names += ",";
     list.names += entry.name;

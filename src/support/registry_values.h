@@ -50,7 +50,8 @@ struct ValueList {
   std::string names;  // all value names, joined by ","
 };
 
-// The values of a key, or the section `sub_key` of an INI file.
+// The values of a key, or the section `sub_key` of an INI file. A value of more than 2048 bytes
+// ends the list.
 [[nodiscard]] ValueList fEnumValue(const Registry& registry, const FileSystem& files,
                                    const std::string& hive, const std::string& sub_key);
 

@@ -152,6 +152,33 @@ TEST(FEnumValue, WritesOnlyTheNamesOfOtherValues) {
   EXPECT_EQ(list.names, "expand,text,bytes,list");
 }
 
+TEST(FEnumValue, EndsAtTheFirstValueOfMoreThan2048Bytes) {
+  MemoryRegistry registry;
+  registry.put(kHive, kKey, "full", RegistryType::kBinary, std::string(2048, 'x'));
+  registry.put(kHive, kKey, "more", RegistryType::kBinary, std::string(2049, 'x'));
+  registry.put(kHive, kKey, "text", RegistryType::kSz, "abc\0"s);
+
+  const ValueList list = fEnumValue(registry, OneIniFile(), "HKLM", kKey);
+
+  EXPECT_EQ(list.status, 0);
+  EXPECT_EQ(list.names, "full");
+  EXPECT_EQ(list.text, "");
+}
+
+TEST(FEnumValue, OpensTheKeyToQueryValuesOnly) {
+  MemoryRegistry registry;
+  registry.put(kHive, kKey, "text", RegistryType::kSz, "abc\0"s);
+  EXPECT_EQ(fEnumValue(registry, OneIniFile(), "HKLM", kKey).status, 0);
+  EXPECT_EQ(registry.accesses, std::vector{static_cast<KeyAccess>(1)});
+}
+
+TEST(GetRegistryValue, OpensTheKeyWithAllRightsButThoseToItsRights) {
+  MemoryRegistry registry;
+  registry.put(kHive, kKey, "text", RegistryType::kSz, "abc\0"s);
+  EXPECT_TRUE(GetRegistryValue(registry, kHive, kKey, "text").has_value());
+  EXPECT_EQ(registry.accesses, std::vector{static_cast<KeyAccess>(319)});
+}
+
 TEST(FEnumValue, TellsThatTheListCouldNotBeBegun) {
   const MemoryRegistry registry;
   EXPECT_EQ(fEnumValue(registry, OneIniFile(), "HKXX", kKey).status, 99);

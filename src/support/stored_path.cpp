@@ -5,7 +5,7 @@
 
 namespace quillvane {
 
-std::string GetPath(const Environment& environment, bool is_64_bit, std::string path) {
+std::string GetPath(const Environment& environment, bool is_64_bit, std::string& path) {
   if (is_64_bit) {
     const std::string system_drive = lower_case(environment.get("WINDIR").substr(0, 3));
     path = replace_all(lower_case(path), "system32", "Sysnative");

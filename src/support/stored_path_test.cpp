@@ -39,7 +39,9 @@ TEST(GetPath, ExpandsReferencesAndKeepsTheCaseOn32Bit) {
   const MachineState state = machine_state();
   const MachineEnvironment environment(state);
   for (const auto& [stored, opened] : kOn32Bit) {
-    EXPECT_EQ(GetPath(environment, false, std::string(stored)), opened) << stored;
+    std::string path(stored);
+    EXPECT_EQ(GetPath(environment, false, path), opened) << stored;
+    EXPECT_EQ(path, stored);
   }
 }
 
@@ -68,16 +70,27 @@ TEST(GetPath, LeadsTo64BitFoldersInLowerCaseOn64Bit) {
   const MachineState state = machine_state();
   const MachineEnvironment environment(state);
   for (const auto& [stored, opened] : kOn64Bit) {
-    EXPECT_EQ(GetPath(environment, true, std::string(stored)), opened) << stored;
+    std::string path(stored);
+    EXPECT_EQ(GetPath(environment, true, path), opened) << stored;
   }
+}
+
+TEST(GetPath, ChangesItsArgumentOn64BitToTheTextThatIsExpanded) {
+  const MachineState state = machine_state();
+  const MachineEnvironment environment(state);
+  std::string path = "%SystemRoot%\\System32\\X.DMP";
+  EXPECT_EQ(GetPath(environment, true, path), "C:\\Windows\\sysnative\\x.dmp");
+  EXPECT_EQ(path, "%systemroot%\\sysnative\\x.dmp");
 }
 
 TEST(GetPath, TakesTheSystemsDriveFromTheWindowsFolder) {
   MachineState state = machine_state();
   set_variable(state.environment, "WinDir", "E:\\Windows");
   const MachineEnvironment environment(state);
-  EXPECT_EQ(GetPath(environment, true, "E:\\Program Files\\App"), "D:\\Programs\\app");
-  EXPECT_EQ(GetPath(environment, true, "C:\\Program Files\\App"), "c:\\program files\\app");
+  std::string of_system = "E:\\Program Files\\App";
+  EXPECT_EQ(GetPath(environment, true, of_system), "D:\\Programs\\app");
+  std::string of_other_drive = "C:\\Program Files\\App";
+  EXPECT_EQ(GetPath(environment, true, of_other_drive), "c:\\program files\\app");
 }
 
 TEST(GetTempDir, EndsInABackslash) {

@@ -159,7 +159,8 @@ TEST_F(RegistryContract, TheHivesThemselvesCanBeOpened) {
 
 TEST_F(RegistryContract, TheOtherViewSeesTheSamePrivateKeys) {
   ASSERT_TRUE(set("v", RegistryType::kSz, "x\0"s));
-  const auto value = platform.registry.value(Hive::kCurrentUser, key(), "v", RegistryView::k64Bit);
+  const auto value =
+      platform.registry.value(Hive::kCurrentUser, key(), "v", KeyAccess::kSystemSettings);
   ASSERT_TRUE(value.has_value());
   EXPECT_EQ(value->data, "x\0"s);
 }

@@ -1,7 +1,8 @@
 // A registry held in memory, for tests of routines that need a registry and no machine.
 //
-// Values are given in the order in which they were first set. Which view each read asked for is
-// kept in `views`. With `writable` off nothing can be made or written. Sub-keys are not listed.
+// Values are given in the order in which they were first set. The rights that each read of a value
+// or of values asked for are kept in `accesses`. With `writable` off nothing can be made or
+// written. Sub-keys are not listed.
 #pragma once
 
 #include <algorithm>
@@ -38,12 +39,13 @@ class MemoryRegistry final : public Registry {
   }
 
   [[nodiscard]] std::optional<std::vector<std::string>> sub_keys(
-      Hive, const std::string&) const override {
+      Hive, const std::string&, KeyAccess = KeyAccess::kRead) const override {
     return std::nullopt;
   }
 
   [[nodiscard]] std::optional<std::vector<NamedRegistryValue>> values(
-      Hive hive, const std::string& key) const override {
+      Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const override {
+    accesses.push_back(access);
     const auto found = keys_.find({hive, lower_case(key)});
     if (found == keys_.end()) return std::nullopt;
     return found->second;
@@ -51,8 +53,8 @@ class MemoryRegistry final : public Registry {
 
   [[nodiscard]] std::optional<RegistryValue> value(
       Hive hive, const std::string& key, const std::string& name,
-      RegistryView view = RegistryView::kOwn) const override {
-    views.push_back(view);
+      KeyAccess access = KeyAccess::kRead) const override {
+    accesses.push_back(access);
     const auto values = keys_.find({hive, lower_case(key)});
     if (values == keys_.end()) return std::nullopt;
     const auto found = find_value(values->second, name);
@@ -73,7 +75,7 @@ class MemoryRegistry final : public Registry {
   }
 
   bool writable = true;
-  mutable std::vector<RegistryView> views;
+  mutable std::vector<KeyAccess> accesses;
 
  private:
   std::map<std::pair<Hive, std::string>, std::vector<NamedRegistryValue>> keys_;

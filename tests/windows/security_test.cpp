@@ -5,6 +5,7 @@
 #include <sddl.h>
 
 #include <cstddef>
+#include <cstring>
 #include <string>
 #include <vector>
 
@@ -128,6 +129,21 @@ TEST_F(KeyAccess, AnUnknownAccountLeavesTheKey) {
   const ShownEntries before = entries();
   security_.set_key_access(Hive::kCurrentUser, key_, "no such account on this PC");
   EXPECT_EQ(entries(), before);
+}
+
+// Without a list everybody may do everything already.
+TEST_F(KeyAccess, AKeyWithoutAListOfRightsStaysWithoutOne) {
+  SECURITY_DESCRIPTOR absolute;
+  ASSERT_TRUE(InitializeSecurityDescriptor(&absolute, SECURITY_DESCRIPTOR_REVISION));
+  ASSERT_TRUE(SetSecurityDescriptorDacl(&absolute, TRUE, nullptr, FALSE));
+  std::vector<std::byte> bytes(sizeof(absolute));
+  std::memcpy(bytes.data(), &absolute, sizeof(absolute));
+  set(bytes);
+  std::vector<std::byte> before = get();
+  ASSERT_EQ(list_in(before), nullptr);
+  run();
+  std::vector<std::byte> after = get();
+  EXPECT_EQ(list_in(after), nullptr);
 }
 
 TEST_F(KeyAccess, AMissingKeyIsNotMade) {

@@ -82,8 +82,8 @@ bool FolderRegistry::make_store() {
   return true;
 }
 
-std::optional<std::vector<std::string>> FolderRegistry::sub_keys(Hive hive,
-                                                                 const std::string& key) const {
+std::optional<std::vector<std::string>> FolderRegistry::sub_keys(Hive hive, const std::string& key,
+                                                                 KeyAccess) const {
   std::vector<std::string> names;
   if (!connected()) return is_hive(key) ? std::optional(names) : std::nullopt;
   const auto id = find_key(hive, key);
@@ -98,8 +98,9 @@ std::optional<std::vector<std::string>> FolderRegistry::sub_keys(Hive hive,
   return names;
 }
 
-std::optional<std::vector<NamedRegistryValue>> FolderRegistry::values(
-    Hive hive, const std::string& key) const {
+std::optional<std::vector<NamedRegistryValue>> FolderRegistry::values(Hive hive,
+                                                                      const std::string& key,
+                                                                      KeyAccess) const {
   std::vector<NamedRegistryValue> list;
   if (!connected()) return is_hive(key) ? std::optional(list) : std::nullopt;
   const auto id = find_key(hive, key);
@@ -115,7 +116,7 @@ std::optional<std::vector<NamedRegistryValue>> FolderRegistry::values(
 }
 
 std::optional<RegistryValue> FolderRegistry::value(Hive hive, const std::string& key,
-                                                   const std::string& name, RegistryView) const {
+                                                   const std::string& name, KeyAccess) const {
   if (!connected()) return std::nullopt;
   const auto id = find_key(hive, key);
   if (!id) return std::nullopt;

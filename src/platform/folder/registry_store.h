@@ -32,12 +32,12 @@ class FolderRegistry final : public Registry {
 
   // While another program holds the store locked, there is nothing to read and nothing is written.
   [[nodiscard]] std::optional<std::vector<std::string>> sub_keys(
-      Hive hive, const std::string& key) const override;
+      Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const override;
   [[nodiscard]] std::optional<std::vector<NamedRegistryValue>> values(
-      Hive hive, const std::string& key) const override;
+      Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const override;
   [[nodiscard]] std::optional<RegistryValue> value(
       Hive hive, const std::string& key, const std::string& name,
-      RegistryView view = RegistryView::kOwn) const override;
+      KeyAccess access = KeyAccess::kRead) const override;
   [[nodiscard]] bool create_key(Hive hive, const std::string& key) override;
   [[nodiscard]] bool set_value(Hive hive, const std::string& key, const std::string& name,
                                const RegistryValue& value) override;

@@ -158,7 +158,8 @@ TEST_F(FolderRegistryTest, TheHivesAreApartAndBothViewsAreOne) {
     EXPECT_EQ(registry->sub_keys(other, "Key"), std::nullopt);
     EXPECT_EQ(registry->sub_keys(other, ""), Names{});
   }
-  EXPECT_EQ(registry->value(Hive::kLocalMachine, "Key", "v", RegistryView::k64Bit), text("1"));
+  EXPECT_EQ(registry->value(Hive::kLocalMachine, "Key", "v", KeyAccess::kSystemSettings),
+            text("1"));
 }
 
 TEST_F(FolderRegistryTest, AHiveHasValuesOfItsOwn) {

@@ -6,6 +6,8 @@ namespace quillvane {
 
 namespace {
 
+constexpr wchar_t kKeyClass[] = L"1";  // of every key that the program makes
+
 HKEY root_key(Hive hive) {
   switch (hive) {
     case Hive::kClassesRoot:
@@ -37,8 +39,9 @@ RegistryKey RegistryKey::open(Hive hive, const std::string& key, REGSAM access) 
 
 RegistryKey RegistryKey::create(Hive hive, const std::string& key, REGSAM access) {
   HKEY opened = nullptr;
-  const LSTATUS status = RegCreateKeyExW(root_key(hive), key_path(key).c_str(), 0, nullptr, 0,
-                                         access, nullptr, &opened, nullptr);
+  std::wstring key_class = kKeyClass;
+  const LSTATUS status = RegCreateKeyExW(root_key(hive), key_path(key).c_str(), 0, key_class.data(),
+                                         0, access, nullptr, &opened, nullptr);
   return RegistryKey(status == ERROR_SUCCESS ? opened : nullptr);
 }
 

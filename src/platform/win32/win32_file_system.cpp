@@ -18,6 +18,27 @@ constexpr std::uint32_t kSettableAttributes =
 
 std::uint64_t joined(DWORD high, DWORD low) { return std::uint64_t{high} << 32U | low; }
 
+struct FileStatus {
+  DWORD attributes;
+  std::uint64_t size;
+};
+
+// A file that waits for its removal, or that the system keeps for itself, cannot be asked; its
+// folder lists it all the same.
+std::optional<FileStatus> status_of(const std::wstring& path) {
+  WIN32_FILE_ATTRIBUTE_DATA data;
+  if (GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data)) {
+    return FileStatus{data.dwFileAttributes, joined(data.nFileSizeHigh, data.nFileSizeLow)};
+  }
+  const DWORD error = GetLastError();
+  if (error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) return std::nullopt;
+  WIN32_FIND_DATAW listed;
+  const HANDLE found = FindFirstFileW(path.c_str(), &listed);
+  if (found == INVALID_HANDLE_VALUE) return std::nullopt;
+  FindClose(found);
+  return FileStatus{listed.dwFileAttributes, joined(listed.nFileSizeHigh, listed.nFileSizeLow)};
+}
+
 FolderEntry folder_entry(const WIN32_FIND_DATAW& entry) {
   return {narrow(entry.cFileName),
           entry.dwFileAttributes,
@@ -90,9 +111,9 @@ std::vector<FolderEntry> Win32FileSystem::list_folder(const std::string& folder,
 std::optional<std::uint32_t> Win32FileSystem::attributes(const std::string& path) const {
   const auto wide = openable_path(path);
   if (!wide) return std::nullopt;
-  const DWORD bits = GetFileAttributesW(wide->c_str());
-  if (bits == INVALID_FILE_ATTRIBUTES) return std::nullopt;
-  return bits;
+  const auto status = status_of(*wide);
+  if (!status) return std::nullopt;
+  return status->attributes;
 }
 
 bool Win32FileSystem::set_attributes(const std::string& path, std::uint32_t bits) {
@@ -104,12 +125,9 @@ bool Win32FileSystem::set_attributes(const std::string& path, std::uint32_t bits
 
 std::optional<std::uint64_t> Win32FileSystem::file_size(const std::string& path) const {
   const auto wide = openable_path(path);
-  WIN32_FILE_ATTRIBUTE_DATA data;
-  if (!wide || !GetFileAttributesExW(wide->c_str(), GetFileExInfoStandard, &data) ||
-      (data.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) {
-    return std::nullopt;
-  }
-  return joined(data.nFileSizeHigh, data.nFileSizeLow);
+  const auto status = wide ? status_of(*wide) : std::nullopt;
+  if (!status || (status->attributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return std::nullopt;
+  return status->size;
 }
 
 std::optional<std::string> Win32FileSystem::read_file(const std::string& path) const {

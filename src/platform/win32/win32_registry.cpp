@@ -38,9 +38,9 @@ bool read_growing(std::string& buffer, Read read) {
 
 }  // namespace
 
-std::optional<std::vector<std::string>> Win32Registry::sub_keys(Hive hive,
-                                                                const std::string& key) const {
-  const RegistryKey opened = RegistryKey::open(hive, key, KEY_ENUMERATE_SUB_KEYS);
+std::optional<std::vector<std::string>> Win32Registry::sub_keys(Hive hive, const std::string& key,
+                                                                KeyAccess access) const {
+  const RegistryKey opened = RegistryKey::open(hive, key, static_cast<REGSAM>(access));
   if (!opened.is_open()) return std::nullopt;
   std::vector<std::string> names;
   for (DWORD index = 0;; ++index) {
@@ -55,8 +55,9 @@ std::optional<std::vector<std::string>> Win32Registry::sub_keys(Hive hive,
 }
 
 std::optional<std::vector<NamedRegistryValue>> Win32Registry::values(Hive hive,
-                                                                     const std::string& key) const {
-  const RegistryKey opened = RegistryKey::open(hive, key, KEY_QUERY_VALUE);
+                                                                     const std::string& key,
+                                                                     KeyAccess access) const {
+  const RegistryKey opened = RegistryKey::open(hive, key, static_cast<REGSAM>(access));
   if (!opened.is_open()) return std::nullopt;
   std::vector<NamedRegistryValue> values;
   std::wstring name(kValueNameLimit, L'\0');
@@ -76,10 +77,8 @@ std::optional<std::vector<NamedRegistryValue>> Win32Registry::values(Hive hive,
 }
 
 std::optional<RegistryValue> Win32Registry::value(Hive hive, const std::string& key,
-                                                  const std::string& name,
-                                                  RegistryView view) const {
-  const REGSAM half = view == RegistryView::k64Bit ? KEY_WOW64_64KEY : 0;
-  const RegistryKey opened = RegistryKey::open(hive, key, KEY_QUERY_VALUE | half);
+                                                  const std::string& name, KeyAccess access) const {
+  const RegistryKey opened = RegistryKey::open(hive, key, static_cast<REGSAM>(access));
   if (!opened.is_open()) return std::nullopt;
   const std::wstring wide_name = widen(name);
   DWORD type = 0;
@@ -92,13 +91,12 @@ std::optional<RegistryValue> Win32Registry::value(Hive hive, const std::string& 
 }
 
 bool Win32Registry::create_key(Hive hive, const std::string& key) {
-  // The least access there is: the key is only wanted to exist.
-  return RegistryKey::create(hive, key, KEY_QUERY_VALUE).is_open();
+  return RegistryKey::create(hive, key, static_cast<REGSAM>(KeyAccess::kSettings)).is_open();
 }
 
 bool Win32Registry::set_value(Hive hive, const std::string& key, const std::string& name,
                               const RegistryValue& value) {
-  const RegistryKey opened = RegistryKey::open(hive, key, KEY_SET_VALUE);
+  const RegistryKey opened = RegistryKey::open(hive, key, KEY_WRITE);
   if (!opened.is_open()) return false;
   const std::string bytes = bytes_for_windows(value);
   // Windows looks at the unit behind a text without a terminator, and would store it too if it is

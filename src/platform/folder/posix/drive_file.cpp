@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <atomic>
 #include <cerrno>
 
@@ -15,6 +16,7 @@ namespace quillvane {
 namespace {
 
 constexpr std::size_t kLeastRead = 4096;
+constexpr std::size_t kCopiedAtATime = std::size_t{1} << 20U;
 // The program's own files are lists and texts. What is larger is none of them, and could take the
 // whole memory.
 constexpr std::size_t kMostRead = std::size_t{1} << 30U;
@@ -47,6 +49,37 @@ bool write_all(int file, std::string_view content) {
     if (written < 0 && errno == EINTR) continue;
     if (written < 0) return false;
     content.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+// Copies the bytes from `begin` to before `end`, which lie at the same places in both files.
+bool copy_extent(int from, int to, off_t begin, off_t end) {
+  if (lseek(from, begin, SEEK_SET) < 0 || lseek(to, begin, SEEK_SET) < 0) return false;
+  std::string buffer(kCopiedAtATime, '\0');
+  while (begin < end) {
+    const auto left = static_cast<std::size_t>(end - begin);
+    const ssize_t got = read(from, buffer.data(), std::min(buffer.size(), left));
+    if (got < 0 && errno == EINTR) continue;
+    if (got <= 0) return got == 0;  // it was cut meanwhile
+    if (!write_all(to, std::string_view(buffer).substr(0, static_cast<std::size_t>(got)))) {
+      return false;
+    }
+    begin += got;
+  }
+  return true;
+}
+
+// Copies a file extent by extent, so that one of many gigabytes without content takes no time.
+bool copy_extents(int from, int to) {
+  struct stat status;
+  if (fstat(from, &status) != 0 || ftruncate(to, status.st_size) != 0) return false;
+  for (off_t at = 0; at < status.st_size;) {
+    const off_t begin = lseek(from, at, SEEK_DATA);
+    if (begin < 0) return errno == ENXIO;  // nothing but a hole is left
+    const off_t end = lseek(from, begin, SEEK_HOLE);
+    if (end < 0 || !copy_extent(from, to, begin, end)) return false;
+    at = end;
   }
   return true;
 }
@@ -95,9 +128,21 @@ std::optional<std::string> read_drive_file(const HostPlace& place) {
   return read_to_end(file.number(), place.status.stx_size);
 }
 
-bool replace_drive_file(const HostEntry& entry, const HostPlace* old, std::string_view content) {
+FillFile text_of(std::string_view content) {
+  return [content](int file) { return write_all(file, content); };
+}
+
+FillFile content_of(const HostPlace& original) {
+  return [&original](int file) {
+    if (!is_file(original.status)) return false;
+    const Descriptor from = open_for_reading(original);
+    return from.is_open() && copy_extents(from.number(), file);
+  };
+}
+
+bool replace_drive_file(const HostEntry& entry, const HostPlace* old, const FillFile& fill) {
   FileBeside beside(entry.folder.object.number());
-  if (!write_all(beside.file(), content)) return false;
+  if (!fill(beside.file())) return false;
   if (old != nullptr) {
     // Without the right to give files away it stays the writer's.
     [[maybe_unused]] const int owned =

@@ -114,9 +114,9 @@ std::optional<HostEntry> free_name(const MachinePaths& paths, const std::string&
   return HostEntry{std::move(*folder), parsed->names.back()};
 }
 
-bool write_new_file(const MachinePaths& paths, const std::string& path, std::string_view content) {
+bool write_new_file(const MachinePaths& paths, const std::string& path, const FillFile& fill) {
   const auto entry = free_name(paths, path);
-  return entry && replace_drive_file(*entry, nullptr, content);
+  return entry && replace_drive_file(*entry, nullptr, fill);
 }
 
 }  // namespace
@@ -192,15 +192,19 @@ std::optional<std::string> FolderFileSystem::read_file(const std::string& path) 
 }
 
 bool FolderFileSystem::write_file(const std::string& path, std::string_view content) {
+  return put_file(path, text_of(content));
+}
+
+bool FolderFileSystem::put_file(const std::string& path, const FillFile& fill) {
   forget_seen();
   const auto found = find_named(paths_, path);
-  if (!found) return write_new_file(paths_, path, content);
+  if (!found) return write_new_file(paths_, path, fill);
   const HostPlace& old = found->file.place();
   if (!is_file(old.status) || is_read_only(read_file_attributes(old))) return false;
   if (paths_.is_in_use(HostIdentity::of(old.status))) return false;
-  if (!found->file.is_link()) return replace_drive_file(found->entry, &old, content);
+  if (!found->file.is_link()) return replace_drive_file(found->entry, &old, fill);
   const auto entry = found->drive.entry_of(old);
-  return entry && replace_drive_file(*entry, &old, content);
+  return entry && replace_drive_file(*entry, &old, fill);
 }
 
 bool FolderFileSystem::can_open(const std::string& path) const {
@@ -222,8 +226,7 @@ bool FolderFileSystem::rename_file(const std::string& from, const std::string& t
 
 bool FolderFileSystem::copy_file(const std::string& from, const std::string& to) {
   const auto original = paths_.find(from);
-  const auto content = original ? read_drive_file(*original) : std::nullopt;
-  if (!content || !write_file(to, *content)) return false;
+  if (!original || !put_file(to, content_of(*original))) return false;
   // The copy is there; a time or attribute that it cannot take is left out.
   if (const auto copy = find_named(paths_, to)) {
     const auto& written = original->status.stx_mtime;
@@ -244,7 +247,9 @@ bool FolderFileSystem::make_folder(const std::string& path) {
 void FolderFileSystem::remove_contents(const std::string& folder) {
   forget_seen();
   const auto place = paths_.find(folder);
-  if (place && is_folder(place->status)) remove_folder_contents(*place);
+  if (!place || !is_folder(place->status)) return;
+  remove_folder_contents(*place,
+                         [this](const HostIdentity& file) { return paths_.is_in_use(file); });
 }
 
 void FolderFileSystem::expect_removals(const std::vector<std::string>& paths) {

@@ -10,6 +10,7 @@
 
 #include "platform/folder/machine_files.h"
 #include "platform/folder/machine_state.h"
+#include "platform/folder/posix/drive_file.h"
 #include "platform/folder/posix/machine_paths.h"
 #include "platform/folder/posix/removal_ahead.h"
 #include "platform/folder/posix/seen_file.h"
@@ -45,6 +46,8 @@ class FolderFileSystem final : public MachineFiles {
   void remove_contents(const std::string& folder) override;
 
  private:
+  // Puts a file at the path or in the place of the one that is there.
+  [[nodiscard]] bool put_file(const std::string& path, const FillFile& fill);
   [[nodiscard]] RemoveResult remove_seen(const std::string& path, SeenFile file);
   [[nodiscard]] RemoveResult remove_looking(const std::string& path);
   // Whether it is the file that was removed last and nothing has come in its place.

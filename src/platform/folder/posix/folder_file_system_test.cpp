@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <fstream>
 #include <string>
 
 #include "tests/support/drive_test.h"
@@ -28,6 +29,23 @@ TEST_F(FolderFileSystemTest, TellsTheSizeOfAFile) {
   EXPECT_EQ(files.file_size("C:\\TEMP\\BIG.DMP"), 5368709120U);
   EXPECT_EQ(files.file_size("C:\\Temp"), std::nullopt);
   EXPECT_EQ(files.file_size("C:\\Temp\\missing"), std::nullopt);
+}
+
+TEST_F(FolderFileSystemTest, CopiesAFileOfManyGigabytesWithoutItsHoles) {
+  host.write_sparse("drive_c/Temp/big.dmp", std::uintmax_t{5} << 30U);
+  std::ofstream(host.path_of("drive_c/Temp/big.dmp"), std::ios::app) << "end";
+
+  ASSERT_TRUE(files.copy_file("C:\\Temp\\big.dmp", "C:\\Temp\\copy.dmp"));
+
+  EXPECT_EQ(files.file_size("C:\\Temp\\copy.dmp"), 5368709123U);
+  std::ifstream copy(host.path_of("drive_c/Temp/copy.dmp"), std::ios::binary);
+  copy.seekg(-5, std::ios::end);
+  std::string end(5, 'x');
+  copy.read(end.data(), 5);
+  EXPECT_EQ(end, std::string("\0\0end", 5));
+  struct stat status;
+  ASSERT_EQ(stat(host.path_of("drive_c/Temp/copy.dmp").c_str(), &status), 0);
+  EXPECT_LT(status.st_blocks * 512, 1 << 20);
 }
 
 TEST_F(FolderFileSystemTest, RemovesAFileInAnyCase) {

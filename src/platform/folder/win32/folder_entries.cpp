@@ -27,18 +27,18 @@ std::vector<HostFile> read_entries(const HostDrive& drive, const HeldPlace& fold
   for (const std::wstring& name : names_in(folder)) {
     if (name.find(L'\\') != std::wstring::npos) continue;
     const auto place = drive.follow(folder, name, Access::kTold);
-    if (!place) continue;
+    if (!place || is_kept(*place)) continue;
     const bool is_link = place->path != path_below(folder.path, name);
     files.push_back({narrow(name), place->status, is_link});
   }
   return files;
 }
 
-void remove_entries(const HeldPlace& folder) {
+void remove_entries(const HeldPlace& folder, const std::function<bool(const HeldPlace&)>& is_kept) {
   for (const std::wstring& name : names_in(folder)) {
     {
       const auto below = open_itself(folder, name, Access::kListed);
-      if (below && below->is_folder() && !is_link(*below)) remove_entries(*below);
+      if (below && below->is_folder() && !is_link(*below)) remove_entries(*below, is_kept);
     }
     const auto place = open_itself(folder, name, Access::kRemoved);
     if (!place) continue;

@@ -1,6 +1,7 @@
 // What lies in a folder of a drive: its files and folders, and what its links lead to.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,7 +21,7 @@ struct HostFile {
 [[nodiscard]] std::vector<HostFile> read_entries(const HostDrive& drive, const HeldPlace& folder);
 
 // Removes all that lies in a folder; links go themselves where the host allows it. What cannot be
-// removed stays, and what lies beside it goes all the same.
-void remove_entries(const HeldPlace& folder);
+// removed stays, as does a file that `is_kept` names, and what lies beside it goes all the same.
+void remove_entries(const HeldPlace& folder, const std::function<bool(const HeldPlace&)>& is_kept);
 
 }  // namespace quillvane

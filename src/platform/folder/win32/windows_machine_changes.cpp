@@ -109,7 +109,8 @@ RemoveResult WindowsMachineFiles::remove_file(const std::string& path) {
 
 void WindowsMachineFiles::remove_contents(const std::string& folder) {
   const auto place = find(folder, Access::kListed);
-  if (place && place->is_folder()) remove_entries(*place);
+  if (!place || !place->is_folder()) return;
+  remove_entries(*place, [this](const HeldPlace& file) { return is_in_use(file); });
 }
 
 }  // namespace quillvane

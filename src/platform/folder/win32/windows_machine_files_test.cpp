@@ -230,6 +230,15 @@ TEST_F(WindowsMachineFilesTest, AFoldersContentsGoWithReadOnlyFilesAndTheFolderS
   EXPECT_EQ(walk("C:\\"), Names{"bin\\"});
 }
 
+TEST_F(WindowsMachineFilesTest, AFoldersContentsGoWithoutTheFilesInUse) {
+  host.write("drive_c/bin/s/a.txt");
+  host.write("drive_c/bin/s/b.txt");
+  machine.in_use = {"C:\\bin\\s\\A.TXT"};
+  files.remove_contents("C:\\bin");
+  EXPECT_FALSE(host.has("drive_c/bin/s/b.txt"));
+  EXPECT_TRUE(host.has("drive_c/bin/s/a.txt"));
+}
+
 TEST_F(WindowsMachineFilesTest, WhatALinkLeadsToSurvivesTheLink) {
   host.write("drive_c/bin/a.txt");
   host.write("drive_c/kept/b.txt");

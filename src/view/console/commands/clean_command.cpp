@@ -52,7 +52,7 @@ int clean(const ConsoleSession& session, const CleanOptions& options) {
   options.browsers.apply_to(dialogs);
   if (options.yes) dialogs.answer_in_advance(kRemoveFilesTitle, Answer::kYes);
   CleaningWatch watch(machine->platform());
-  Program program(machine->platform().with_files(watch).with_dialogs(dialogs));
+  Program program(machine->platform().with({.files = &watch, .dialogs = &dialogs}));
   program.start("");
   Form7& form = program.main_window();
   run_attended(io, machine->loop(), program, [&] { form.cmd_start.click(); });

@@ -51,7 +51,7 @@ int run(const ConsoleSession& session, const std::string& words) {
   const std::unique_ptr<ConsoleMachine> machine = session.open_machine();
   if (machine == nullptr) return kNotDone;
   ConsoleDialogs dialogs(session.io);
-  Program program(machine->platform().with_dialogs(dialogs));
+  Program program(machine->platform().with({.dialogs = &dialogs}));
   run_attended(session.io, machine->loop(), program, [&] { program.start(words); });
   if (kind == SwitchKind::kScan) print_result(session, program.main_window());
   return kDone;

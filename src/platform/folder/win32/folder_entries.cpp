@@ -27,7 +27,7 @@ std::vector<HostFile> read_entries(const HostDrive& drive, const HeldPlace& fold
   for (const std::wstring& name : names_in(folder)) {
     if (name.find(L'\\') != std::wstring::npos) continue;
     const auto place = drive.follow(folder, name, Access::kTold);
-    if (!place || is_kept(*place)) continue;
+    if (!place) continue;
     const bool is_link = place->path != path_below(folder.path, name);
     files.push_back({narrow(name), place->status, is_link});
   }
@@ -41,7 +41,7 @@ void remove_entries(const HeldPlace& folder, const std::function<bool(const Held
       if (below && below->is_folder() && !is_link(*below)) remove_entries(*below, is_kept);
     }
     const auto place = open_itself(folder, name, Access::kRemoved);
-    if (!place) continue;
+    if (!place || is_kept(*place)) continue;
     static_cast<void>(change(*place, 0));  // a read-only file goes too
     static_cast<void>(remove_when_closed(place->handle.get()));
   }

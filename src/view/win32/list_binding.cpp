@@ -1,7 +1,6 @@
 #include "view/win32/list_binding.h"
 
 #include <commctrl.h>
-#include <uxtheme.h>
 #include <windowsx.h>
 
 #include <algorithm>
@@ -40,9 +39,6 @@ ListBinding::ListBinding(ViewHost& host, ListView& list, const ControlPlace& pla
 void ListBinding::restyle() {
   ControlView::restyle();
   make_images();
-  // In high contrast the header has the system's colours, whatever the look of other controls is.
-  const wchar_t* const look = host().theme().high_contrast ? L"" : nullptr;
-  SetWindowTheme(reinterpret_cast<HWND>(send(LVM_GETHEADER)), look, look);
   send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(host().theme().list));
   send(LVM_SETTEXTBKCOLOR, 0, static_cast<LPARAM>(host().theme().list));
   send(LVM_SETTEXTCOLOR, 0, static_cast<LPARAM>(host().theme().list_text));
@@ -157,6 +153,14 @@ std::optional<LRESULT> ListBinding::filter(UINT message, WPARAM w, LPARAM l) {
       SetFocus(window());
       tick(row);
       return 0;
+    }
+    case WM_NOTIFY: {
+      const auto& header = *reinterpret_cast<const NMHDR*>(l);
+      const bool is_drawn = host().theme().high_contrast &&
+                            header.code == static_cast<UINT>(NM_CUSTOMDRAW) &&
+                            header.hwndFrom == reinterpret_cast<HWND>(send(LVM_GETHEADER));
+      if (!is_drawn) return std::nullopt;
+      return draw_header(*reinterpret_cast<const NMCUSTOMDRAW*>(l));
     }
     case WM_KEYDOWN:
       if (w == VK_SPACE) {

@@ -2,6 +2,10 @@
 // of a million rows costs no more than one of twenty. Ticks and the selection are the model's.
 #pragma once
 
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include <string>
 
 #include "forms/list_view.h"
@@ -27,6 +31,7 @@ class ListBinding final : public ControlView {
   void set_widths();
   void fit_columns();
   void show_order();
+  [[nodiscard]] LRESULT draw_header(const NMCUSTOMDRAW& drawing) const;
   void show_selection();
   [[nodiscard]] int selected_row() const;  // in the control; 0: none
   void answer(LVITEMW& item);

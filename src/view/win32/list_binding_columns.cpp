@@ -22,6 +22,7 @@ constexpr int kOtherColumn = 88;  // sizes; dates take more
 constexpr int kLastColumn = 160;
 constexpr int kLeastColumn = 120;  // of the one that takes what the others leave
 constexpr int kHeaderHeight = 24;
+constexpr int kHeaderBeside = 6;   // of a caption
 constexpr int kPlainColumn = 160;  // of a list without boxes, but for the last one
 constexpr int kTwipsOfUnit = 15;
 
@@ -108,6 +109,30 @@ void ListBinding::show_order() {
       SendMessageW(header, HDM_SETITEMW, i, reinterpret_cast<LPARAM>(&item));
     }
   }
+}
+
+// In high contrast: by itself the header has the ground of the controls' look, on which the
+// system's text need not show.
+LRESULT ListBinding::draw_header(const NMCUSTOMDRAW& drawing) const {
+  if (drawing.dwDrawStage == CDDS_PREPAINT) return CDRF_NOTIFYITEMDRAW;
+  if (drawing.dwDrawStage != CDDS_ITEMPREPAINT) return CDRF_DODEFAULT;
+  const Theme& theme = host().theme();
+  const auto column = static_cast<int>(drawing.dwItemSpec);
+  std::wstring text = widen(list_.columns()[static_cast<std::size_t>(column)]);
+  if (list_.sorted() && list_.sort_key() == column) {
+    text += list_.descending() ? L" \u25BC" : L" \u25B2";
+  }
+  RECT area = drawing.rc;
+  fill(drawing.hdc, area, theme.page);
+  frame(drawing.hdc, area, theme.border);
+  InflateRect(&area, -scaled(kHeaderBeside, host().dpi()), 0);
+  const Selected font(drawing.hdc, host().font());
+  SetBkMode(drawing.hdc, TRANSPARENT);
+  SetTextColor(drawing.hdc, theme.text);
+  const UINT side = has_boxes() && column == 1 ? DT_RIGHT : DT_LEFT;  // sizes
+  DrawTextW(drawing.hdc, text.c_str(), -1, &area,
+            side | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+  return CDRF_SKIPDEFAULT;
 }
 
 }  // namespace quillvane

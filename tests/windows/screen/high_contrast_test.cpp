@@ -34,28 +34,21 @@ std::set<COLORREF> own_colors() {
           128};  // the mark beside the summary
 }
 
-// What the program draws itself. Its pictures keep their colours, as all pictures do; they stand in
-// the tool bar and before nodes and rows.
+// What the program draws itself: the title, texts of nodes and rows, and the page below them. Its
+// pictures keep their colours, as all pictures do.
 std::vector<RECT> drawn_areas(const ProgramOnScreen& program) {
-  std::vector<RECT> areas;
-  for (const HWND control : program.controls()) {
-    const bool is_page = GetParent(control) == program.window() && IsWindowVisible(control) != 0;
-    const bool has_pictures = control == program.tree() || control == program.control("Commands") ||
-                              control == program.control("Files of the category");
-    if (is_page && !has_pictures) areas.push_back(area_of(control));
-  }
-  for (const ScreenNode& node : program.nodes()) {
-    const RECT area = program.node_area(node);
-    if (node.text.starts_with("Opera")) break;  // as far as the tree shows at once
-    areas.push_back(area);
-  }
+  const RECT window = program.area();
+  const std::vector<ScreenNode> nodes = program.nodes();
+  const RECT first = program.node_area(nodes[1]);
+  const RECT last = program.node_area(nodes[10]);
   const HWND list = program.control("Files of the category");
-  for (int row = 0; row < program.rows(list); ++row) areas.push_back(program.row_area(list, row));
-  RECT title = program.area();
-  title.left += 40;  // the program's picture
-  title.bottom = title.top + form7_layout().rows.front().length;
-  areas.push_back(title);
-  return areas;
+  const RECT row = program.row_area(list, 0);
+  const RECT rows = area_of(list);
+  return {
+      {window.left + 40, window.top, window.right, window.top + form7_layout().rows.front().length},
+      {first.left, first.top, first.left + 200, last.bottom},
+      {row.left, row.top, rows.right, rows.bottom},
+      {window.left, area_of(program.control("Select All")).top, window.right, window.bottom}};
 }
 
 std::set<COLORREF> own_colors_in(const ProgramOnScreen& program) {

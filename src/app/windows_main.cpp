@@ -17,6 +17,5 @@ int main(int argc, char** argv) {
   quillvane::Win32Dialogs dialogs;
   quillvane::Win32Loop loop;
   quillvane::Program program(machine.platform(dialogs, loop));
-  quillvane::run_program(program, loop, command_line);
-  return 0;
+  return quillvane::run_program(program, loop, command_line) ? 0 : 1;
 }

@@ -1,6 +1,6 @@
 #include "view/win32/open_windows.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "view/win32/form_window.h"
@@ -24,8 +24,11 @@ std::shared_ptr<void> OpenWindows::open(Window& model) {
 }
 
 bool OpenWindows::take_key(MSG& message) {
-  return std::any_of(windows_.begin(), windows_.end(),
-                     [&message](const auto& window) { return window->take_key(message); });
+  // By number: what the key does may open further windows.
+  for (std::size_t i = 0; i < windows_.size(); ++i) {
+    if (windows_[i]->take_key(message)) return true;
+  }
+  return false;
 }
 
 }  // namespace quillvane

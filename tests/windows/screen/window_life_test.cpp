@@ -137,8 +137,7 @@ class PoorFolder : public testing::Test {
   const CopiedProgram copy_;
 };
 
-// Runs it without looking for a window; its exit code.
-DWORD run_unseen(const fs::path& program, const std::wstring& switches) {
+FileHandle start_unseen(const fs::path& program, const std::wstring& switches) {
   STARTUPINFOW startup{};
   startup.cb = sizeof(startup);
   std::wstring command = L"\"" + program.native() + L"\" " + switches;
@@ -146,11 +145,19 @@ DWORD run_unseen(const fs::path& program, const std::wstring& switches) {
   EXPECT_TRUE(CreateProcessW(program.c_str(), command.data(), nullptr, nullptr, FALSE, 0, nullptr,
                              nullptr, &startup, &process));
   CloseHandle(process.hThread);
-  const FileHandle owner(process.hProcess);
-  EXPECT_EQ(WaitForSingleObject(owner.get(), 30'000), WAIT_OBJECT_0);
+  return FileHandle(process.hProcess);
+}
+
+DWORD exit_code_of(const FileHandle& process) {
+  EXPECT_EQ(WaitForSingleObject(process.get(), 30'000), WAIT_OBJECT_0);
   DWORD code = STILL_ACTIVE;
-  GetExitCodeProcess(owner.get(), &code);
+  GetExitCodeProcess(process.get(), &code);
   return code;
+}
+
+// Runs it without looking for a window; its exit code.
+DWORD run_unseen(const fs::path& program, const std::wstring& switches) {
+  return exit_code_of(start_unseen(program, switches));
 }
 
 TEST_F(PoorFolder, ARunSwitchCountsUnseenAndLeavesItsResult) {
@@ -165,8 +172,19 @@ TEST_F(PoorFolder, ARunSwitchCountsUnseenAndLeavesItsResult) {
   EXPECT_EQ(junk_.still_there(), 4);
 }
 
-TEST_F(PoorFolder, ASwitchOfAWindowThatIsNotThereYetEndsAtOnce) {
-  EXPECT_EQ(run_unseen(copy_.executable(), L"g"), 0U);
+TEST_F(PoorFolder, TheUnseenShortcutRunTellsByItsStatusThatItIsNotThereYet) {
+  EXPECT_EQ(run_unseen(copy_.executable(), L"g"), 1U);
+}
+
+TEST_F(PoorFolder, TheSwitchOfTheShortcutWindowSaysThatItIsNotThereYet) {
+  const FileHandle process = start_unseen(copy_.executable(), L"s");
+  HWND box = nullptr;
+  ASSERT_TRUE(eventually("the box", [&] {
+    box = FindWindowW(L"#32770", L"Quillvane Disk Cleaner");
+    return box != nullptr && IsWindowVisible(box) != 0;
+  }));
+  answer_box(box, "OK");
+  EXPECT_EQ(exit_code_of(process), 1U);
 }
 
 TEST_F(PoorFolder, WithoutTheAnimationItScansAllTheSame) { scan_to_the_end(); }

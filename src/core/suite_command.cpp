@@ -27,6 +27,7 @@ void write(const Form7& form, const char* key, const std::string& name, const st
 // Each tick adds the Browsers group once more: the quick run gives an early reading and not a
 // finished count. Meant so.
 void Form7::tell_suite() {
+  if (program.stopped()) return;  // a wait in progress may still tick
   totals.totalfiles += totals.brfiles;
   totals.totalsize += totals.brsize;
   const std::string message =
@@ -35,7 +36,6 @@ void Form7::tell_suite() {
   suite.publish(message);
   if (!suite.notify(kSuiteWindow, message.size())) return;
   suite.withdraw();
-  Timer2.set_running(false);  // no event is served any more, also not by a wait in progress
   program.stop();
 }
 

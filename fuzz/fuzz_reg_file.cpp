@@ -29,16 +29,16 @@ class OneKey final : public quillvane::Registry {
  public:
   explicit OneKey(const RegKeyChange& section) : section_(section) {}
 
-  std::optional<std::vector<std::string>> sub_keys(Hive hive,
-                                                   const std::string& key) const override {
+  std::optional<std::vector<std::string>> sub_keys(Hive hive, const std::string& key,
+                                                   quillvane::KeyAccess) const override {
     if (hive != section_.hive || !key.empty() || section_.key.empty()) {
       return std::vector<std::string>();
     }
     return std::vector<std::string>{section_.key};
   }
 
-  std::optional<std::vector<NamedRegistryValue>> values(Hive hive,
-                                                        const std::string& key) const override {
+  std::optional<std::vector<NamedRegistryValue>> values(Hive hive, const std::string& key,
+                                                        quillvane::KeyAccess) const override {
     std::vector<NamedRegistryValue> list;
     if (hive != section_.hive || key != section_.key) return list;
     for (const auto& change : section_.values) {
@@ -48,7 +48,7 @@ class OneKey final : public quillvane::Registry {
   }
 
   std::optional<RegistryValue> value(Hive, const std::string&, const std::string&,
-                                     quillvane::RegistryView) const override {
+                                     quillvane::KeyAccess) const override {
     return std::nullopt;
   }
   bool create_key(Hive, const std::string&) override { return false; }

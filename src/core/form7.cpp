@@ -214,7 +214,7 @@ void Form7::connect_menus() {
            {&a5, &orvbutton611},
            {&a6, &orvbutton711},
        }) {
-    entry->on_click = [button] { button->raise_click(); };
+    entry->on_click = [button = button] { button->raise_click(); };
   }
 }
 

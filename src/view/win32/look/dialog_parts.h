@@ -23,6 +23,27 @@ constexpr ControlPlace dialog_list(std::string_view name, int row, std::string_v
   return {name, ControlKind::kPlainList, row, 0, 1, Pack::kFill, 0, says, {}, {}, {}};
 }
 
+// What the small windows have in common: the title's label, the keys, the distances. What is a
+// window's own (its name, table and sizes) is left for its own file to set.
+constexpr WindowLayout dialog_layout(int width, int height) {
+  return {.window = {},
+          .title = "Label222(1)",
+          .default_button = {},
+          .rows = {},
+          .columns = {},
+          .controls = {},
+          .hints = {},
+          .keys = kDialogKeys,
+          .undrawn = {},
+          .margin = kDialogMargin,
+          .gap = kDialogGap,
+          .tab_height = 0,
+          .width = width,
+          .height = height,
+          .least_width = width,
+          .least_height = height};
+}
+
 constexpr ControlPlace dialog_close_cross(int columns) {
   return {"chameleonButton3",
           ControlKind::kTitleButton,

@@ -24,24 +24,20 @@ constexpr ControlPlace kControls[] = {
 
 constexpr std::string_view kUndrawn[] = {"Label222(1)"};  // the title bar shows it
 
-constexpr WindowLayout kLayout = {
-    .window = "Form1",
-    .title = "Label222(1)",
-    .default_button = "Command2",
-    .rows = kRows,
-    .columns = kColumns,
-    .controls = kControls,
-    .hints = {},
-    .keys = kDialogKeys,
-    .undrawn = kUndrawn,
-    .margin = kDialogMargin,
-    .gap = kDialogGap,
-    .tab_height = 0,
-    .width = 560,
-    .height = 400,
-    .least_width = 520,
-    .least_height = 280,
-};
+constexpr WindowLayout layout() {
+  WindowLayout layout = dialog_layout(560, 400);
+  layout.window = "Form1";
+  layout.default_button = "Command2";
+  layout.rows = kRows;
+  layout.columns = kColumns;
+  layout.controls = kControls;
+  layout.undrawn = kUndrawn;
+  layout.least_width = 520;
+  layout.least_height = 280;
+  return layout;
+}
+
+constexpr WindowLayout kLayout = layout();
 
 }  // namespace
 

@@ -27,24 +27,20 @@ constexpr std::string_view kUndrawn[] = {
     "Text1",        // mailbox
 };
 
-constexpr WindowLayout kLayout = {
-    .window = "Form2",
-    .title = "Label222(1)",
-    .default_button = "Command3",
-    .rows = kRows,
-    .columns = kColumns,
-    .controls = kControls,
-    .hints = {},
-    .keys = kDialogKeys,
-    .undrawn = kUndrawn,
-    .margin = kDialogMargin,
-    .gap = kDialogGap,
-    .tab_height = 0,
-    .width = 560,
-    .height = 400,
-    .least_width = 480,
-    .least_height = 280,
-};
+constexpr WindowLayout layout() {
+  WindowLayout layout = dialog_layout(560, 400);
+  layout.window = "Form2";
+  layout.default_button = "Command3";
+  layout.rows = kRows;
+  layout.columns = kColumns;
+  layout.controls = kControls;
+  layout.undrawn = kUndrawn;
+  layout.least_width = 480;
+  layout.least_height = 280;
+  return layout;
+}
+
+constexpr WindowLayout kLayout = layout();
 
 }  // namespace
 

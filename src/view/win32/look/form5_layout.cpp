@@ -60,27 +60,18 @@ constexpr std::string_view kUndrawn[] = {
     "Text5",        // the row that is changed
 };
 
-constexpr int kWidth = 560;
-constexpr int kHeight = 332;
+constexpr WindowLayout layout() {
+  WindowLayout layout = dialog_layout(560, 332);
+  layout.window = "Form5";
+  layout.default_button = "Command2";
+  layout.rows = kRows;
+  layout.columns = kColumns;
+  layout.controls = kControls;
+  layout.undrawn = kUndrawn;
+  return layout;
+}
 
-constexpr WindowLayout kLayout = {
-    .window = "Form5",
-    .title = "Label222(1)",
-    .default_button = "Command2",
-    .rows = kRows,
-    .columns = kColumns,
-    .controls = kControls,
-    .hints = {},
-    .keys = kDialogKeys,
-    .undrawn = kUndrawn,
-    .margin = kDialogMargin,
-    .gap = kDialogGap,
-    .tab_height = 0,
-    .width = kWidth,
-    .height = kHeight,
-    .least_width = kWidth,
-    .least_height = kHeight,
-};
+constexpr WindowLayout kLayout = layout();
 
 }  // namespace
 

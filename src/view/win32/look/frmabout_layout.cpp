@@ -27,27 +27,18 @@ constexpr ControlPlace kControls[] = {
 
 constexpr std::string_view kUndrawn[] = {"Label222(1)"};  // the title bar shows it
 
-constexpr int kWidth = 400;
-constexpr int kHeight = 214;
+constexpr WindowLayout layout() {
+  WindowLayout layout = dialog_layout(400, 214);
+  layout.window = "frmabout";
+  layout.default_button = "chameleonButton3";
+  layout.rows = kRows;
+  layout.columns = kColumns;
+  layout.controls = kControls;
+  layout.undrawn = kUndrawn;
+  return layout;
+}
 
-constexpr WindowLayout kLayout = {
-    .window = "frmabout",
-    .title = "Label222(1)",
-    .default_button = "chameleonButton3",
-    .rows = kRows,
-    .columns = kColumns,
-    .controls = kControls,
-    .hints = {},
-    .keys = kDialogKeys,
-    .undrawn = kUndrawn,
-    .margin = kDialogMargin,
-    .gap = kDialogGap,
-    .tab_height = 0,
-    .width = kWidth,
-    .height = kHeight,
-    .least_width = kWidth,
-    .least_height = kHeight,
-};
+constexpr WindowLayout kLayout = layout();
 
 }  // namespace
 

@@ -55,7 +55,7 @@ void walk_rows(Form7& form, const ToldBrowser& browser, const Texts& profiles) {
   begin_category(form, browser.node);
   const std::string user_data = place_of(browser);
   // The message loop is served once for each name of the registry.
-  for (std::size_t i = 0; i < profiles.size(); ++i) form.program.do_events();
+  for (std::size_t i = 0; i < profiles.size(); ++i) form.session.do_events();
   for (const std::string& name : profiles) {
     const std::string profile = user_data + "\\" + name;
     for (const ToldRow& row : browser.rows) {

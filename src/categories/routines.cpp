@@ -24,7 +24,7 @@ constexpr Routine kBrowserRoutines[] = {iecache,   firefoxcache, googlecache,  o
 }  // namespace
 
 void run_category(Form7& form, int node) {
-  if (form.program.ended()) return;
+  if (form.session.ended()) return;
   if (node >= kFirstWindowsLeaf && node <= kLastWindowsLeaf) {
     kWindowsRoutines[node - kFirstWindowsLeaf](form);
   } else if (node >= kFirstBrowserLeaf && node <= kLastBrowserLeaf) {

@@ -89,7 +89,7 @@ std::optional<std::uint64_t> dump_file_size(const Form7& form) {
                                 "SYSTEM\\CurrentControlSet\\Control\\CrashControl", "DumpFile");
   if (!value || !std::holds_alternative<std::string>(*value)) return std::nullopt;
   const std::string path =
-      GetPath(platform.environment, form.program.Is64Bit, std::get<std::string>(*value));
+      GetPath(platform.environment, form.session.Is64Bit, std::get<std::string>(*value));
   return platform.files.file_size(path);
 }
 

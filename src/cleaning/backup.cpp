@@ -48,7 +48,7 @@ void Form7::back_up() {
   const std::string stamp =
       stamp_of(calendar_date(platform().loop.local_now()).value_or(DateTime{}));
   FileSystem& file_system = platform().files;
-  std::string folder = program.data_file("backup");
+  std::string folder = session.data_file("backup");
   for (const std::string& deeper : {std::string(), std::string("\\junk"), "\\" + stamp}) {
     folder += deeper;
     static_cast<void>(file_system.make_folder(folder));  // the first two are there after one run

@@ -41,7 +41,7 @@ std::string question(std::string_view browser) {
 
 bool Form7::may_scan_browser(std::string_view process, std::string_view spoken_name) {
   Processes& processes = platform().processes;
-  if (pid(processes, process) == 0 || silentmode != 0) return true;
+  if (pid(processes, process) == 0 || session.silentmode != 0) return true;
   const Answer answer =
       platform().dialogs.message_box(question(spoken_name), kCloseBrowserTitle, kQuestionStyle);
   if (answer != Answer::kYes) return false;
@@ -52,7 +52,7 @@ bool Form7::may_scan_browser(std::string_view process, std::string_view spoken_n
 
 void Form7::scan_browsers() {
   for (const GuardedBrowser& browser : kGuardedBrowsers) {
-    if (program.ended()) return;  // nobody is there to be asked
+    if (session.ended()) return;  // nobody is there to be asked
     if (may_scan_browser(browser.process, browser.spoken_name)) {
       run_category(*this, browser.node);
     } else {

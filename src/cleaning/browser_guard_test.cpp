@@ -43,7 +43,7 @@ std::vector<int> scanned_browsers(const Form7& form) {
 // The names of the processes that are left.
 Texts processes(ScanFixture& fixture) {
   Texts names;
-  for (const ProcessInfo& process : fixture.program->platform.processes.list()) {
+  for (const ProcessInfo& process : fixture.program->session.platform.processes.list()) {
     names.push_back(process.name);
   }
   return names;

@@ -11,6 +11,7 @@
 #include "cleaning/thumbnail_policy.h"
 #include "core/form7.h"
 #include "platform/unicode_case.h"
+#include "support/program_name.h"
 
 namespace quillvane {
 
@@ -31,7 +32,7 @@ bool lies_in_recycle_bin(std::string_view path) {
 }  // namespace
 
 bool Form7::confirm_cleaning() {
-  if (cleanmode == 1) return true;
+  if (session.cleanmode == 1) return true;
   return platform().dialogs.message_box(kQuestion, kRemoveFilesTitle,
                                         kBoxYesNo | kBoxIconInformation) == Answer::kYes;
 }
@@ -87,8 +88,8 @@ bool Form7::remove_all_rows() {
     Text13.set_text(path);
     view1.remove(1);
     bar3.set_value(progress);
-    program.do_events();
-    if (program.stopped()) return false;
+    session.do_events();
+    if (session.stopped()) return false;
   }
   return queued;
 }
@@ -102,8 +103,8 @@ void Form7::run_cleaning() {
   Text3.show();
   pndtxt();
   const bool queued = remove_all_rows();
-  if (program.stopped()) return;
-  if (queued && forceclean == 0 && suitemode == 0) {
+  if (session.stopped()) return;
+  if (queued && session.forceclean == 0 && session.suitemode == 0) {
     // The queue is written only after the user has closed the box.
     platform().dialogs.message_box(kQueuedMessage, std::string(kProgramName), kBoxIconInformation);
     pending.savepending();
@@ -118,7 +119,7 @@ void Form7::run_cleaning() {
   txtfilesize.set_text("0");
   build_tree();
   Gif89a2.hide();
-  if (forceclean == 1) program.end();
+  if (session.forceclean == 1) session.end();
 }
 
 }  // namespace quillvane

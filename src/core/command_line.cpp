@@ -26,45 +26,45 @@ constexpr RunSwitch kRunSwitches[] = {
 }  // namespace
 
 void Form7::initialize(std::string_view command_line) {
-  cmdline = lower_case(Trim(command_line));
-  cleanmode = 0;
-  program.CommandLineGiven = !cmdline.empty();
-  if (program.CommandLineGiven) {
-    const std::vector<std::string> halves = Split(cmdline, "-");
+  session.cmdline = lower_case(Trim(command_line));
+  session.cleanmode = 0;
+  session.CommandLineGiven = !session.cmdline.empty();
+  if (session.CommandLineGiven) {
+    const std::vector<std::string> halves = Split(session.cmdline, "-");
     if (halves[0] == "w4") {
       start_quick_run(part(halves, 1));
       return;
     }
     apply_run_switch(halves[0], part(halves, 1));
-    known_second_half = halves.size() == 1 || cleanmode != 0;
+    session.known_second_half = halves.size() == 1 || session.cleanmode != 0;
   }
-  if (cmdline == "g") {
-    silentmode = 2;
-    hide_at_start();
-    program.HiddenRun = 1;
+  if (session.cmdline == "g") {
+    session.silentmode = 2;
+    session.shown_at_start = false;
+    session.HiddenRun = 1;
   }
-  if (cmdline == "s") {
-    program.CommandLineGiven = true;
-    hide_at_start();
-    program.HiddenRun = 1;
+  if (session.cmdline == "s") {
+    session.CommandLineGiven = true;
+    session.shown_at_start = false;
+    session.HiddenRun = 1;
   }
 }
 
 void Form7::start_quick_run(const std::string& second_half) {
-  silentmode = 1;
-  suitemode = second_half == "c4" ? 2 : 1;
-  hide_at_start();
+  session.silentmode = 1;
+  session.suitemode = second_half == "c4" ? 2 : 1;
+  session.shown_at_start = false;
 }
 
 void Form7::apply_run_switch(const std::string& first_half, const std::string& second_half) {
   for (const RunSwitch& known : kRunSwitches) {
     if (first_half != known.first) continue;
-    silentmode = 1;
+    session.silentmode = 1;
     if (second_half == known.second) {
-      cleanmode = known.cleanmode;
-      forceclean = known.forceclean;
+      session.cleanmode = known.cleanmode;
+      session.forceclean = known.forceclean;
     }
-    hide_at_start();
+    session.shown_at_start = false;
   }
 }
 

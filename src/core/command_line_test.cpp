@@ -30,11 +30,12 @@ void PrintTo(const Outcome& outcome, std::ostream* out) {
 
 // What the Initialize event makes of a command line.
 Outcome outcome_of(ScanFixture& fixture, std::string_view line) {
-  Program program(fixture.machine.platform());
-  Form7 form(program);
+  Session session(fixture.machine.platform());
+  ModalWindows windows(session);
+  Form7 form(session, windows);
   form.initialize(line);
-  return {form.silentmode,          form.cleanmode,    form.suitemode,       form.forceclean,
-          program.CommandLineGiven, program.HiddenRun, form.shown_at_start()};
+  return {session.silentmode,       session.cleanmode, session.suitemode,     session.forceclean,
+          session.CommandLineGiven, session.HiddenRun, session.shown_at_start};
 }
 
 struct Case {
@@ -119,7 +120,7 @@ TEST(CommandLine, IsKeptTrimmedAndInLowerCase) {
   Program program(fixture.machine.platform());
   Form7 form(program);
   form.initialize("  W2-C2 ");
-  EXPECT_EQ(form.cmdline, "w2-c2");
+  EXPECT_EQ(form.session.cmdline, "w2-c2");
 }
 
 }  // namespace

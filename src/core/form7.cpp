@@ -5,6 +5,8 @@
 #include <utility>
 #include <vector>
 
+#include "support/program_name.h"
+
 namespace quillvane {
 
 namespace {
@@ -48,10 +50,11 @@ PropertyValue number_value(double number) {
 
 }  // namespace
 
-Form7::Form7(Program& owner)
+Form7::Form7(Session& shared, ModalWindows& open_windows)
     : Window("Form7"),
-      program(owner),
-      pending(owner.platform),
+      session(shared),
+      windows(open_windows),
+      pending(shared.platform),
       Text1(*this, "Text1"),
       Text3(*this, "Text3"),
       Text5(*this, "Text5"),
@@ -105,7 +108,7 @@ Form7::Form7(Program& owner)
       orvbutton711(*this, "orvbutton711"),
       Image44_0(*this, "Image44(0)"),
       Toolbar1(*this, "Toolbar1"),
-      TrayArea1(*this, "TrayArea1", owner.platform.tray),
+      TrayArea1(*this, "TrayArea1", session.platform.tray),
       scf(*this, "scf", "Scan"),
       stc(*this, "stc", "Start Cleaning"),
       sc(*this, "sc", "scan", {&scf, &stc}),
@@ -134,7 +137,7 @@ Form7::Form7(Program& owner)
       View202(*this, "View202", {"Included Folders Location", "Description"}),
       View101(*this, "View101", {"File Description", "File Type"}),
       List1(*this, "List1"),
-      Timer2(*this, "Timer2", program.platform.loop, kQuickRunInterval) {
+      Timer2(*this, "Timer2", session.platform.loop, kQuickRunInterval) {
   set_captions();
   Toolbar1.set_buttons(design_toolbar());
   for (Control* hidden :
@@ -243,14 +246,14 @@ void Form7::name_fields() {
   const auto number = [this](std::string_view name, const double& field) {
     add_field(name, [&field] { return number_value(field); });
   };
-  text("cmdline", cmdline);
+  text("cmdline", session.cmdline);
   text("ignorelist", ignorelist.text());
   text("systempaccess", systempaccess);
   for (const auto& [name, field] : std::initializer_list<std::pair<std::string_view, const int*>>{
-           {"silentmode", &silentmode},
-           {"cleanmode", &cleanmode},
-           {"suitemode", &suitemode},
-           {"forceclean", &forceclean},
+           {"silentmode", &session.silentmode},
+           {"cleanmode", &session.cleanmode},
+           {"suitemode", &session.suitemode},
+           {"forceclean", &session.forceclean},
            {"cancelflag", &cancelflag},
            {"selnode", &selnode},
            {"listfocus", &listfocus},
@@ -258,7 +261,7 @@ void Form7::name_fields() {
            {"custnode", &custnode},
            {"anydrivechecked", &anydrivechecked},
            {"fontcharset", &fontcharset},
-           {"HiddenRun", &program.HiddenRun},
+           {"HiddenRun", &session.HiddenRun},
        }) {
     whole(name, *field);
   }
@@ -277,8 +280,8 @@ void Form7::name_fields() {
        }) {
     number(name, *field);
   }
-  add_field("CommandLineGiven", [this] { return PropertyValue(program.CommandLineGiven); });
-  add_field("Is64Bit", [this] { return PropertyValue(program.Is64Bit); });
+  add_field("CommandLineGiven", [this] { return PropertyValue(session.CommandLineGiven); });
+  add_field("Is64Bit", [this] { return PropertyValue(session.Is64Bit); });
 }
 
 void Form7::resized() {

@@ -13,10 +13,10 @@
 
 #include "cleaning/pending_queue.h"
 #include "controls/tray_area.h"
-#include "core/program.h"
 #include "forms/buttons.h"
 #include "forms/list_box.h"
 #include "forms/list_view.h"
+#include "forms/modal_windows.h"
 #include "forms/progress_bar.h"
 #include "forms/simple_controls.h"
 #include "forms/text_box.h"
@@ -26,6 +26,7 @@
 #include "forms/window.h"
 #include "scan/scan_totals.h"
 #include "scan/searchable_text.h"
+#include "support/session.h"
 
 namespace quillvane {
 
@@ -41,15 +42,14 @@ struct Shadow {
 
 class Form7 final : public Window {
  public:
-  explicit Form7(Program& program);
+  // Both must outlive it.
+  Form7(Session& session, ModalWindows& windows);
 
   // --- The window's life (command_line.cpp, start_up.cpp, drive_list.cpp).
   void initialize(std::string_view command_line);  // reads the switches
   void load();                                     // fills the window; a run switch runs in it
   void activate();                                 // the window was shown
   void close() override;                           // saves the ticked drives, ends the program
-  // Whether the window appears once it is loaded; a run switch keeps it hidden.
-  [[nodiscard]] bool shown_at_start() const { return shown_at_start_; }
 
   // --- The scan (scan_driver.cpp). Failures are passed over: what cannot be read is empty.
   void autosearch();          // the whole scan
@@ -88,16 +88,11 @@ class Form7 final : public Window {
   // What the node put into the totals at its last scan.
   [[nodiscard]] NodeResult node_totals(int node) const;
 
-  Program& program;
-  [[nodiscard]] const Platform& platform() const { return program.platform; }
+  Session& session;
+  ModalWindows& windows;  // the small windows that are open
+  [[nodiscard]] const Platform& platform() const { return session.platform; }
 
   // --- State.
-  std::string cmdline;            // command line, trimmed, in lower case
-  int silentmode = 0;             // 0 with a user; 1 run switches; 2 switch "g"
-  int cleanmode = 0;              // second half of a run switch: 1 after "c", 2 after "c2", "c3"
-  int suitemode = 0;              // the suite's quick run: 1 after "w4", 2 after "w4-c4"
-  int forceclean = 0;             // 1 after "c3"
-  bool known_second_half = true;  // false after a second half that is none: it never cleans
   int cancelflag = 0;             // 1: the running scan shall stop
   SearchableText ignorelist;      // lower-case ignore entries, each followed by "|"
   SearchableText pending_filter;  // PendingFilter: the text of Text15, with an index
@@ -230,7 +225,6 @@ class Form7 final : public Window {
   // command_line.cpp
   void start_quick_run(const std::string& second_half);
   void apply_run_switch(const std::string& first_half, const std::string& second_half);
-  void hide_at_start() { shown_at_start_ = false; }
 
   // start_up.cpp
   void apply_color();
@@ -314,8 +308,6 @@ class Form7 final : public Window {
   void row_clicked(int row);
   void sort_hits(int column);
   void read_mail();
-
-  bool shown_at_start_ = true;
 };
 
 }  // namespace quillvane

@@ -15,50 +15,27 @@ constexpr std::array<std::string_view, 5> kWindows = {"Form7", "Form1", "Form2",
 
 }  // namespace
 
-Program::Program(const Platform& machine)
-    : platform(machine), trail(platform.event_log, kProgramName) {}
+Program::Program(const Platform& platform) : session(platform), windows(session) {}
 
 Program::~Program() = default;
 
 void Program::start(std::string_view command_line) {
-  form7_ = std::make_unique<Form7>(*this);
+  form7_ = std::make_unique<Form7>(session, windows);
   form7_->initialize(command_line);
   form7_->load();
-  if (ended_ || !form7_->shown_at_start()) return;
+  if (session.ended() || !session.shown_at_start) return;
   form7_->show();
   form7_->activate();
 }
 
-void Program::PumpWait(std::chrono::milliseconds time) {
-  if (!ended_) platform.loop.wait(time);
-}
-
-void Program::show_modal(ModalWindow& window) {
-  modal_windows_.push_back(&window);
-  {
-    const auto view = attach_view ? attach_view(window) : nullptr;
-    window.show();
-    platform.loop.serve_until([&] { return window.unloaded() || ended_; });
-  }
-  std::erase(modal_windows_, &window);
-  if (!window.unloaded() && !ended_) stop();
-}
-
 Window* Program::find_window(std::string_view name) const {
   if (form7_ != nullptr && same_name(form7_->name(), name)) return form7_.get();
-  const auto found =
-      std::find_if(modal_windows_.begin(), modal_windows_.end(),
-                   [name](const ModalWindow* window) { return same_name(window->name(), name); });
-  return found == modal_windows_.end() ? nullptr : *found;
+  return windows.find(name);
 }
 
 bool Program::has_window(std::string_view name) {
   return std::any_of(kWindows.begin(), kWindows.end(),
                      [name](std::string_view window) { return same_name(window, name); });
-}
-
-std::string Program::data_file(std::string_view name) const {
-  return platform.system.program_folder() + "\\" + std::string(name);
 }
 
 }  // namespace quillvane

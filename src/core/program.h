@@ -1,18 +1,11 @@
-// The running program: its machine, its windows and the few flags that all windows share.
+// The running program: its session and its windows.
 #pragma once
 
-#include <chrono>
-#include <functional>
 #include <memory>
-#include <string>
 #include <string_view>
-#include <vector>
 
-#include "forms/modal_window.h"
-#include "forms/window.h"
-#include "platform/platform.h"
-#include "support/error_trail.h"
-#include "support/program_name.h"
+#include "forms/modal_windows.h"
+#include "support/session.h"
 
 namespace quillvane {
 
@@ -20,6 +13,7 @@ class Form7;
 
 class Program {
  public:
+  // What `platform` refers to must outlive it.
   explicit Program(const Platform& platform);
   ~Program();
   Program(const Program&) = delete;
@@ -29,56 +23,21 @@ class Program {
   // Activate when it is shown. Called once.
   void start(std::string_view command_line);
 
-  // Asks the program to end: the handlers in progress run to their end, and no event is served any
-  // more.
-  void end() { ended_ = true; }
-  [[nodiscard]] bool ended() const { return ended_; }
-  // Ends the program at once: handlers in progress return where they next look at stopped().
-  void stop() {
-    stopped_ = true;
-    ended_ = true;
-  }
-  [[nodiscard]] bool stopped() const { return stopped_; }
-
-  // Lets the message loop run once.
-  void do_events() {
-    if (!ended_) platform.loop.do_events();
-  }
-  // Waits while the message loop runs.
-  void PumpWait(std::chrono::milliseconds time);
-
-  // Shows the window and serves the message loop until it is closed or the program has ended; the
-  // caller goes on then. When nobody is left who could close it, the program is stopped.
-  void show_modal(ModalWindow& window);
+  [[nodiscard]] bool started() const { return form7_ != nullptr; }
+  [[nodiscard]] bool ended() const { return session.ended(); }
 
   // The window of that name, without regard to case; null while it isn't loaded.
   [[nodiscard]] Window* find_window(std::string_view name) const;
   // Whether the program has a window of that name, be it loaded or not.
   [[nodiscard]] static bool has_window(std::string_view name);
-  [[nodiscard]] bool started() const { return form7_ != nullptr; }
   // The main window. Requires: start has begun.
   [[nodiscard]] Form7& main_window() const { return *form7_; }
 
-  // A file in the program's folder: "C:\...\junst.txt" for "junst.txt".
-  [[nodiscard]] std::string data_file(std::string_view name) const;
-
-  Platform platform;
-  ErrorTrail trail;
-
-  bool CommandLineGiven = false;  // the trimmed command line is not empty
-  bool Is64Bit = false;           // a 32-bit program on a 64-bit system
-  int HiddenRun = 0;              // 1 after the switches "g" and "s"
-  int page_value = 0;             // page that the suite's windows go by; 7 for the about window
-
-  // How a view gets a modal window on the screen: called before it is shown. What it returns is
-  // kept until the window has been closed, and let go before the window is.
-  std::function<std::shared_ptr<void>(Window& window)> attach_view;
+  Session session;
+  ModalWindows windows;
 
  private:
   std::unique_ptr<Form7> form7_;
-  std::vector<ModalWindow*> modal_windows_;  // those that wait, the innermost last
-  bool ended_ = false;
-  bool stopped_ = false;
 };
 
 }  // namespace quillvane

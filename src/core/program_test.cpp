@@ -35,7 +35,7 @@ TEST(ShowModal, WaitsUntilTheWindowIsClosed) {
   waiting.acts = {[&] { was_visible = waiting.window.visible(); }, [&] { waiting.window.close(); },
                   [] { ADD_FAILURE() << "the window was closed"; }};
 
-  waiting.program->show_modal(waiting.window);
+  waiting.program->windows.show(waiting.window);
 
   EXPECT_TRUE(was_visible);
   EXPECT_FALSE(waiting.window.visible());
@@ -50,7 +50,7 @@ TEST(ShowModal, IsFoundByItsNameWhileItWaits) {
                   [&] { waiting.window.close(); }};
   EXPECT_EQ(waiting.program->find_window("Form1"), nullptr);
 
-  waiting.program->show_modal(waiting.window);
+  waiting.program->windows.show(waiting.window);
 
   EXPECT_EQ(found, &waiting.window);
   EXPECT_EQ(waiting.program->find_window("Form1"), nullptr);
@@ -60,23 +60,23 @@ TEST(ShowModal, IsFoundByItsNameWhileItWaits) {
 
 TEST(ShowModal, EndsWithTheProgram) {
   Waiting waiting;
-  waiting.acts = {[&] { waiting.program->end(); }};
-  waiting.program->show_modal(waiting.window);
+  waiting.acts = {[&] { waiting.program->session.end(); }};
+  waiting.program->windows.show(waiting.window);
   EXPECT_FALSE(waiting.window.unloaded());
-  EXPECT_FALSE(waiting.program->stopped());
+  EXPECT_FALSE(waiting.program->session.stopped());
 }
 
 TEST(ShowModal, StopsTheProgramWhenNobodyIsLeftToCloseTheWindow) {
   Waiting waiting;
-  waiting.program->show_modal(waiting.window);
-  EXPECT_TRUE(waiting.program->stopped());
+  waiting.program->windows.show(waiting.window);
+  EXPECT_TRUE(waiting.program->session.stopped());
 }
 
 TEST(ShowModal, KeepsTheViewUntilTheWindowIsClosed) {
   Waiting waiting;
   std::weak_ptr<void> view;
   Window* attached = nullptr;
-  waiting.program->attach_view = [&](Window& window) {
+  waiting.program->windows.attach_view = [&](Window& window) {
     attached = &window;
     EXPECT_FALSE(window.visible());
     auto made = std::make_shared<int>(1);
@@ -86,7 +86,7 @@ TEST(ShowModal, KeepsTheViewUntilTheWindowIsClosed) {
   bool had_view = false;
   waiting.acts = {[&] { had_view = !view.expired(); }, [&] { waiting.window.close(); }};
 
-  waiting.program->show_modal(waiting.window);
+  waiting.program->windows.show(waiting.window);
 
   EXPECT_EQ(attached, &waiting.window);
   EXPECT_TRUE(had_view);

@@ -56,7 +56,7 @@ void Form7::begin_rescan() {
   for (Button* button : {&cmd_clean, &cmd_all, &cmd_non, &cmd_custom}) button->set_enabled(false);
   Toolbar1.refresh();
   Gif89a2.show();
-  program.PumpWait(kScanPause);
+  session.PumpWait(kScanPause);
 }
 
 void Form7::end_rescan() {
@@ -134,7 +134,7 @@ void Form7::rescan_node() {
   txtfilesize.set_text(number_text(totals.totalsize));
   end_rescan();
   show_summary(view1.count());
-  if (cleanmode == 2) write_result_file();
+  if (session.cleanmode == 2) write_result_file();
   show_found_mark();
   Text13.hide();
 }

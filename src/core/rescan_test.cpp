@@ -245,7 +245,7 @@ TEST(ScanNode, TakesTheReportBackWhenWindowsHasNothing) {
 TEST(ScanNode, WritesTheResultFileInCleanmode2Only) {
   for (const int cleanmode : {0, 1, 2}) {
     Scanned scan;
-    scan.form().cleanmode = cleanmode;
+    scan.form().session.cleanmode = cleanmode;
     scan.scan_node(2);
     EXPECT_EQ(scan.program_file("junst.txt"),
               cleanmode == 2 ? std::optional<std::string>("1|10\r\n") : std::nullopt)
@@ -311,7 +311,7 @@ TEST(CleanNode, AsksNoQuestion) {
 
 TEST(CleanNode, RemovesAReadOnlyFile) {
   WithHits staged;
-  FileSystem& files = staged.program->platform.files;
+  FileSystem& files = staged.program->session.platform.files;
   EXPECT_TRUE(files.set_attributes(WithHits::hit(5), kAttributeReadOnly | kAttributeHidden));
   staged.clean_node(5);
   EXPECT_EQ(staged.gone(), std::vector{5});

@@ -36,20 +36,20 @@ void Form7::autosearch() {
   Shape1.set_back_color(Shape2.back_color());
   Toolbar1.refresh();
   Gif89a2.show();
-  program.PumpWait(kScanPause);
-  if (program.stopped()) return;
+  session.PumpWait(kScanPause);
+  if (session.stopped()) return;
 
   pndtxt();
   startclean();
   startcleanexplorer();
   searchcustom();
-  if (program.stopped()) return;
+  if (session.stopped()) return;
 
   Tv1.select(kWindowsNode);
   loadfirstscan();
   Gif89a2.hide();
   show_summary(totals.totalfiles);
-  if (cleanmode == 2) write_result_file();
+  if (session.cleanmode == 2) write_result_file();
   show_found_mark();
   Text13.hide();
 }
@@ -117,7 +117,7 @@ void Form7::write_result_file() {
   const std::string line =
       number_text(totals.totalfiles) + "|" + number_text(totals.totalsize) + "\r\n";
   // A result that cannot be written is passed over: the run goes on to its end.
-  static_cast<void>(platform().files.write_file(program.data_file("junst.txt"), line));
+  static_cast<void>(platform().files.write_file(session.data_file("junst.txt"), line));
 }
 
 }  // namespace quillvane

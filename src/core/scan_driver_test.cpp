@@ -235,7 +235,7 @@ TEST(ResultFile, IsWrittenInCleanmode2Only) {
   for (const auto& [cleanmode, written] : {ResultCase{0, false}, {1, false}, {2, true}}) {
     JunkEverywhere fixture;
     Form7& form = fixture.start();
-    form.cleanmode = cleanmode;
+    form.session.cleanmode = cleanmode;
     form.autosearch();
     EXPECT_EQ(fixture.program_file("junst.txt").has_value(), written) << cleanmode;
   }

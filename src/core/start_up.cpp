@@ -35,18 +35,18 @@ constexpr CodePageFont kFontCharacterSets[] = {
 }  // namespace
 
 void Form7::load() {
-  program.Is64Bit = platform().system.is_wow64();
+  session.Is64Bit = platform().system.is_wow64();
   imglangselect.move_to(lbllanguage_0);
   for (const CodePageFont& font : kFontCharacterSets) {
     if (platform().system.ansi_code_page() == font.code_page) fontcharset = font.character_set;
   }
-  put_type_table_in_place(platform().files, program);
+  put_type_table_in_place(session);
   apply_color();
-  if (suitemode > 0) Timer2.set_running(true);
-  if (forceclean == 1) hide_at_start();
+  if (session.suitemode > 0) Timer2.set_running(true);
+  if (session.forceclean == 1) session.shown_at_start = false;
   show_year();
-  if (cmdline == "d") cmd_start.set_enabled(false);
-  Gif89a2.set_file(program.data_file("search.gif"));
+  if (session.cmdline == "d") cmd_start.set_enabled(false);
+  Gif89a2.set_file(session.data_file("search.gif"));
   read_system_temp_option();
   view1.set_column_width(1, kTwipsOfFileColumn);
   fill_drive_list();
@@ -56,21 +56,21 @@ void Form7::load() {
   build_tree();
   Tv1.select(1);
   read_ignore_list();
-  if (silentmode == 1) {
+  if (session.silentmode == 1) {
     Text9.set_text("");
     Text9.set_text("1");
   }
 }
 
 void Form7::activate() {
-  if (!program.CommandLineGiven) shadow = {kShadowColor, kShadowDepth};
+  if (!session.CommandLineGiven) shadow = {kShadowColor, kShadowDepth};
 }
 
 void Form7::close() {
   save_ticked_drives();
   TrayArea1.set_icon_visible(false);
   hide();
-  program.end();
+  session.end();
 }
 
 void Form7::apply_color() {
@@ -111,7 +111,7 @@ void Form7::read_system_temp_option() {
 void Form7::read_ignore_list() {
   std::string list;
   for (const std::string& line :
-       read_list_lines(platform().files, program.data_file(kIgnoreFile))) {
+       read_list_lines(platform().files, session.data_file(kIgnoreFile))) {
     list.append(Trim(line)).push_back('|');
   }
   ignorelist.set_text(lower_case(list));

@@ -21,7 +21,7 @@ TEST(StartUp, AnEmptyCommandLineShowsTheWindowWithItsShadow) {
   ScanFixture fixture;
   const Form7& form = fixture.start();
   EXPECT_TRUE(form.visible());
-  EXPECT_EQ(form.silentmode, 0);
+  EXPECT_EQ(form.session.silentmode, 0);
   EXPECT_EQ(form.shadow.color, 8421504U);
   EXPECT_EQ(form.shadow.depth, 10);
 }
@@ -96,10 +96,10 @@ TEST(StartUp, SwitchDDisablesTheStart) {
 TEST(StartUp, KnowsWhetherTheSystemHas64Bits) {
   ScanFixture narrow;
   narrow.start();
-  EXPECT_FALSE(narrow.program->Is64Bit);
+  EXPECT_FALSE(narrow.program->session.Is64Bit);
   ScanFixture wide(R"({"is64Bit": true})");
   wide.start();
-  EXPECT_TRUE(wide.program->Is64Bit);
+  EXPECT_TRUE(wide.program->session.Is64Bit);
 }
 
 struct FontCase {

@@ -27,7 +27,7 @@ void write(const Form7& form, const char* key, const std::string& name, const st
 // Each tick adds the Browsers group once more: the quick run gives an early reading and not a
 // finished count. Meant so.
 void Form7::tell_suite() {
-  if (program.stopped()) return;  // a wait in progress may still tick
+  if (session.stopped()) return;  // a wait in progress may still tick
   totals.totalfiles += totals.brfiles;
   totals.totalsize += totals.brsize;
   const std::string message =
@@ -36,39 +36,39 @@ void Form7::tell_suite() {
   suite.publish(message);
   if (!suite.notify(kSuiteWindow, message.size())) return;
   suite.withdraw();
-  program.stop();
+  session.stop();
 }
 
 void Form7::run_suite_command() {
   if (Val(Text9.text()) != 1) return;
   autosearch();
-  if (program.stopped()) return;
+  if (session.stopped()) return;
   write(*this, kResultKey, "junk-count", txtfilecont.text());
   write(*this, kResultKey, "junk-size", size_text(Val(txtfilesize.text())));
   if (view1.count() > 0) finish_suite_run();
-  if (program.stopped()) return;
+  if (session.stopped()) return;
   write(*this, kFinishedKey, "dc", "1");
-  program.end();
+  session.end();
 }
 
 // A first half alone cleans without asking; the pair w2-c2 only counts; an unknown second half
 // never cleans.
 void Form7::finish_suite_run() {
   const auto clean_if_told = [this] {
-    if (known_second_half) orvbutton2.click();
+    if (session.known_second_half) orvbutton2.click();
   };
-  if (suitemode == 0) {
-    if (cleanmode == 1 || forceclean == 1) clean_if_told();
-    if (program.stopped()) return;
+  if (session.suitemode == 0) {
+    if (session.cleanmode == 1 || session.forceclean == 1) clean_if_told();
+    if (session.stopped()) return;
     write_result_file();
   }
-  if (cleanmode == 0) {
-    if (suitemode == 1) {
+  if (session.cleanmode == 0) {
+    if (session.suitemode == 1) {
       write_result_file();
       write_junk_list();
     } else {
       clean_if_told();
-      if (program.stopped()) return;
+      if (session.stopped()) return;
       write_result_file();
     }
   }
@@ -79,7 +79,7 @@ void Form7::write_junk_list() {
   for (int row = 1; row <= view1.count(); ++row) {
     lines += view1.text(row) + "||" + view1.sub_item(row, kSizeColumn) + "\r\n";
   }
-  static_cast<void>(platform().files.write_file(program.data_file("junktmp.txt"), lines));
+  static_cast<void>(platform().files.write_file(session.data_file("junktmp.txt"), lines));
 }
 
 }  // namespace quillvane

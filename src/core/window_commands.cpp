@@ -38,33 +38,33 @@ void Form7::show_row_properties() {
 
 void Form7::start_eraser() {
   // The start simply fails when the eraser is missing.
-  platform().shell.open({"open", program.data_file("tideerase.exe"), {}, kShowNormal});
+  platform().shell.open({"open", session.data_file("tideerase.exe"), {}, kShowNormal});
 }
 
 void Form7::show_help() {
-  platform().shell.show_help(program.data_file("tidehelp.chm") + ">sec", kHelpTopic);
+  platform().shell.show_help(session.data_file("tidehelp.chm") + ">sec", kHelpTopic);
 }
 
 void Form7::open_ignore_list() {
-  if (program.find_window("Form1") != nullptr) return;  // it is open already
-  Form1 dialog(program);
+  if (windows.find("Form1") != nullptr) return;  // it is open already
+  Form1 dialog(session, Text14);
   dialog.load();
-  program.show_modal(dialog);
+  windows.show(dialog);
 }
 
 void Form7::open_custom_list() {
-  if (program.find_window("Form2") != nullptr) return;
-  Form2 dialog(program);
+  if (windows.find("Form2") != nullptr) return;
+  Form2 dialog(session, windows, Text14);
   dialog.load();
-  program.show_modal(dialog);
+  windows.show(dialog);
 }
 
 void Form7::open_about() {
-  program.page_value = kAboutPage;
-  if (program.find_window("frmabout") != nullptr) return;
-  frmabout window(program);
+  session.page_value = kAboutPage;
+  if (windows.find("frmabout") != nullptr) return;
+  frmabout window(session);
   window.load();
-  program.show_modal(window);
+  windows.show(window);
 }
 
 void Form7::leave_tray() {

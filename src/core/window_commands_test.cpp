@@ -48,9 +48,9 @@ TEST(WindowCommands, OpenTheSmallWindows) {
 TEST(WindowCommands, TheAboutWindowSetsThePage) {
   Attended attended;
   attended.form().cmd_ignore.click();
-  EXPECT_EQ(attended.program->page_value, 0);
+  EXPECT_EQ(attended.program->session.page_value, 0);
   attended.form().chameleonButton18.click();
-  EXPECT_EQ(attended.program->page_value, 7);
+  EXPECT_EQ(attended.program->session.page_value, 7);
 }
 
 struct PageCase {

@@ -7,7 +7,7 @@
 
 namespace quillvane {
 
-frmabout::frmabout(Program& program)
+frmabout::frmabout(Session& session)
     : ModalWindow("frmabout"),
       Label222_1(*this, "Label222(1)"),
       chameleonButton3(*this, "chameleonButton3"),
@@ -16,7 +16,7 @@ frmabout::frmabout(Program& program)
       Label2_2(*this, "Label2(2)"),
       Label2_3(*this, "Label2(3)"),
       Label6(*this, "Label6"),
-      program_(program) {
+      session_(session) {
   set_caption("About");
   Label222_1.set_caption("About");
   Label2_0.set_caption(kProgramName);
@@ -28,14 +28,14 @@ frmabout::frmabout(Program& program)
   chameleonButton3.on_click = [this] { unload(); };
   Label2_2.on_click = [this] { open(std::string(kWebAddress)); };
   Label2_3.on_click = [this] { open("mailto:" + std::string(kMailAddress)); };
-  Label6.on_click = [this] { open(program_.data_file("tidetrans.exe")); };
+  Label6.on_click = [this] { open(session_.data_file("tidetrans.exe")); };
 }
 
-void frmabout::load() { set_back_color(suite_color(program_.platform)); }
+void frmabout::load() { set_back_color(suite_color(session_.platform)); }
 
 // The start simply fails when there is nothing of that name.
 void frmabout::open(const std::string& what) {
-  program_.platform.shell.open({"open", what, {}, kShowNormal});
+  session_.platform.shell.open({"open", what, {}, kShowNormal});
 }
 
 }  // namespace quillvane

@@ -1,15 +1,15 @@
 // frmabout, the about window: name, version and links.
 #pragma once
 
-#include "core/program.h"
 #include "forms/buttons.h"
 #include "forms/modal_window.h"
+#include "support/session.h"
 
 namespace quillvane {
 
 class frmabout final : public ModalWindow {
  public:
-  explicit frmabout(Program& program);
+  explicit frmabout(Session& session);
 
   // Takes the suite's colour.
   void load();
@@ -25,7 +25,7 @@ class frmabout final : public ModalWindow {
  private:
   void open(const std::string& what);
 
-  Program& program_;
+  Session& session_;
 };
 
 }  // namespace quillvane

@@ -9,7 +9,7 @@
 
 namespace quillvane {
 
-Form2::Form2(Program& program)
+Form2::Form2(Session& session, ModalWindows& windows, TextBox& mail_box)
     : ModalWindow("Form2"),
       Label222_1(*this, "Label222(1)"),
       chameleonButton3(*this, "chameleonButton3"),
@@ -20,7 +20,9 @@ Form2::Form2(Program& program)
       Command2(*this, "Command2"),
       Command1(*this, "Command1"),
       Text1(*this, "Text1"),
-      program_(program) {
+      session_(session),
+      windows_(windows),
+      mail_box_(mail_box) {
   set_caption("Custom file search");
   Label222_1.set_caption("Custom file search");
   Label1.set_caption("The folders in this list are searched for junk files too");
@@ -42,13 +44,13 @@ Form2::Form2(Program& program)
 }
 
 void Form2::load() {
-  set_back_color(suite_color(program_.platform));
+  set_back_color(suite_color(session_.platform));
   read_list();
 }
 
 void Form2::read_list() {
   for (const std::string& line :
-       read_list_lines(program_.platform.files, program_.data_file(kCustomFile))) {
+       read_list_lines(session_.platform.files, session_.data_file(kCustomFile))) {
     const CustomEntry entry = custom_entry_of(line);
     set_custom_entry(view1, view1.add(""), entry);
   }
@@ -61,7 +63,7 @@ void Form2::write_list() {
   for (int row = 1; row <= view1.count(); ++row) {
     lines += line_of(custom_entry_at(view1, row)) + "\r\n";
   }
-  static_cast<void>(program_.platform.files.write_file(program_.data_file(kCustomFile), lines));
+  static_cast<void>(session_.platform.files.write_file(session_.data_file(kCustomFile), lines));
 }
 
 void Form2::read_mail() {
@@ -83,19 +85,19 @@ void Form2::row_clicked(int row) {
 }
 
 void Form2::add_entry() {
-  if (program_.find_window("Form5") != nullptr) return;
-  Form5 dialog(program_, *this);
+  if (windows_.find("Form5") != nullptr) return;
+  Form5 dialog(session_, *this, mail_box_);
   dialog.load();
-  program_.show_modal(dialog);
+  windows_.show(dialog);
 }
 
 void Form2::edit_entry() {
-  if (program_.find_window("Form5") != nullptr) return;
-  Form5 dialog(program_, *this);
+  if (windows_.find("Form5") != nullptr) return;
+  Form5 dialog(session_, *this, mail_box_);
   dialog.load();
   if (has_row()) dialog.fill(custom_entry_at(view1, row_));
   dialog.Text5.set_text(std::to_string(row_));
-  program_.show_modal(dialog);
+  windows_.show(dialog);
 }
 
 void Form2::delete_entry() {

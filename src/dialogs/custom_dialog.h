@@ -1,17 +1,19 @@
 // Form2, the user's own categories: folders to search with patterns, one entry a row.
 #pragma once
 
-#include "core/program.h"
 #include "forms/buttons.h"
 #include "forms/list_view.h"
-#include "forms/modal_window.h"
+#include "forms/modal_windows.h"
 #include "forms/text_box.h"
+#include "support/session.h"
 
 namespace quillvane {
 
 class Form2 final : public ModalWindow {
  public:
-  explicit Form2(Program& program);
+  // `windows` shows the window of one entry. A new entry writes "c" into the mail box, so that its
+  // owner builds its tree again.
+  Form2(Session& session, ModalWindows& windows, TextBox& mail_box);
 
   // Takes the suite's colour and reads the list. A missing file is an empty list.
   void load();
@@ -36,7 +38,9 @@ class Form2 final : public ModalWindow {
   void delete_entry();
   [[nodiscard]] bool has_row() const { return row_ >= 1 && row_ <= view1.count(); }
 
-  Program& program_;
+  Session& session_;
+  ModalWindows& windows_;
+  TextBox& mail_box_;
   int row_ = 0;  // clicked last; 0: none
 };
 

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "core/form7.h"
 #include "dialogs/custom_dialog.h"
 #include "dialogs/select_folder.h"
 #include "support/suite_color.h"
@@ -11,7 +10,7 @@
 
 namespace quillvane {
 
-Form5::Form5(Program& program, Form2& list)
+Form5::Form5(Session& session, Form2& list, TextBox& mail_box)
     : ModalWindow("Form5"),
       Label222_1(*this, "Label222(1)"),
       chameleonButton3(*this, "chameleonButton3"),
@@ -31,8 +30,9 @@ Form5::Form5(Program& program, Form2& list)
       Command2(*this, "Command2"),
       Command1(*this, "Command1"),
       Text5(*this, "Text5"),
-      program_(program),
-      list_(list) {
+      session_(session),
+      list_(list),
+      mail_box_(mail_box) {
   set_captions();
   Text5.set_text("0");
   Text5.hide();
@@ -61,7 +61,7 @@ void Form5::set_captions() {
   Command1.set_caption("Close");
 }
 
-void Form5::load() { set_back_color(suite_color(program_.platform)); }
+void Form5::load() { set_back_color(suite_color(session_.platform)); }
 
 void Form5::fill(const CustomEntry& entry) {
   Text1.set_text(entry.name);
@@ -73,14 +73,14 @@ void Form5::fill(const CustomEntry& entry) {
 
 // A folder that was chosen allows saving, whether it is there or not; the save looks again.
 void Form5::choose_folder() {
-  const auto folder = select_folder(program_.platform);
+  const auto folder = select_folder(session_.platform);
   if (!folder) return;
   Text2.set_text(*folder);
   Command2.set_enabled(true);
 }
 
 bool Form5::folder_exists() const {
-  const auto attributes = program_.platform.files.attributes(Text2.text());
+  const auto attributes = session_.platform.files.attributes(Text2.text());
   return attributes && (*attributes & kAttributeFolder) != 0;
 }
 
@@ -95,7 +95,7 @@ void Form5::save() {
     patterns->set_text(replace_all(patterns->text(), "|", ","));
   }
   if (!folder_exists()) {
-    program_.platform.dialogs.message_box("Please select folder !", "Folder not found",
+    session_.platform.dialogs.message_box("Please select folder !", "Folder not found",
                                           kBoxIconWarning);
     return;
   }
@@ -119,12 +119,12 @@ void Form5::change_row(double row) {
 // The question names an emptying, though nothing is emptied. Meant so: these are its words.
 bool Form5::add_row() {
   const Answer sure =
-      program_.platform.dialogs.message_box("Are you sure you want to empty this folder ?",
+      session_.platform.dialogs.message_box("Are you sure you want to empty this folder ?",
                                             "Custom folder search", kBoxYesNo | kBoxIconQuestion);
   if (sure == Answer::kNo) return false;
-  append_list_line(program_.platform.files, program_.data_file(kCustomFile), line_of(entry()));
+  append_list_line(session_.platform.files, session_.data_file(kCustomFile), line_of(entry()));
   list_.Text1.set_text("1");
-  program_.main_window().Text14.set_text("c");
+  mail_box_.set_text("c");
   return true;
 }
 

@@ -1,12 +1,12 @@
 // Form5, one of the user's own categories: a new one or one of the rows of Form2.
 #pragma once
 
-#include "core/program.h"
 #include "forms/buttons.h"
 #include "forms/list_view.h"
 #include "forms/modal_window.h"
 #include "forms/text_box.h"
 #include "support/list_files.h"
+#include "support/session.h"
 
 namespace quillvane {
 
@@ -14,8 +14,8 @@ class Form2;
 
 class Form5 final : public ModalWindow {
  public:
-  // `list` is the window it was opened from.
-  Form5(Program& program, Form2& list);
+  // `list` is the window it was opened from. A new entry writes "c" into the mail box.
+  Form5(Session& session, Form2& list, TextBox& mail_box);
 
   // Takes the suite's colour.
   void load();
@@ -50,8 +50,9 @@ class Form5 final : public ModalWindow {
   [[nodiscard]] bool folder_exists() const;
   [[nodiscard]] CustomEntry entry() const;
 
-  Program& program_;
+  Session& session_;
   Form2& list_;
+  TextBox& mail_box_;
 };
 
 // An entry as a row of Form2 holds it: the name is the text, the others are sub-items 1 to 4.

@@ -2,14 +2,13 @@
 
 #include <string>
 
-#include "core/form7.h"
 #include "dialogs/select_folder.h"
 #include "support/list_files.h"
 #include "support/suite_color.h"
 
 namespace quillvane {
 
-Form1::Form1(Program& program)
+Form1::Form1(Session& session, TextBox& mail_box)
     : ModalWindow("Form1"),
       Label222_1(*this, "Label222(1)"),
       chameleonButton3(*this, "chameleonButton3"),
@@ -19,7 +18,8 @@ Form1::Form1(Program& program)
       Command4(*this, "Command4"),
       Command2(*this, "Command2"),
       Command1(*this, "Command1"),
-      program_(program) {
+      session_(session),
+      mail_box_(mail_box) {
   set_caption("Ignore list");
   Label222_1.set_caption("Ignore list");
   Label1.set_caption("All folders and files in this list will not considered as junk files");
@@ -41,16 +41,16 @@ Form1::Form1(Program& program)
 }
 
 void Form1::load() {
-  set_back_color(suite_color(program_.platform));
+  set_back_color(suite_color(session_.platform));
   for (const std::string& line :
-       read_list_lines(program_.platform.files, program_.data_file(kIgnoreFile))) {
+       read_list_lines(session_.platform.files, session_.data_file(kIgnoreFile))) {
     view1.add(line);
   }
 }
 
 // A folder can be added any number of times.
 void Form1::add_folder() {
-  if (const auto folder = select_folder(program_.platform)) view1.add(*folder);
+  if (const auto folder = select_folder(session_.platform)) view1.add(*folder);
 }
 
 void Form1::remove_row() {
@@ -63,8 +63,8 @@ void Form1::save() {
   std::string lines;
   for (int row = 1; row <= view1.count(); ++row) lines += view1.text(row) + "\r\n";
   // Without a word when it cannot be written: the main window then reads the old list again.
-  static_cast<void>(program_.platform.files.write_file(program_.data_file(kIgnoreFile), lines));
-  program_.main_window().Text14.set_text("i");
+  static_cast<void>(session_.platform.files.write_file(session_.data_file(kIgnoreFile), lines));
+  mail_box_.set_text("i");
   unload();
 }
 

@@ -1,16 +1,18 @@
 // Form1, the ignore list: folders and files that no scan takes for junk.
 #pragma once
 
-#include "core/program.h"
 #include "forms/buttons.h"
 #include "forms/list_view.h"
 #include "forms/modal_window.h"
+#include "forms/text_box.h"
+#include "support/session.h"
 
 namespace quillvane {
 
 class Form1 final : public ModalWindow {
  public:
-  explicit Form1(Program& program);
+  // A save writes "i" into the mail box, so that its owner reads the list again.
+  Form1(Session& session, TextBox& mail_box);
 
   // Takes the suite's colour and reads the list. A missing file is an empty list.
   void load();
@@ -29,7 +31,8 @@ class Form1 final : public ModalWindow {
   void remove_row();
   void save();
 
-  Program& program_;
+  Session& session_;
+  TextBox& mail_box_;
   int row_ = 0;  // clicked last; 0: none
 };
 

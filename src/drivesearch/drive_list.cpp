@@ -92,7 +92,7 @@ void Form7::save_ticked_drives() {
         WriteRegistryString(platform().registry, Hive::kLocalMachine, kTimerKey, name, text));
   };
   for (int row = 1; row <= View2.count(); ++row) {
-    program.do_events();
+    session.do_events();
     if (!View2.checked(row)) continue;
     ++ticked;
     write("drive" + std::to_string(ticked), Trim(View2.text(row)));
@@ -103,7 +103,7 @@ void Form7::save_ticked_drives() {
 void Form7::drive_ticked() {
   anydrivechecked = 0;
   for (int row = 1; row <= View2.count() && anydrivechecked == 0; ++row) {
-    program.do_events();
+    session.do_events();
     if (View2.checked(row)) anydrivechecked = 1;
   }
 }

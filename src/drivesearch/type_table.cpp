@@ -4,9 +4,10 @@
 
 namespace quillvane {
 
-void put_type_table_in_place(FileSystem& files, const Program& program) {
-  const std::string table = program.data_file("tmptype.txt");
-  const std::string factory_table = program.data_file("tmptype.orv");
+void put_type_table_in_place(const Session& session) {
+  FileSystem& files = session.platform.files;
+  const std::string table = session.data_file("tmptype.txt");
+  const std::string factory_table = session.data_file("tmptype.orv");
   if (files.attributes(table)) return;
   const auto content = files.read_file(factory_table);
   // The factory table is only given up once its copy is there.

@@ -75,9 +75,9 @@ class FullDisk final : public NoFiles {
 
 TEST(TypeTable, TheFactoryTableIsKeptWhenItsCopyCannotBeWritten) {
   ScanFixture fixture;
-  const Program program(fixture.machine.platform());
-  FullDisk disk(program.data_file("tmptype.orv"));
-  put_type_table_in_place(disk, program);
+  const Session plain(fixture.machine.platform());
+  FullDisk disk(plain.data_file("tmptype.orv"));
+  put_type_table_in_place(Session(fixture.machine.platform().with({.files = &disk})));
   EXPECT_EQ(disk.removed, Texts{});
 }
 

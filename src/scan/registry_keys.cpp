@@ -24,7 +24,7 @@ int fEnumKey(Form7& form, const std::string& hive, const std::string& sub_key, s
     const std::string_view trimmed = Trim(name);
     names += trimmed;
     if (!trimmed.empty()) form.List1.add(trimmed);
-    form.program.do_events();
+    form.session.do_events();
   }
   return 0;
 }

@@ -10,13 +10,13 @@ Walk::Walk(Form7& form, int category, Keep keep)
     : form_(form), category_(category), keep_(keep), tests_(form.pending_filter, form.ignorelist) {}
 
 void Walk::run(const std::string& path, const std::string& pattern) {
-  Search search(form_.platform().files, form_.program.trail);
+  Search search(form_.platform().files, form_.session.trail);
   search.SearchFiles(path, pattern, true);
   judge(search.Files());
 }
 
 void Walk::run(const ListedPart& part, const std::string& path, const std::string& pattern) {
-  Search search(form_.platform().files, form_.program.trail);
+  Search search(form_.platform().files, form_.session.trail);
   search.search_listing(part, path, pattern);
   judge(search.Files());
 }
@@ -34,11 +34,11 @@ bool Walk::judge_folder(const FolderRun& run) {
   tests_.enter(path);
   for (std::uint32_t i = 0; i < run.count; ++i) {
     const ListedFile file = run.folder->file(run.first + i);
-    form_.program.do_events();
+    form_.session.do_events();
     full_name_.assign(path).append(file.name);
     form_.Text13.set_text(full_name_);
     // Nobody waits for the rest of a scan whose window was closed.
-    if (form_.cancelflag == 1 || form_.program.ended()) return false;
+    if (form_.cancelflag == 1 || form_.session.ended()) return false;
     const std::optional<double> size = FileSizeToDouble(file.size_high, file.size_low);
     // The folder of a file whose size overflowed was never set: it is in no list.
     const bool ignored = size && tests_.ignored();

@@ -58,7 +58,7 @@ TEST(Srch, APatternAlsoMatchesAShortName) {
 
 TEST(Srch, ListsHiddenSystemAndReadOnlyFiles) {
   Walked walked({"C:\\T\\hidden", "C:\\T\\readonly", "C:\\T\\system"});
-  FileSystem& files = walked.program->platform.files;
+  FileSystem& files = walked.program->session.platform.files;
   EXPECT_TRUE(files.set_attributes("C:\\T\\hidden", kAttributeHidden));
   EXPECT_TRUE(files.set_attributes("C:\\T\\readonly", kAttributeReadOnly));
   EXPECT_TRUE(files.set_attributes("C:\\T\\system", kAttributeSystem));

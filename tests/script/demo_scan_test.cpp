@@ -128,7 +128,7 @@ bool finds_something(const FileSystem& files, const std::string& folder, const c
 }
 
 TEST_F(DemoScan, EachRowOfTheChromiumBrowsersFindsSomething) {
-  const FileSystem& files = program_->platform.files;
+  const FileSystem& files = program_->session.platform.files;
   for (const ToldBrowser& browser : told_browsers()) {
     for (const ToldRow& row : browser.rows) {
       std::string folder = place_of(browser) + (row.base == 'R' ? "" : "\\Default") + row.suffix;
@@ -175,7 +175,7 @@ TEST_F(DemoScan, EachRowOfTheOtherBrowsersFindsSomething) {
       {"AppData\\Local\\UCBrowser\\User Data_i18n\\Default\\Cache", "*.*"},
   };
   for (const Row& row : kRows) {
-    EXPECT_TRUE(finds_something(program_->platform.files,
+    EXPECT_TRUE(finds_something(program_->session.platform.files,
                                 std::string("C:\\Users\\User\\") + row.folder, row.pattern))
         << row.folder << " " << row.pattern;
   }
@@ -202,7 +202,7 @@ TEST_F(DemoScan, LeavesTheOtherFilesAlone) {
 TEST_F(DemoScan, LeavesTheBookmarksOfChrome) {
   const std::string bookmarks =
       "C:\\Users\\User\\AppData\\Local\\Google\\Chrome\\User Data\\Default\\Bookmarks";
-  EXPECT_TRUE(program_->platform.files.file_size(bookmarks).has_value());
+  EXPECT_TRUE(program_->session.platform.files.file_size(bookmarks).has_value());
   EXPECT_FALSE(listed_paths().contains(lower_case(bookmarks)));
 }
 

@@ -7,7 +7,7 @@ void ProgramDriver::start(const std::string& command_line) {
   program_.start(command_line);
 }
 
-void ProgramDriver::wait(std::chrono::milliseconds time) { program_.PumpWait(time); }
+void ProgramDriver::wait(std::chrono::milliseconds time) { program_.session.PumpWait(time); }
 
 Window* ProgramDriver::find_window(std::string_view name) const {
   return program_.find_window(name);

@@ -14,12 +14,12 @@ namespace quillvane {
 namespace {
 
 // The switches "s" and "g" ask for the shortcut window: the first shows it, the other hides it.
-bool wants_shortcut_window(const Program& program) { return program.HiddenRun == 1; }
+bool wants_shortcut_window(const Program& program) { return program.session.HiddenRun == 1; }
 
 void tell_shortcut_window_is_missing(const Program& program) {
-  if (program.main_window().silentmode != 0) return;  // nobody is there to read it
-  program.platform.dialogs.message_box("The shortcut tool is not part of this version yet.",
-                                       std::string(kProgramName), kBoxIconInformation);
+  if (program.session.silentmode != 0) return;  // nobody is there to read it
+  program.session.platform.dialogs.message_box("The shortcut tool is not part of this version yet.",
+                                               std::string(kProgramName), kBoxIconInformation);
 }
 
 }  // namespace
@@ -39,11 +39,11 @@ bool run_program(Program& program, Win32Loop& loop, const std::string& command_l
 
   OpenWindows windows([&program] { return program.ended(); });
   const auto main_window = windows.open(program.main_window());
-  program.attach_view = [&windows](Window& window) { return windows.open(window); };
+  program.windows.attach_view = [&windows](Window& window) { return windows.open(window); };
   loop.set_message_filter([&windows](MSG& message) { return windows.take_key(message); });
   loop.serve_until([&program] { return program.ended(); });
   loop.set_message_filter(nullptr);
-  program.attach_view = nullptr;
+  program.windows.attach_view = nullptr;
   return true;
 }
 

@@ -27,11 +27,12 @@ bool overlap(const Box& one, const Box& other) {
 class Layouts : public testing::TestWithParam<const char*> {
  protected:
   Layouts() {
-    fixture_.start();
-    list_ = std::make_unique<Form2>(*fixture_.program);
-    entry_ = std::make_unique<Form5>(*fixture_.program, *list_);
-    ignored_ = std::make_unique<Form1>(*fixture_.program);
-    about_ = std::make_unique<frmabout>(*fixture_.program);
+    TextBox& mail = fixture_.start().Text14;
+    Session& session = fixture_.program->session;
+    list_ = std::make_unique<Form2>(session, fixture_.program->windows, mail);
+    entry_ = std::make_unique<Form5>(session, *list_, mail);
+    ignored_ = std::make_unique<Form1>(session, mail);
+    about_ = std::make_unique<frmabout>(session);
   }
 
   [[nodiscard]] const Window& window() const {

@@ -1,0 +1,63 @@
+// What all windows of the running program share: its machine, its error trail, what its command
+// line asked for, and its end.
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <string_view>
+
+#include "platform/platform.h"
+#include "support/error_trail.h"
+
+namespace quillvane {
+
+class Session {
+ public:
+  explicit Session(const Platform& platform);
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+
+  // Asks the program to end: the handlers in progress run to their end, and no event is served any
+  // more.
+  void end() { ended_ = true; }
+  [[nodiscard]] bool ended() const { return ended_; }
+  // Ends the program at once: handlers in progress return where they next look at stopped().
+  void stop() {
+    stopped_ = true;
+    ended_ = true;
+  }
+  [[nodiscard]] bool stopped() const { return stopped_; }
+
+  // Lets the message loop run once.
+  void do_events() {
+    if (!ended_) platform.loop.do_events();
+  }
+  // Waits while the message loop runs.
+  void PumpWait(std::chrono::milliseconds time);
+
+  // A file in the program's folder: "C:\...\junst.txt" for "junst.txt".
+  [[nodiscard]] std::string data_file(std::string_view name) const;
+
+  Platform platform;
+  ErrorTrail trail;
+
+  // --- What the command line asked for.
+  std::string cmdline;            // trimmed, in lower case
+  bool CommandLineGiven = false;  // the trimmed command line is not empty
+  int HiddenRun = 0;              // 1 after the switches "g" and "s"
+  int silentmode = 0;             // 0 with a user; 1 run switches; 2 switch "g"
+  int cleanmode = 0;              // second half of a run switch: 1 after "c", 2 after "c2", "c3"
+  int suitemode = 0;              // the suite's quick run: 1 after "w4", 2 after "w4-c4"
+  int forceclean = 0;             // 1 after "c3"
+  bool known_second_half = true;  // false after a second half that is none: it never cleans
+  bool shown_at_start = true;     // a run switch keeps the main window hidden
+
+  bool Is64Bit = false;  // a 32-bit program on a 64-bit system
+  int page_value = 0;    // page that the suite's windows go by; 7 for the about window
+
+ private:
+  bool ended_ = false;
+  bool stopped_ = false;
+};
+
+}  // namespace quillvane

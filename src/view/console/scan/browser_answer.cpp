@@ -1,7 +1,7 @@
 #include "view/console/scan/browser_answer.h"
 
-#include "categories/catalogue.h"
 #include "cleaning/questions.h"
+#include "scan/catalogue.h"
 
 namespace quillvane {
 

@@ -2,8 +2,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "categories/catalogue.h"
 #include "cleaning/questions.h"
+#include "scan/catalogue.h"
 
 namespace quillvane {
 

@@ -1,5 +1,7 @@
 #include "view/console/scan/browser_answer.h"
 
+#include <CLI/CLI.hpp>
+
 #include "cleaning/questions.h"
 #include "scan/catalogue.h"
 

@@ -32,7 +32,7 @@ struct Subject {
   const char* name;
   const char* folder;  // below the user's folder, in the host's writing
   const char* key;
-  void (*routine)(Form7&);
+  void (*routine)(JunkPage&);
   std::uint64_t Finds::*finds;
 };
 

@@ -90,7 +90,7 @@ TEST(BrowserReading, TheNextScanReadsTheDiskAnew) {
 
 TEST(BrowserReading, UcBrowserAndFirefoxReadTheirFoldersOnceToo) {
   struct Case {
-    void (*routine)(Form7&);
+    void (*routine)(JunkPage&);
     std::string folder;
     Texts files;
   };

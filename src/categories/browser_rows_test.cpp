@@ -81,7 +81,7 @@ using Cases = std::vector<RowCase>;
 struct Browser {
   const char* key;
   const char* user_data;  // below the user's local data
-  void (*routine)(Form7&);
+  void (*routine)(JunkPage&);
   Cases cases;
 };
 
@@ -166,7 +166,7 @@ TEST(BrowserRows, ThoseOfTheFolderOfAllProfilesRunOnceForEachProfile) {
 
 // A place of a browser without profiles in the registry; all below the user's folder.
 struct PlaceCase {
-  void (*routine)(Form7&);
+  void (*routine)(JunkPage&);
   const char* planted;
   const char* decoy;
 };

@@ -12,7 +12,7 @@
 namespace quillvane {
 namespace {
 
-using Routine = void (*)(Form7&);
+using Routine = void (*)(JunkPage&);
 
 // A Chromium browser with profiles that the registry names. `found` and `decoys` are below its
 // folder of all profiles.

@@ -1,25 +1,25 @@
 #include "categories/category_frame.h"
 
-#include "core/form7.h"
 #include "scan/catalogue.h"
+#include "scan/junk_page.h"
 
 namespace quillvane {
 
-void begin_category(Form7& form, int node) {
-  form.Tv1.set_node_color(node, kGreen);
-  form.Tv1.refresh();
-  form.totals.catfiles = 0;
-  form.totals.catsize = 0;
+void begin_category(JunkPage& page, int node) {
+  page.Tv1.set_node_color(node, kGreen);
+  page.Tv1.refresh();
+  page.totals.catfiles = 0;
+  page.totals.catsize = 0;
 }
 
-void end_category(Form7& form, int node) {
-  form.append_result(node, form.totals.catfiles, form.totals.catsize);
-  form.Tv1.set_node_color(node, form.totals.catfiles >= 1 ? kDarkRed : 0);
-  add_to_group(form, node);
+void end_category(JunkPage& page, int node) {
+  page.append_result(node, page.totals.catfiles, page.totals.catsize);
+  page.Tv1.set_node_color(node, page.totals.catfiles >= 1 ? kDarkRed : 0);
+  add_to_group(page, node);
 }
 
-void add_to_group(Form7& form, int node) {
-  ScanTotals& totals = form.totals;
+void add_to_group(JunkPage& page, int node) {
+  ScanTotals& totals = page.totals;
   if (node < kBrowsersNode) {
     totals.winfiles += totals.catfiles;
     totals.winsize += totals.catsize;
@@ -27,7 +27,7 @@ void add_to_group(Form7& form, int node) {
     totals.brfiles += totals.catfiles;
     totals.brsize += totals.catsize;
   }
-  form.node_results[node] = {totals.catfiles, totals.catsize};
+  page.node_results[node] = {totals.catfiles, totals.catsize};
 }
 
 }  // namespace quillvane

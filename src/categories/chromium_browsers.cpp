@@ -7,7 +7,7 @@
 
 #include "categories/category_frame.h"
 #include "categories/place.h"
-#include "core/form7.h"
+#include "scan/junk_page.h"
 #include "scan/kept_listing.h"
 #include "scan/registry_keys.h"
 
@@ -143,43 +143,43 @@ std::vector<std::string> patterns_of(const std::vector<Row>& rows) {
   return patterns;
 }
 
-void scan_row(Form7& form, KeptListing& listing, const Row& row, const std::string& user_data,
+void scan_row(JunkPage& page, KeptListing& listing, const Row& row, const std::string& user_data,
               const std::string& profile, int node) {
   const std::string folder = (row.below == Below::kUserData ? user_data : profile) + row.suffix;
   if (row.below != Below::kExtensions) {
     listing.srch(folder, row.pattern, node);
     return;
   }
-  for (const std::string& name : subfolder_names(form, folder)) {
+  for (const std::string& name : subfolder_names(page, folder)) {
     listing.srch(folder + "\\" + name + "\\def\\GPUCache", row.pattern, node);
   }
 }
 
 // The profiles are those that the registry names; the disk is not asked for them. Without the key
 // nothing is scanned, whatever the folders hold.
-void scan_browser(Form7& form, const Browser& browser) {
-  begin_category(form, browser.node);
-  form.List1.clear();
+void scan_browser(JunkPage& page, const Browser& browser) {
+  begin_category(page, browser.node);
+  page.List1.clear();
   std::string joined_names;  // the list box has them one by one
-  fEnumKey(form, "HKCU", browser.profiles_key, joined_names);
-  const std::string user_data = form.platform().environment.get("USERPROFILE") + browser.user_data;
+  fEnumKey(page, "HKCU", browser.profiles_key, joined_names);
+  const std::string user_data = page.platform().environment.get("USERPROFILE") + browser.user_data;
   const std::vector<Row> rows = all_rows(browser);
-  KeptListing listing(form, user_data, patterns_of(rows));
-  for (int i = 0; i < form.List1.count(); ++i) {
-    const std::string profile = user_data + "\\" + form.List1.item(i);
-    for (const Row& row : rows) scan_row(form, listing, row, user_data, profile, browser.node);
+  KeptListing listing(page, user_data, patterns_of(rows));
+  for (int i = 0; i < page.List1.count(); ++i) {
+    const std::string profile = user_data + "\\" + page.List1.item(i);
+    for (const Row& row : rows) scan_row(page, listing, row, user_data, profile, browser.node);
   }
-  end_category(form, browser.node);
+  end_category(page, browser.node);
 }
 
 }  // namespace
 
-void googlecache(Form7& form) { scan_browser(form, kChrome); }
-void edgecache(Form7& form) { scan_browser(form, kEdge); }
-void bravecache(Form7& form) { scan_browser(form, kBrave); }
-void vivaldicache(Form7& form) { scan_browser(form, kVivaldi); }
-void Torchcache(Form7& form) { scan_browser(form, kTorch); }
-void maxcache(Form7& form) { scan_browser(form, kMaxthon); }
-void ydxcache(Form7& form) { scan_browser(form, kYandex); }
+void googlecache(JunkPage& page) { scan_browser(page, kChrome); }
+void edgecache(JunkPage& page) { scan_browser(page, kEdge); }
+void bravecache(JunkPage& page) { scan_browser(page, kBrave); }
+void vivaldicache(JunkPage& page) { scan_browser(page, kVivaldi); }
+void Torchcache(JunkPage& page) { scan_browser(page, kTorch); }
+void maxcache(JunkPage& page) { scan_browser(page, kMaxthon); }
+void ydxcache(JunkPage& page) { scan_browser(page, kYandex); }
 
 }  // namespace quillvane

@@ -3,14 +3,14 @@
 
 namespace quillvane {
 
-class Form7;
+class JunkPage;
 
-void googlecache(Form7& form);   // node 15
-void edgecache(Form7& form);     // node 17: extension state and session storage too
-void bravecache(Form7& form);    // node 18
-void vivaldicache(Form7& form);  // node 19: the browsing history too
-void Torchcache(Form7& form);    // node 20
-void maxcache(Form7& form);      // node 21
-void ydxcache(Form7& form);      // node 22: the browsing history too
+void googlecache(JunkPage& page);   // node 15
+void edgecache(JunkPage& page);     // node 17: extension state and session storage too
+void bravecache(JunkPage& page);    // node 18
+void vivaldicache(JunkPage& page);  // node 19: the browsing history too
+void Torchcache(JunkPage& page);    // node 20
+void maxcache(JunkPage& page);      // node 21
+void ydxcache(JunkPage& page);      // node 22: the browsing history too
 
 }  // namespace quillvane

@@ -6,8 +6,8 @@
 #include "categories/category_frame.h"
 #include "categories/place.h"
 #include "categories/url_cache_rows.h"
-#include "core/form7.h"
 #include "platform/unicode_case.h"
+#include "scan/junk_page.h"
 #include "scan/kept_listing.h"
 
 namespace quillvane {
@@ -78,55 +78,55 @@ const std::vector<Pass>& firefox_passes() {
 
 }  // namespace
 
-void iecache(Form7& form) {
-  begin_category(form, kInternetExplorerNode);
-  ListUrlCacheEntries(form, kInternetExplorerNode);
-  walk_places(form, kInternetExplorerNode, kInternetExplorer);
-  end_category(form, kInternetExplorerNode);
+void iecache(JunkPage& page) {
+  begin_category(page, kInternetExplorerNode);
+  ListUrlCacheEntries(page, kInternetExplorerNode);
+  walk_places(page, kInternetExplorerNode, kInternetExplorer);
+  end_category(page, kInternetExplorerNode);
 }
 
 // Four rows look through each profile in Roaming; those of Local lie apart and are walked as they
 // come.
-void firefoxcache(Form7& form) {
-  begin_category(form, kFirefoxNode);
-  const std::string home = form.platform().environment.get("USERPROFILE");
+void firefoxcache(JunkPage& page) {
+  begin_category(page, kFirefoxNode);
+  const std::string home = page.platform().environment.get("USERPROFILE");
   const auto folder_of = [&](Tree tree) {
     return home + (tree == Tree::kLocal ? "\\AppData\\Local" : "\\AppData\\Roaming") +
            "\\Mozilla\\Firefox\\Profiles";
   };
   KeptListing listing(
-      form, folder_of(Tree::kRoaming),
+      page, folder_of(Tree::kRoaming),
       {"*.*", "places.sqlite.*", "sessionCheckpoints.json", "sessionstore.jsonlz4"});
   for (const Pass& pass : firefox_passes()) {
-    for (const std::string& profile : subfolder_names(form, folder_of(pass.profiles))) {
+    for (const std::string& profile : subfolder_names(page, folder_of(pass.profiles))) {
       for (const ProfileRow& row : pass.rows) {
         listing.srch(folder_of(row.tree) + "\\" + profile + row.suffix, row.pattern, kFirefoxNode);
       }
     }
   }
-  end_category(form, kFirefoxNode);
+  end_category(page, kFirefoxNode);
 }
 
-void operacache(Form7& form) {
-  begin_category(form, kOperaNode);
-  const std::string home = form.platform().environment.get("USERPROFILE");
-  KeptListing listing(form, home + kOperaStable, {"*.*", "*-journal.*", "*.tmp"});
+void operacache(JunkPage& page) {
+  begin_category(page, kOperaNode);
+  const std::string home = page.platform().environment.get("USERPROFILE");
+  KeptListing listing(page, home + kOperaStable, {"*.*", "*-journal.*", "*.tmp"});
   for (const Place& place : kOpera) listing.srch(home + place.suffix, place.pattern, kOperaNode);
-  end_category(form, kOperaNode);
+  end_category(page, kOperaNode);
 }
 
-void uccache(Form7& form) {
-  begin_category(form, kUcBrowserNode);
+void uccache(JunkPage& page) {
+  begin_category(page, kUcBrowserNode);
   const std::string folder =
-      form.platform().environment.get("USERPROFILE") + "\\AppData\\Local\\UCBrowser";
-  KeptListing listing(form, folder, {"*.tmp", "*-journal.*", "*.*"});
+      page.platform().environment.get("USERPROFILE") + "\\AppData\\Local\\UCBrowser";
+  KeptListing listing(page, folder, {"*.tmp", "*-journal.*", "*.*"});
   listing.srch(folder + "\\", "*.tmp", kUcBrowserNode);
   listing.srch(folder + "\\", "*-journal.*", kUcBrowserNode);
-  for (const std::string& name : subfolder_names(form, folder)) {
+  for (const std::string& name : subfolder_names(page, folder)) {
     if (lower_case(name).find("user data") == std::string::npos) continue;
     listing.srch(folder + "\\" + name + "\\Default\\Cache", "*.*", kUcBrowserNode);
   }
-  end_category(form, kUcBrowserNode);
+  end_category(page, kUcBrowserNode);
 }
 
 }  // namespace quillvane

@@ -3,11 +3,11 @@
 
 namespace quillvane {
 
-class Form7;
+class JunkPage;
 
-void iecache(Form7& form);       // node 13: the URL cache and two folders
-void firefoxcache(Form7& form);  // node 14: two folder trees, profiles found on disk
-void operacache(Form7& form);    // node 16: a fixed list for one profile
-void uccache(Form7& form);       // node 23: profiles found on disk
+void iecache(JunkPage& page);       // node 13: the URL cache and two folders
+void firefoxcache(JunkPage& page);  // node 14: two folder trees, profiles found on disk
+void operacache(JunkPage& page);    // node 16: a fixed list for one profile
+void uccache(JunkPage& page);       // node 23: profiles found on disk
 
 }  // namespace quillvane

@@ -7,7 +7,7 @@
 
 namespace quillvane {
 
-class Form7;
+class JunkPage;
 
 enum class Take {
   kMatching,    // every file that matches
@@ -25,13 +25,13 @@ struct Place {
 };
 
 // The whole routine of a category that is a list of places: begins it, walks them, ends it.
-void scan_places(Form7& form, int node, std::span<const Place> places);
+void scan_places(JunkPage& page, int node, std::span<const Place> places);
 
 // Walks the places, between begin_category and end_category.
-void walk_places(Form7& form, int node, std::span<const Place> places);
+void walk_places(JunkPage& page, int node, std::span<const Place> places);
 
 // The names of the direct subfolders, in the order of the file system; empty when there are none.
-[[nodiscard]] std::vector<std::string> subfolder_names(const Form7& form,
+[[nodiscard]] std::vector<std::string> subfolder_names(const JunkPage& page,
                                                        const std::string& folder);
 
 }  // namespace quillvane

@@ -3,14 +3,14 @@
 #include "categories/chromium_browsers.h"
 #include "categories/other_browsers.h"
 #include "categories/windows_categories.h"
-#include "core/form7.h"
 #include "scan/catalogue.h"
+#include "scan/junk_page.h"
 
 namespace quillvane {
 
 namespace {
 
-using Routine = void (*)(Form7&);
+using Routine = void (*)(JunkPage&);
 
 // From node 2 on.
 constexpr Routine kWindowsRoutines[] = {systemp, utemp,    thumb,        memdump,  errorrep,
@@ -23,12 +23,12 @@ constexpr Routine kBrowserRoutines[] = {iecache,   firefoxcache, googlecache,  o
 
 }  // namespace
 
-void run_category(Form7& form, int node) {
-  if (form.session.ended()) return;
+void run_category(JunkPage& page, int node) {
+  if (page.session.ended()) return;
   if (node >= kFirstWindowsLeaf && node <= kLastWindowsLeaf) {
-    kWindowsRoutines[node - kFirstWindowsLeaf](form);
+    kWindowsRoutines[node - kFirstWindowsLeaf](page);
   } else if (node >= kFirstBrowserLeaf && node <= kLastBrowserLeaf) {
-    kBrowserRoutines[node - kFirstBrowserLeaf](form);
+    kBrowserRoutines[node - kFirstBrowserLeaf](page);
   }
 }
 

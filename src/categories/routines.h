@@ -3,10 +3,10 @@
 
 namespace quillvane {
 
-class Form7;
+class JunkPage;
 
 // Runs the routine of a leaf of the groups "Windows" and "Browsers", without any question. Other
 // nodes are passed over.
-void run_category(Form7& form, int node);
+void run_category(JunkPage& page, int node);
 
 }  // namespace quillvane

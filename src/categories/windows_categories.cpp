@@ -7,7 +7,7 @@
 
 #include "categories/category_frame.h"
 #include "categories/place.h"
-#include "core/form7.h"
+#include "scan/junk_page.h"
 #include "support/registry_values.h"
 #include "support/stored_path.h"
 
@@ -83,58 +83,58 @@ constexpr Place kWindowsHistory[] = {
 };
 
 // The size of the memory dump file; nothing when there is none.
-std::optional<std::uint64_t> dump_file_size(const Form7& form) {
-  const Platform& platform = form.platform();
+std::optional<std::uint64_t> dump_file_size(const JunkPage& page) {
+  const Platform& platform = page.platform();
   auto value = GetRegistryValue(platform.registry, Hive::kLocalMachine,
                                 "SYSTEM\\CurrentControlSet\\Control\\CrashControl", "DumpFile");
   if (!value || !std::holds_alternative<std::string>(*value)) return std::nullopt;
   const std::string path =
-      GetPath(platform.environment, form.session.Is64Bit, std::get<std::string>(*value));
+      GetPath(platform.environment, page.session.Is64Bit, std::get<std::string>(*value));
   return platform.files.file_size(path);
 }
 
 }  // namespace
 
-void systemp(Form7& form) { scan_places(form, 2, kSystemTemporary); }
-void utemp(Form7& form) { scan_places(form, 3, kUserTemporary); }
-void thumb(Form7& form) { scan_places(form, 4, kThumbnails); }
-void errorrep(Form7& form) { scan_places(form, 6, kErrorReports); }
-void logfile(Form7& form) { scan_places(form, 7, kLogFiles); }
-void downloadprog(Form7& form) { scan_places(form, 9, kDownloadedPrograms); }
-void wupdates(Form7& form) { scan_places(form, 10, kWindowsUpdates); }
-void whistory(Form7& form) { scan_places(form, 11, kWindowsHistory); }
+void systemp(JunkPage& page) { scan_places(page, 2, kSystemTemporary); }
+void utemp(JunkPage& page) { scan_places(page, 3, kUserTemporary); }
+void thumb(JunkPage& page) { scan_places(page, 4, kThumbnails); }
+void errorrep(JunkPage& page) { scan_places(page, 6, kErrorReports); }
+void logfile(JunkPage& page) { scan_places(page, 7, kLogFiles); }
+void downloadprog(JunkPage& page) { scan_places(page, 9, kDownloadedPrograms); }
+void wupdates(JunkPage& page) { scan_places(page, 10, kWindowsUpdates); }
+void whistory(JunkPage& page) { scan_places(page, 11, kWindowsHistory); }
 
 // Leaves the running numbers as the category before it left them, so those are added to the group
 // a second time, and the dump file is in no total and in no row: meant so.
-void memdump(Form7& form) {
+void memdump(JunkPage& page) {
   constexpr int kNode = 5;
-  form.Tv1.set_node_color(kNode, kGreen);
-  form.Tv1.refresh();
-  const auto size = dump_file_size(form);
-  const std::string caption = form.Tv1.node(kNode).text;
+  page.Tv1.set_node_color(kNode, kGreen);
+  page.Tv1.refresh();
+  const auto size = dump_file_size(page);
+  const std::string caption = page.Tv1.node(kNode).text;
   if (size) {
-    form.Tv1.set_text(kNode,
-                      caption + " ( 1 file, " + form.size_text(static_cast<double>(*size)) + " )");
-    form.Tv1.set_node_color(kNode, kDarkRed);
+    page.Tv1.set_text(kNode,
+                      caption + " ( 1 file, " + page.size_text(static_cast<double>(*size)) + " )");
+    page.Tv1.set_node_color(kNode, kDarkRed);
   } else {
-    form.Tv1.set_text(kNode, caption + " ( 0 files, 0 Byte )");
-    form.Tv1.set_node_color(kNode, 0);
+    page.Tv1.set_text(kNode, caption + " ( 0 files, 0 Byte )");
+    page.Tv1.set_node_color(kNode, 0);
   }
-  add_to_group(form, kNode);
+  add_to_group(page, kNode);
 }
 
 // The folder of one user on each fixed drive; of all users when no SID is known.
-void recycleb(Form7& form) {
+void recycleb(JunkPage& page) {
   constexpr int kNode = 8;
-  begin_category(form, kNode);
-  const Platform& platform = form.platform();
-  for (const std::string& drive : form.Drive1.items()) {
+  begin_category(page, kNode);
+  const Platform& platform = page.platform();
+  for (const std::string& drive : page.Drive1.items()) {
     const std::string root = drive.substr(0, 1) + ":\\";
     if (platform.drives.type(root) != DriveType::kFixed) continue;
-    form.srch(root + "$RECYCLE.BIN\\" + GetHiveListSid(platform.registry, platform.files), "*.*",
+    page.srch(root + "$RECYCLE.BIN\\" + GetHiveListSid(platform.registry, platform.files), "*.*",
               kNode);
   }
-  end_category(form, kNode);
+  end_category(page, kNode);
 }
 
 }  // namespace quillvane

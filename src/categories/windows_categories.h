@@ -5,17 +5,17 @@
 
 namespace quillvane {
 
-class Form7;
+class JunkPage;
 
-void systemp(Form7& form);       // node 2
-void utemp(Form7& form);         // node 3
-void thumb(Form7& form);         // node 4
-void memdump(Form7& form);       // node 5: reports the dump file, adds no row for it
-void errorrep(Form7& form);      // node 6
-void logfile(Form7& form);       // node 7
-void recycleb(Form7& form);      // node 8
-void downloadprog(Form7& form);  // node 9
-void wupdates(Form7& form);      // node 10
-void whistory(Form7& form);      // node 11
+void systemp(JunkPage& page);       // node 2
+void utemp(JunkPage& page);         // node 3
+void thumb(JunkPage& page);         // node 4
+void memdump(JunkPage& page);       // node 5: reports the dump file, adds no row for it
+void errorrep(JunkPage& page);      // node 6
+void logfile(JunkPage& page);       // node 7
+void recycleb(JunkPage& page);      // node 8
+void downloadprog(JunkPage& page);  // node 9
+void wupdates(JunkPage& page);      // node 10
+void whistory(JunkPage& page);      // node 11
 
 }  // namespace quillvane

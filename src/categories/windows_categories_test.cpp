@@ -11,7 +11,7 @@
 namespace quillvane {
 namespace {
 
-using Routine = void (*)(Form7&);
+using Routine = void (*)(JunkPage&);
 
 // The window on a machine that has these files of 10 bytes each.
 struct Staged : ScanFixture {

@@ -1,7 +1,8 @@
-// Copying the ticked files aside before they go, with an index and a history in the registry.
+#include "cleaning/backup.h"
+
 #include <string>
 
-#include "core/form7.h"
+#include "scan/junk_page.h"
 #include "support/date_text.h"
 #include "support/file_date.h"
 #include "support/registry_text.h"
@@ -42,26 +43,26 @@ void write_history(Registry& registry, const std::string& stamp) {
 
 }  // namespace
 
-void Form7::back_up() {
+void back_up(JunkPage& page) {
   double files = 0;
   double bytes = 0;
   const std::string stamp =
-      stamp_of(calendar_date(platform().loop.local_now()).value_or(DateTime{}));
-  FileSystem& file_system = platform().files;
-  std::string folder = session.data_file("backup");
+      stamp_of(calendar_date(page.platform().loop.local_now()).value_or(DateTime{}));
+  FileSystem& file_system = page.platform().files;
+  std::string folder = page.session.data_file("backup");
   for (const std::string& deeper : {std::string(), std::string("\\junk"), "\\" + stamp}) {
     folder += deeper;
     static_cast<void>(file_system.make_folder(folder));  // the first two are there after one run
   }
-  write_history(platform().registry, stamp);
+  write_history(page.platform().registry, stamp);
 
   std::string index;
-  Bar2.set_range(1, view1.count());
-  Bar2.show();
-  for (int row = 1; row <= view1.count(); ++row) {
-    Bar2.set_value(row);
-    if (!view1.checked(row)) continue;
-    const std::string path = view1.text(row);
+  page.Bar2.set_range(1, page.view1.count());
+  page.Bar2.show();
+  for (int row = 1; row <= page.view1.count(); ++row) {
+    page.Bar2.set_value(row);
+    if (!page.view1.checked(row)) continue;
+    const std::string path = page.view1.text(row);
     index += GetFileFolder(path) + "," + GetFileName(path) + "," + path + "\r\n";
     const std::string copy = folder + "\\" + GetFileName(path);
     static_cast<void>(file_system.copy_file(path, copy));  // it stands in the index all the same
@@ -69,9 +70,9 @@ void Form7::back_up() {
     bytes += static_cast<double>(file_system.file_size(path).value_or(0));
   }
   static_cast<void>(file_system.write_file(folder + ".txt", index));
-  txtfilecont.set_text(number_text(files));
-  txtfilesize.set_text(number_text(bytes));
-  Bar2.hide();
+  page.txtfilecont.set_text(number_text(files));
+  page.txtfilesize.set_text(number_text(bytes));
+  page.Bar2.hide();
 }
 
 }  // namespace quillvane

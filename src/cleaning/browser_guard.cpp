@@ -1,13 +1,12 @@
-// The Browsers group of a whole scan: each browser that runs is asked about before its files are
-// looked at, since it holds them open.
+#include "cleaning/browser_guard.h"
+
 #include <string>
 #include <string_view>
 
 #include "categories/routines.h"
 #include "cleaning/browser_processes.h"
-#include "cleaning/questions.h"
-#include "core/form7.h"
 #include "scan/catalogue.h"
+#include "scan/junk_page.h"
 
 namespace quillvane {
 
@@ -37,44 +36,31 @@ std::string question(std::string_view browser) {
          " is running. would you like to close it? otherwise tracks can't be cleaned.";
 }
 
-}  // namespace
-
-bool Form7::may_scan_browser(std::string_view process, std::string_view spoken_name) {
-  Processes& processes = platform().processes;
-  if (pid(processes, process) == 0 || session.silentmode != 0) return true;
-  const Answer answer =
-      platform().dialogs.message_box(question(spoken_name), kCloseBrowserTitle, kQuestionStyle);
+bool may_scan_browser(JunkPage& page, std::string_view process, std::string_view spoken_name) {
+  Processes& processes = page.platform().processes;
+  if (pid(processes, process) == 0 || page.session.silentmode != 0) return true;
+  const Answer answer = page.platform().dialogs.message_box(question(spoken_name),
+                                                            kCloseBrowserTitle, kQuestionStyle);
   if (answer != Answer::kYes) return false;
   TerminateByName(processes, process);
   KillProcessByName(processes, process);
   return true;
 }
 
-void Form7::scan_browsers() {
-  for (const GuardedBrowser& browser : kGuardedBrowsers) {
-    if (session.ended()) return;  // nobody is there to be asked
-    if (may_scan_browser(browser.process, browser.spoken_name)) {
-      run_category(*this, browser.node);
-    } else {
-      skipped_browsers.push_back(browser.node);
-    }
-    if (cancelflag == 1) return;
-  }
-  run_category(*this, kUnguardedNode);
-}
+}  // namespace
 
-void Form7::startcleanexplorer() {
-  totals.brfiles = 0;
-  totals.brsize = 0;
-  totals.catfiles = 0;
-  totals.catsize = 0;
-  skipped_browsers.clear();
-  scan_browsers();
-  totals.totalfiles += totals.brfiles;
-  totals.totalsize += totals.brsize;
-  add_group_result(kBrowsersNode, totals.brfiles, totals.brsize);
-  enter_state(ButtonState::kCustomGroup);  // the custom group can no longer be cancelled
-  add_to_count_and_size(totals.brfiles, totals.brsize);
+void scan_browsers(JunkPage& page) {
+  page.skipped_browsers.clear();
+  for (const GuardedBrowser& browser : kGuardedBrowsers) {
+    if (page.session.ended()) return;  // nobody is there to be asked
+    if (may_scan_browser(page, browser.process, browser.spoken_name)) {
+      run_category(page, browser.node);
+    } else {
+      page.skipped_browsers.push_back(browser.node);
+    }
+    if (page.cancelflag == 1) return;
+  }
+  run_category(page, kUnguardedNode);
 }
 
 }  // namespace quillvane

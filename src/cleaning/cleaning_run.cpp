@@ -1,16 +1,16 @@
-// The cleaning run: every row of the hit list goes, whatever its tick. A file that stays is queued
-// for the next restart.
+#include "cleaning/cleaning_run.h"
+
 #include <string>
 #include <vector>
 
 #include "categories/url_cache_rows.h"
 #include "cleaning/deletion.h"
+#include "cleaning/pending_queue.h"
 #include "cleaning/permission.h"
-#include "cleaning/questions.h"
 #include "cleaning/statistics.h"
 #include "cleaning/thumbnail_policy.h"
-#include "core/form7.h"
 #include "platform/unicode_case.h"
+#include "scan/junk_page.h"
 #include "support/program_name.h"
 
 namespace quillvane {
@@ -29,106 +29,98 @@ bool lies_in_recycle_bin(std::string_view path) {
   return in_recycle_bin(path.substr(path.empty() ? 0 : 1));
 }
 
-}  // namespace
-
-bool Form7::confirm_cleaning() {
-  if (session.cleaning_ended()) return false;
-  if (session.cleanmode == 1) return true;
-  return platform().dialogs.message_box(kQuestion, kRemoveFilesTitle,
-                                        kBoxYesNo | kBoxIconInformation) == Answer::kYes;
-}
-
-void Form7::clean_button() {
-  if (!confirm_cleaning()) return;
-  orvbutton2.click();
-  if (session.cleaning_ended()) return;
-  enter_state(ButtonState::kScanning);
-  autosearch();
-  // The start and cancel buttons stay as the scan has left them.
-  for (Button* button : {&cmd_clean, &cmd_all, &cmd_non, &cmd_custom, &cmd_ignore}) {
-    button->set_enabled(true);
-  }
-  enable_report(true);
-}
-
 // True when the file stayed and was queued.
-bool Form7::remove_row(const std::string& row_text) {
+bool remove_row(JunkPage& page, PendingQueue& pending, const std::string& row_text) {
   std::string path = row_text;
   if (lies_in_recycle_bin(path)) {
     // One row of the bin is enough to empty all of it, on all drives; and each does so again.
-    platform().shell.empty_recycle_bin();
-    platform().shell.update_recycle_bin_icon();
+    page.platform().shell.empty_recycle_bin();
+    page.platform().shell.update_recycle_bin_icon();
     return false;
   }
-  DeleteAFile(platform(), path);
-  if (!StillThere(platform(), path) || pending_filter.contains(lower_case(path))) return false;
+  DeleteAFile(page.platform(), path);
+  if (!StillThere(page.platform(), path) || page.pending_filter.contains(lower_case(path)))
+    return false;
   pending.add(path);
   return true;
 }
 
 // Tells the machine's files what is coming, one portion ahead of the rows in hand.
-void Form7::expect_removals(int first_row) {
+void expect_removals(const JunkPage& page, int first_row) {
   const int rows = first_row == 1 ? 2 * kRowsTold : kRowsTold;
   std::vector<std::string> paths;
-  for (int row = first_row; row < first_row + rows && row <= view1.count(); ++row) {
-    paths.push_back(view1.text(row));
+  for (int row = first_row; row < first_row + rows && row <= page.view1.count(); ++row) {
+    paths.push_back(page.view1.text(row));
   }
-  if (!paths.empty()) platform().files.expect_removals(paths);
+  if (!paths.empty()) page.platform().files.expect_removals(paths);
 }
 
 // Each handled row leaves the list, whatever came of it. True when one was queued.
-bool Form7::remove_all_rows() {
+bool remove_all_rows(JunkPage& page, PendingQueue& pending) {
   bool queued = false;
-  const int total = view1.count();
-  bar3.set_range(0, total + 2);
-  bar3.show();
-  for (int progress = 0; progress < total && view1.count() > 0; ++progress) {
-    if (progress % kRowsTold == 0) expect_removals(progress == 0 ? 1 : 1 + kRowsTold);
-    const std::string path = view1.text(1);
-    if (remove_row(path)) queued = true;
-    Text13.set_text("Removing : " + path);
-    Text13.set_text(path);
-    view1.remove(1);
-    bar3.set_value(progress);
-    session.do_events();
-    if (session.cleaning_ended()) break;
+  const int total = page.view1.count();
+  page.bar3.set_range(0, total + 2);
+  page.bar3.show();
+  for (int progress = 0; progress < total && page.view1.count() > 0; ++progress) {
+    if (progress % kRowsTold == 0) expect_removals(page, progress == 0 ? 1 : 1 + kRowsTold);
+    const std::string path = page.view1.text(1);
+    if (remove_row(page, pending, path)) queued = true;
+    page.Text13.set_text("Removing : " + path);
+    page.Text13.set_text(path);
+    page.view1.remove(1);
+    page.bar3.set_value(progress);
+    page.session.do_events();
+    if (page.session.cleaning_ended()) break;
   }
   return queued;
 }
 
 // The queue is written only after the user has closed the box.
-void Form7::promise_restart() {
-  if (!session.cleaning_ended()) {
-    platform().dialogs.message_box(kQueuedMessage, std::string(kProgramName), kBoxIconInformation);
+void promise_restart(const JunkPage& page, PendingQueue& pending) {
+  if (!page.session.cleaning_ended()) {
+    page.platform().dialogs.message_box(kQueuedMessage, std::string(kProgramName),
+                                        kBoxIconInformation);
   }
   pending.savepending();
 }
 
-void Form7::run_cleaning() {
-  if (view1.count() < 1 || session.cleaning_ended()) return;
-  Gif89a2.show();
-  pending.loadpending();
-  Label11.set_caption("Removing selected files please wait..");
-  disablethumbcache(platform().registry);
-  Text3.show();
-  pndtxt();
-  const bool queued = remove_all_rows();
-  if (queued && session.forceclean == 0 && session.suitemode == 0) promise_restart();
-  bar3.hide();
-  enablethumbcache(platform().registry);
-  Text3.hide();
-  if (!session.cleaning_ended()) finish_cleaning();
-  Gif89a2.hide();
-  if (session.forceclean == 1) session.end();
+// What follows when every row was handled.
+void finish_cleaning(JunkPage& page) {
+  deleteiecach(page);
+  // The totals of the scan, whatever was really removed.
+  add_to_statistics(page.platform().registry, page.txtfilecont.text(), page.txtfilesize.text());
+  page.txtfilecont.set_text("0");
+  page.txtfilesize.set_text("0");
+  page.build_tree();
 }
 
-void Form7::finish_cleaning() {
-  deleteiecach(*this);
-  // The totals of the scan, whatever was really removed.
-  add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());
-  txtfilecont.set_text("0");
-  txtfilesize.set_text("0");
-  build_tree();
+}  // namespace
+
+bool confirm_cleaning(const JunkPage& page) {
+  if (page.session.cleaning_ended()) return false;
+  if (page.session.cleanmode == 1) return true;
+  return page.platform().dialogs.message_box(kQuestion, kRemoveFilesTitle,
+                                             kBoxYesNo | kBoxIconInformation) == Answer::kYes;
+}
+
+void run_cleaning(JunkPage& page, PendingQueue& pending) {
+  if (page.view1.count() < 1 || page.session.cleaning_ended()) return;
+  page.Gif89a2.show();
+  pending.loadpending();
+  page.Label11.set_caption("Removing selected files please wait..");
+  disablethumbcache(page.platform().registry);
+  page.Text3.show();
+  pndtxt(page);
+  const bool queued = remove_all_rows(page, pending);
+  if (queued && page.session.forceclean == 0 && page.session.suitemode == 0) {
+    promise_restart(page, pending);
+  }
+  page.bar3.hide();
+  enablethumbcache(page.platform().registry);
+  page.Text3.hide();
+  if (!page.session.cleaning_ended()) finish_cleaning(page);
+  page.Gif89a2.hide();
+  if (page.session.forceclean == 1) page.session.end();
 }
 
 }  // namespace quillvane

@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "platform/multi_string.h"
+#include "platform/unicode_case.h"
+#include "scan/junk_page.h"
 
 namespace quillvane {
 
@@ -23,6 +25,14 @@ std::optional<std::vector<std::string>> read_pending_value(const Platform& platf
   const auto value = platform.registry.value(Hive::kLocalMachine, kKey, kValue);
   if (!value || value->type != RegistryType::kMultiSz) return std::nullopt;
   return multi_string_list(value->data);
+}
+
+void pndtxt(JunkPage& page) {
+  std::string filter;
+  if (const auto queued = read_pending_value(page.platform())) {
+    for (const std::string& text : *queued) filter.append("|").append(text);
+  }
+  page.Text15.set_text(lower_case(filter));
 }
 
 void PendingQueue::loadpending() {

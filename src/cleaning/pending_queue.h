@@ -11,9 +11,14 @@
 
 namespace quillvane {
 
+class JunkPage;
+
 // What the value holds, each text as it is; empty ones, also at the end, are kept. Before it is
 // read the account of the environment is given access to the key.
 [[nodiscard]] std::optional<std::vector<std::string>> read_pending_value(const Platform& platform);
+
+// Reads the files queued for the restart into Text15, so that no scan lists them again.
+void pndtxt(JunkPage& page);
 
 // The mirror of the value during a cleaning run.
 class PendingQueue {

@@ -4,8 +4,8 @@
 
 namespace quillvane {
 
-TrayArea::TrayArea(Window& window, std::string_view name, Tray& tray)
-    : Control(window, name), tray_(tray) {}
+TrayArea::TrayArea(Window& window, std::string_view name, Tray& tray, std::string_view tool_tip)
+    : Control(window, name), tray_(tray), tool_tip_(tool_tip) {}
 
 TrayArea::~TrayArea() {
   if (icon_visible_) tray_.remove();

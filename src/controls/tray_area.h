@@ -11,7 +11,7 @@ namespace quillvane {
 
 class TrayArea : public Control {
  public:
-  TrayArea(Window& window, std::string_view name, Tray& tray);
+  TrayArea(Window& window, std::string_view name, Tray& tray, std::string_view tool_tip = {});
   // Takes the icon away.
   ~TrayArea() override;
 

@@ -1,10 +1,8 @@
 // Which buttons are enabled when, and the commands that start and stop a scan.
-//
-// The command buttons and the tool bar keep their states apart: a door changes the buttons of its
-// own kind.
 #include <initializer_list>
 
-#include "core/form7.h"
+#include "cleaning/cleaning_run.h"
+#include "core/junk_commands.h"
 
 namespace quillvane {
 
@@ -14,7 +12,7 @@ constexpr int kToolbarReport = 14;
 
 }  // namespace
 
-void Form7::enter_state(ButtonState state) {
+void JunkCommands::enter_state(ButtonState state) {
   const auto result_buttons = [this](bool enabled) {
     for (Button* button : {&cmd_clean, &cmd_all, &cmd_non}) button->set_enabled(enabled);
   };
@@ -45,7 +43,7 @@ void Form7::enter_state(ButtonState state) {
       list_buttons(true);
       break;
     case ButtonState::kCancelling:
-      if (view1.count() >= 1) result_buttons(true);
+      if (junk_.view1.count() >= 1) result_buttons(true);
       cmd_start.set_enabled(true);
       cmd_cancel.set_enabled(false);
       list_buttons(true);
@@ -53,65 +51,86 @@ void Form7::enter_state(ButtonState state) {
   }
 }
 
-void Form7::enable_report(bool enabled) {
+void JunkCommands::enable_report(bool enabled) {
   cmd_report.set_enabled(enabled);
   Toolbar1.set_button_enabled(kToolbarReport, enabled);
 }
 
-void Form7::start_button() {
+void JunkCommands::start_button() {
   enter_state(ButtonState::kScanning);
-  autosearch();
+  scan_all();
   enter_state(ButtonState::kDone);
 }
 
 // The start button is live while the old scan still unwinds: a click there begins a new scan inside
 // the old one. That is how it behaves.
-void Form7::cancel_button() {
-  cancelflag = 1;
+void JunkCommands::cancel_button() {
+  junk_.cancelflag = 1;
   enter_state(ButtonState::kCancelling);
 }
 
-void Form7::enable_toolbar(std::initializer_list<int> numbers, bool enabled) {
+void JunkCommands::clean_button() {
+  if (!confirm_cleaning(junk_)) return;
+  orvbutton2.click();
+  if (session.cleaning_ended()) return;
+  enter_state(ButtonState::kScanning);
+  scan_all();
+  // The start and cancel buttons stay as the scan has left them.
+  for (Button* button : {&cmd_clean, &cmd_all, &cmd_non, &cmd_custom, &cmd_ignore}) {
+    button->set_enabled(true);
+  }
+  enable_report(true);
+}
+
+void JunkCommands::enter_rescan(bool running) {
+  cmd_start.set_enabled(!running);
+  cmd_cancel.set_enabled(running);
+  for (Button* button : {&cmd_clean, &cmd_all, &cmd_non, &cmd_custom}) {
+    button->set_enabled(!running);
+  }
+}
+
+void JunkCommands::enable_toolbar(std::initializer_list<int> numbers, bool enabled) {
   for (const int number : numbers) Toolbar1.set_button_enabled(number, enabled);
 }
 
-void Form7::toolbar_start() {
+void JunkCommands::toolbar_start() {
   enable_toolbar({5, 6, 9, 10, 12, 13, 1, 2, 3}, false);
   enable_toolbar({7}, true);
-  autosearch();
+  scan_all();
   enable_toolbar({5, 6, 9, 10, 12, 13}, true);
 }
 
-void Form7::toolbar_clean() {
-  if (!confirm_cleaning()) return;
+void JunkCommands::toolbar_clean() {
+  if (!confirm_cleaning(junk_)) return;
   orvbutton2.click();
   if (!session.cleaning_ended()) toolbar_start();
 }
 
-void Form7::toolbar_cancel() {
-  cancelflag = 1;
-  if (view1.count() >= 1) enable_toolbar({6, 9, 10}, true);
+void JunkCommands::toolbar_cancel() {
+  junk_.cancelflag = 1;
+  if (junk_.view1.count() >= 1) enable_toolbar({6, 9, 10}, true);
   enable_toolbar({1, 2, 3, 5}, true);
   enable_toolbar({7}, false);
   enable_toolbar({12, 13}, true);
 }
 
-void Form7::toolbar_page(const Button& page) {
+void JunkCommands::toolbar_page(const std::function<void()>& open_page) {
   enable_toolbar({5}, true);
   enable_toolbar({6, 9, 10, 12}, false);
-  page.raise_click();
+  open_page();
 }
 
-void Form7::toolbar_button(int number) {
+void JunkCommands::toolbar_button(int number) {
   switch (number) {
     case 1:
-      toolbar_page(chameleonButton6);
+      toolbar_page(to_drives);
       break;
     case 2:
-      toolbar_page(orvbutton8);
+      toolbar_page(to_types);
       break;
     case 3:
-      toolbar_page(chameleonButton1);
+      toolbar_page(to_lists);
       break;
     case 5:
       toolbar_start();
@@ -123,19 +142,19 @@ void Form7::toolbar_button(int number) {
       toolbar_cancel();
       break;
     case 9:
-      show_everything(true);
+      junk_.show_everything(true);
       break;
     case 10:
-      show_everything(false);
+      junk_.show_everything(false);
       break;
     case 12:
-      open_custom_list();
+      on_custom_list();
       break;
     case 13:
-      open_ignore_list();
+      on_ignore_list();
       break;
     case kToolbarReport:
-      orvbutton3.raise_click();
+      write_report();
       break;
     case 16:
       start_eraser();

@@ -23,6 +23,25 @@ constexpr RunSwitch kRunSwitches[] = {
     {"w3", "c3", 2, 1},
 };
 
+void start_quick_run(Session& session, const std::string& second_half) {
+  session.silentmode = 1;
+  session.suitemode = second_half == "c4" ? 2 : 1;
+  session.shown_at_start = false;
+}
+
+void apply_run_switch(Session& session, const std::string& first_half,
+                      const std::string& second_half) {
+  for (const RunSwitch& known : kRunSwitches) {
+    if (first_half != known.first) continue;
+    session.silentmode = 1;
+    if (second_half == known.second) {
+      session.cleanmode = known.cleanmode;
+      session.forceclean = known.forceclean;
+    }
+    session.shown_at_start = false;
+  }
+}
+
 }  // namespace
 
 void Form7::initialize(std::string_view command_line) {
@@ -32,10 +51,10 @@ void Form7::initialize(std::string_view command_line) {
   if (session.CommandLineGiven) {
     const std::vector<std::string> halves = Split(session.cmdline, "-");
     if (halves[0] == "w4") {
-      start_quick_run(part(halves, 1));
+      start_quick_run(session, part(halves, 1));
       return;
     }
-    apply_run_switch(halves[0], part(halves, 1));
+    apply_run_switch(session, halves[0], part(halves, 1));
     session.known_second_half = halves.size() == 1 || session.cleanmode != 0;
   }
   if (session.cmdline == "g") {
@@ -47,24 +66,6 @@ void Form7::initialize(std::string_view command_line) {
     session.CommandLineGiven = true;
     session.shown_at_start = false;
     session.HiddenRun = 1;
-  }
-}
-
-void Form7::start_quick_run(const std::string& second_half) {
-  session.silentmode = 1;
-  session.suitemode = second_half == "c4" ? 2 : 1;
-  session.shown_at_start = false;
-}
-
-void Form7::apply_run_switch(const std::string& first_half, const std::string& second_half) {
-  for (const RunSwitch& known : kRunSwitches) {
-    if (first_half != known.first) continue;
-    session.silentmode = 1;
-    if (second_half == known.second) {
-      session.cleanmode = known.cleanmode;
-      session.forceclean = known.forceclean;
-    }
-    session.shown_at_start = false;
   }
 }
 

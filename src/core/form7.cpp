@@ -1,287 +1,96 @@
-// The main window's controls: their design-time state, and which event runs what.
 #include "core/form7.h"
 
-#include <cmath>
-#include <utility>
-#include <vector>
+#include <initializer_list>
 
-#include "support/program_name.h"
+#include "dialogs/about_window.h"
+#include "dialogs/custom_dialog.h"
+#include "dialogs/ignore_dialog.h"
 
 namespace quillvane {
 
 namespace {
 
-constexpr std::chrono::milliseconds kQuickRunInterval{500};
-
-std::vector<std::string> hit_columns() { return {"File Name", "Size", "Date"}; }
-
-// Indexes 4, 8, 11 and 15 are separators; the others carry the pictures of the tool bar's list.
-// Buttons 1 to 4 belong to the drive search and are hidden at the start.
-std::vector<ToolbarButton> design_toolbar() {
-  constexpr bool kOff = false;
-  const auto separator = [](bool visible = true) { return ToolbarButton{0, true, true, visible}; };
-  const auto button = [](int image, bool enabled = true, bool visible = true) {
-    return ToolbarButton{image, false, enabled, visible};
-  };
-  return {
-      button(1, true, false),
-      button(2, true, false),
-      button(3, true, false),
-      separator(false),
-      button(4),
-      button(10, kOff),
-      button(5, kOff),
-      separator(),
-      button(6, kOff),
-      button(7, kOff),
-      separator(),
-      button(11),
-      button(12),
-      button(8, kOff),
-      separator(),
-      button(13),
-  };
-}
-
-PropertyValue number_value(double number) {
-  if (number == std::floor(number)) return static_cast<std::int64_t>(number);
-  return number;
-}
+constexpr int kAboutPage = 7;
 
 }  // namespace
 
 Form7::Form7(Session& shared, ModalWindows& open_windows)
-    : Window("Form7"),
-      session(shared),
-      windows(open_windows),
-      pending(shared.platform),
-      Text1(*this, "Text1"),
-      Text3(*this, "Text3"),
-      Text5(*this, "Text5"),
-      Text8(*this, "Text8"),
-      Text9(*this, "Text9"),
-      Text13(*this, "Text13"),
-      Text14(*this, "Text14"),
-      Text15(*this, "Text15"),
-      txtfilecont(*this, "txtfilecont"),
-      txtfilesize(*this, "txtfilesize"),
-      Tv1(*this, "Tv1"),
-      view1(*this, "view1", hit_columns()),
-      view5(*this, "view5", hit_columns()),
-      Label11(*this, "Label11"),
-      Shape1(*this, "Shape1"),
-      Shape2(*this, "Shape2"),
-      Gif89a2(*this, "Gif89a2"),
-      bar3(*this, "bar3"),
-      Bar2(*this, "Bar2"),
-      Label12_0(*this, "Label12(0)"),
-      Label12_1(*this, "Label12(1)"),
-      Frame2(*this, "Frame2"),
-      Frame4(*this, "Frame4"),
-      Frame6(*this, "Frame6"),
-      Frame8(*this, "Frame8"),
-      Frame80(*this, "Frame80"),
-      cmd_start(*this, "cmd_start"),
-      cmd_clean(*this, "cmd_clean"),
-      cmd_cancel(*this, "cmd_cancel"),
-      cmd_all(*this, "cmd_all"),
-      cmd_non(*this, "cmd_non"),
-      cmd_custom(*this, "cmd_custom"),
-      cmd_ignore(*this, "cmd_ignore"),
-      cmd_report(*this, "cmd_report"),
-      orvbutton2(*this, "orvbutton2"),
-      orvbutton3(*this, "orvbutton3"),
-      Command9(*this, "Command9"),
-      Command14(*this, "Command14"),
-      chameleonButton2(*this, "chameleonButton2"),
-      chameleonButton9(*this, "chameleonButton9"),
-      chameleonButton12(*this, "chameleonButton12"),
-      chameleonButton13(*this, "chameleonButton13"),
-      chameleonButton18(*this, "chameleonButton18"),
-      chameleonButton6(*this, "chameleonButton6"),
-      orvbutton8(*this, "orvbutton8"),
-      chameleonButton1(*this, "chameleonButton1"),
-      command111(*this, "command111"),
-      command811(*this, "command811"),
-      command911(*this, "command911"),
-      orvbutton611(*this, "orvbutton611"),
-      orvbutton711(*this, "orvbutton711"),
-      Image44_0(*this, "Image44(0)"),
-      Toolbar1(*this, "Toolbar1"),
-      TrayArea1(*this, "TrayArea1", session.platform.tray),
-      scf(*this, "scf", "Scan"),
-      stc(*this, "stc", "Start Cleaning"),
-      sc(*this, "sc", "scan", {&scf, &stc}),
-      b1(*this, "b1", "Remove Selected File(s)"),
-      b2(*this, "b2", "Remove All Files Listed"),
-      b4(*this, "b4", "Locate Selected File"),
-      b5(*this, "b5", "File Properties"),
-      b7(*this, "b7", "Select All"),
-      b8(*this, "b8", "Select None"),
-      b(*this, "b", "remove", {&b1, &b2, &b4, &b5, &b7, &b8}),
-      a1(*this, "a1", "Add New Item"),
-      a2(*this, "a2", "Edit Selected Item"),
-      a3(*this, "a3", "Remove Selected Item"),
-      a5(*this, "a5", "Select All Items"),
-      a6(*this, "a6", "Select none"),
-      a(*this, "a", "foption", {&a1, &a2, &a3, &a5, &a6}),
-      lbllanguage_0(*this, "lbllanguage(0)"),
-      imglangselect(*this, "imglangselect"),
-      pictrlang(*this, "pictrlang"),
-      Drive1(*this, "Drive1"),
-      View2(*this, "View2", {"Name", "Total", "Free Space", "Status"}),
-      View10(*this, "View10", hit_columns()),
-      View4(*this, "View4", hit_columns()),
-      View1000(*this, "View1000", {"File Description ", "File Type", "Files", "Space Used (Byte)"}),
-      View201(*this, "View201", {"Excluded Files and Folders Location", "Description"}),
-      View202(*this, "View202", {"Included Folders Location", "Description"}),
-      View101(*this, "View101", {"File Description", "File Type"}),
-      List1(*this, "List1"),
-      Timer2(*this, "Timer2", session.platform.loop, kQuickRunInterval) {
-  set_captions();
-  Toolbar1.set_buttons(design_toolbar());
-  for (Control* hidden :
-       std::initializer_list<Control*>{&Text1,       &Text3,           &Text5,    &Text8,
-                                       &Text9,       &Text13,          &Text14,   &Text15,
-                                       &txtfilecont, &txtfilesize,     &Gif89a2,  &pictrlang,
-                                       &Drive1,      &List1,           &Frame4,   &Frame6,
-                                       &Frame8,      &Frame80,         &bar3,     &Bar2,
-                                       &orvbutton2,  &orvbutton3,      &Command9, &chameleonButton6,
-                                       &orvbutton8,  &chameleonButton1}) {
-    hidden->hide();
-  }
-  enter_state(ButtonState::kFresh);
-  connect_controls();
-  connect_menus();
-  connect_lists();
-  name_fields();
-}
-
-void Form7::set_captions() {
+    : Page(*this, shared),
+      Window("Form7"),
+      JunkScan(*this, shared),
+      DrivePage(*this, shared),
+      TypePage(*this, shared),
+      ListsPage(*this, shared),
+      SearchRun(*this, shared),
+      ReportPage(*this, shared),
+      LanguagePanel(*this, shared),
+      windows(open_windows) {
   set_caption(kProgramName);
-  cmd_start.set_caption("Start");
-  cmd_clean.set_caption("Start Cleaning");
-  cmd_cancel.set_caption("Cancel");
-  cmd_all.set_caption("Select All");
-  cmd_non.set_caption("Select None");
-  cmd_custom.set_caption("Custom Search");
-  cmd_ignore.set_caption("Ignore list");
-  cmd_report.set_caption("Create Report");
-  chameleonButton2.set_tool_tip("Run shortcut tool");
-  lbllanguage_0.set_caption("English");
-  TrayArea1.set_tool_tip(kProgramName);
+  connect_pages();
+  name_session();
 }
 
-void Form7::connect_controls() {
+void Form7::connect_pages() {
   Text9.on_change = [this] { run_suite_command(); };
   Text14.on_change = [this] { read_mail(); };
-  Text15.on_change = [this] { pending_filter.set_text(Text15.text()); };
-  cmd_start.on_click = [this] { start_button(); };
-  cmd_cancel.on_click = [this] { cancel_button(); };
-  cmd_clean.on_click = [this] { clean_button(); };
-  cmd_custom.on_click = [this] { open_custom_list(); };
-  cmd_ignore.on_click = [this] { open_ignore_list(); };
-  cmd_report.on_click = [this] { orvbutton3.raise_click(); };
-  orvbutton2.on_click = [this] { run_cleaning(); };
-  orvbutton3.on_click = [this] { write_text_report(); };
-  Command9.on_click = [this] { write_html_report(); };
-  Command14.on_click = [this] { back_up(); };
-  cmd_all.on_click = [this] { show_everything(true); };
-  cmd_non.on_click = [this] { show_everything(false); };
-  chameleonButton9.on_click = [this] { close(); };
-  chameleonButton12.on_click = [this] { minimise(); };
-  chameleonButton13.on_click = [this] { pictrlang.set_visible(!pictrlang.visible()); };
-  Toolbar1.on_button_click = [this](int number) { toolbar_button(number); };
-  chameleonButton18.on_click = [this] { open_about(); };
-  Image44_0.on_click = [this] { show_help(); };
-  TrayArea1.on_double_click = [this] { leave_tray(); };
   Timer2.on_timer = [this] { tell_suite(); };
+  orvbutton3.on_click = [this] { write_text_report(*this); };
+  Command9.on_click = [this] { write_html_report(*this); };
+
+  write_report = [this] { orvbutton3.raise_click(); };
+  to_drives = [this] { chameleonButton6.raise_click(); };
+  to_types = [this] { orvbutton8.raise_click(); };
+  to_lists = [this] { chameleonButton1.raise_click(); };
+  turn_over_languages = [this] { turn_over(); };
+  on_ignore_list = [this] { open_ignore_list(); };
+  on_custom_list = [this] { open_custom_list(); };
+  on_about = [this] { open_about(); };
 }
 
-void Form7::connect_menus() {
-  scf.on_click = [this] { rescan_node(); };
-  stc.on_click = [this] { clean_node(); };
-  b1.on_click = [this] { orvbutton2.click(); };
-  b2.on_click = [this] {
-    view5.check_all(true);
-    orvbutton2.click();
+void Form7::name_session() {
+  const auto show = [this](std::string_view name, const auto& value) {
+    add_field(name, [&value] { return property_of(value); });
   };
-  b4.on_click = [this] { locate_row(); };
-  b5.on_click = [this] { show_row_properties(); };
-  b7.on_click = [this] { view5.check_all(true); };
-  b8.on_click = [this] { view5.check_all(false); };
-  for (const auto& [entry, button] : std::initializer_list<std::pair<MenuEntry*, const Button*>>{
-           {&a1, &command111},
-           {&a2, &command811},
-           {&a3, &command911},
-           {&a5, &orvbutton611},
-           {&a6, &orvbutton711},
-       }) {
-    entry->on_click = [button = button] { button->raise_click(); };
+  show("cmdline", session.cmdline);
+  show("CommandLineGiven", session.CommandLineGiven);
+  show("Is64Bit", session.Is64Bit);
+  show("HiddenRun", session.HiddenRun);
+  show("silentmode", session.silentmode);
+  show("cleanmode", session.cleanmode);
+  show("suitemode", session.suitemode);
+  show("forceclean", session.forceclean);
+}
+
+void Form7::read_mail() {
+  if (Text14.text() == "i") {
+    read_ignore_list();
+    Text14.set_text("");
+  } else if (Text14.text() == "c") {
+    build_tree();
+    Text14.set_text("");
   }
 }
 
-void Form7::connect_lists() {
-  Tv1.on_node_click = [this](int node) { show_node(node); };
-  Tv1.on_node_check = [this](int node) { node_checked(node); };
-  Tv1.on_right_click = [this] { return &sc; };
-  for (ListView* list : {&view1, &view5}) {
-    list->on_item_click = [this](int row) { row_clicked(row); };
-    list->on_double_click = [this, list] {
-      if (list->count() >= 1) show_row_properties();
-    };
-    list->on_right_click = [this, list] { return list->count() >= 1 ? &b : nullptr; };
-  }
-  view1.on_column_click = [this](int column) { sort_hits(column); };
-  View2.on_item_check = [this](int /*row*/) { drive_ticked(); };
+void Form7::open_ignore_list() {
+  if (windows.find("Form1") != nullptr) return;  // it is open already
+  Form1 dialog(session, Text14);
+  dialog.load();
+  windows.show(dialog);
 }
 
-void Form7::name_fields() {
-  const auto text = [this](std::string_view name, const std::string& field) {
-    add_field(name, [&field] { return PropertyValue(field); });
-  };
-  const auto whole = [this](std::string_view name, const int& field) {
-    add_field(name, [&field] { return PropertyValue(std::int64_t{field}); });
-  };
-  const auto number = [this](std::string_view name, const double& field) {
-    add_field(name, [&field] { return number_value(field); });
-  };
-  text("cmdline", session.cmdline);
-  text("ignorelist", ignorelist.text());
-  text("systempaccess", systempaccess);
-  for (const auto& [name, field] : std::initializer_list<std::pair<std::string_view, const int*>>{
-           {"silentmode", &session.silentmode},
-           {"cleanmode", &session.cleanmode},
-           {"suitemode", &session.suitemode},
-           {"forceclean", &session.forceclean},
-           {"cancelflag", &cancelflag},
-           {"selnode", &selnode},
-           {"listfocus", &listfocus},
-           {"wizardstep", &wizardstep},
-           {"custnode", &custnode},
-           {"anydrivechecked", &anydrivechecked},
-           {"fontcharset", &fontcharset},
-           {"HiddenRun", &session.HiddenRun},
-       }) {
-    whole(name, *field);
-  }
-  for (const auto& [name, field] :
-       std::initializer_list<std::pair<std::string_view, const double*>>{
-           {"catfiles", &totals.catfiles},
-           {"catsize", &totals.catsize},
-           {"winfiles", &totals.winfiles},
-           {"winsize", &totals.winsize},
-           {"brfiles", &totals.brfiles},
-           {"brsize", &totals.brsize},
-           {"custfiles", &totals.custfiles},
-           {"custsize", &totals.custsize},
-           {"totalfiles", &totals.totalfiles},
-           {"totalsize", &totals.totalsize},
-       }) {
-    number(name, *field);
-  }
-  add_field("CommandLineGiven", [this] { return PropertyValue(session.CommandLineGiven); });
-  add_field("Is64Bit", [this] { return PropertyValue(session.Is64Bit); });
+void Form7::open_custom_list() {
+  if (windows.find("Form2") != nullptr) return;
+  Form2 dialog(session, windows, Text14);
+  dialog.load();
+  windows.show(dialog);
+}
+
+void Form7::open_about() {
+  session.page_value = kAboutPage;
+  if (windows.find("frmabout") != nullptr) return;
+  frmabout about(session);
+  about.load();
+  windows.show(about);
 }
 
 void Form7::resized() {

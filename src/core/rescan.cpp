@@ -7,7 +7,7 @@
 #include "categories/url_cache_rows.h"
 #include "cleaning/statistics.h"
 #include "cleaning/thumbnail_policy.h"
-#include "core/form7.h"
+#include "core/junk_scan.h"
 #include "platform/file_system.h"
 #include "scan/catalogue.h"
 #include "scan/hit_rows.h"
@@ -43,30 +43,26 @@ bool cleaning_takes(int node, double category) {
 
 }  // namespace
 
-void Form7::drop_rows(double above, double below) {
+void JunkScan::drop_rows(double above, double below) {
   view1.remove_if([&](int row) {
     const double category = view1.sub_item_number(row, kCategoryColumn);
     return category > above && category < below;
   });
 }
 
-void Form7::begin_rescan() {
-  cmd_start.set_enabled(false);
-  cmd_cancel.set_enabled(true);
-  for (Button* button : {&cmd_clean, &cmd_all, &cmd_non, &cmd_custom}) button->set_enabled(false);
+void JunkScan::begin_rescan() {
+  enter_rescan(true);
   Toolbar1.refresh();
   Gif89a2.show();
   session.PumpWait(kScanPause);
 }
 
-void Form7::end_rescan() {
-  cmd_start.set_enabled(true);
-  cmd_cancel.set_enabled(false);
-  for (Button* button : {&cmd_clean, &cmd_all, &cmd_non, &cmd_custom}) button->set_enabled(true);
+void JunkScan::end_rescan() {
+  enter_rescan(false);
   Gif89a2.hide();
 }
 
-void Form7::drop_old_results(int node) {
+void JunkScan::drop_old_results(int node) {
   reset_node_text(node);
   drop_rows(node - 1, node + 1);
   const auto reset_nodes = [this](int first, int last) {
@@ -92,7 +88,7 @@ void Form7::drop_old_results(int node) {
   }
 }
 
-void Form7::scan_node_again(int node) {
+void JunkScan::scan_node_again(int node) {
   if (node == kWindowsNode) {
     for (int leaf = kFirstWindowsLeaf; leaf <= kLastWindowsLeaf; ++leaf) run_category(*this, leaf);
   } else if (node == kBrowsersNode) {
@@ -112,7 +108,7 @@ void Form7::scan_node_again(int node) {
   }
 }
 
-void Form7::rescan_node() {
+void JunkScan::scan_clicked_node() {
   const int node = selnode;
   cancelflag = 0;
   totals.totalfiles = 0;
@@ -141,7 +137,7 @@ void Form7::rescan_node() {
 
 // The removal of one file. A database of the thumbnails is renamed first, so that Explorer lets go
 // of it.
-void Form7::delete_row(int node, const std::string& path) {
+void JunkScan::delete_row(int node, const std::string& path) {
   FileSystem& files = platform().files;
   // What cannot be removed is passed over; the scan that follows finds it again.
   const auto pass_over = [](bool /*done*/) {};
@@ -163,7 +159,7 @@ void Form7::delete_row(int node, const std::string& path) {
   enablethumbcache(platform().registry);
 }
 
-void Form7::delete_rows(int node) {
+void JunkScan::delete_rows(int node) {
   view1.remove_if([&](int row) {
     if (!cleaning_takes(node, view1.sub_item_number(row, kCategoryColumn))) return false;
     delete_row(node, std::string(Trim(view1.text(row))));
@@ -172,7 +168,7 @@ void Form7::delete_rows(int node) {
   if (node == kBrowsersNode || node == kFirstBrowserLeaf) deleteiecach(*this);
 }
 
-void Form7::clean_node() {
+void JunkScan::clean_clicked_node() {
   if (session.cleaning_ended()) return;
   delete_rows(selnode);
   add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());

@@ -2,7 +2,9 @@
 #include <string>
 
 #include "categories/routines.h"
-#include "core/form7.h"
+#include "cleaning/browser_guard.h"
+#include "cleaning/cleaning_run.h"
+#include "core/junk_scan.h"
 #include "platform/unicode_case.h"
 #include "scan/catalogue.h"
 #include "support/size_text.h"
@@ -16,17 +18,20 @@ namespace {
 // Time for the animation to start.
 constexpr std::chrono::milliseconds kScanPause{1000};
 
-void add_number(TextBox& box, double number) {
-  box.set_text(number_text(Val(box.text()) + number));
-}
-
 }  // namespace
 
-std::string Form7::size_text(double bytes) const {
-  return NumberInKB(bytes, platform().system.decimal_separator());
+JunkScan::JunkScan(Window& owner, Session& shared)
+    : Page(owner, shared),
+      JunkPage(owner, shared),
+      PageFrames(owner, shared),
+      JunkCommands(owner, shared, *this) {
+  scan_all = [this] { autosearch(); };
+  clean_all = [this] { run_cleaning(*this, pending_); };
+  rescan_node = [this] { scan_clicked_node(); };
+  clean_node = [this] { clean_clicked_node(); };
 }
 
-void Form7::autosearch() {
+void JunkScan::autosearch() {
   view1.clear();
   view5.clear();
   txtfilecont.set_text("0");
@@ -39,7 +44,7 @@ void Form7::autosearch() {
   session.PumpWait(kScanPause);
   if (session.stopped()) return;
 
-  pndtxt();
+  pndtxt(*this);
   startclean();
   startcleanexplorer();
   searchcustom();
@@ -54,7 +59,7 @@ void Form7::autosearch() {
   Text13.hide();
 }
 
-void Form7::startclean() {
+void JunkScan::startclean() {
   totals.winfiles = 0;
   totals.winsize = 0;
   build_tree();
@@ -72,48 +77,35 @@ void Form7::startclean() {
   add_to_count_and_size(totals.winfiles, totals.winsize);
 }
 
-void Form7::add_to_count_and_size(double files, double bytes) {
-  add_number(txtfilecont, files);
-  add_number(txtfilesize, bytes);
-}
-
-void Form7::show_result_page() {
-  Frame80.move_to(Frame2);
-  Frame80.show();
-  for (Frame* page : {&Frame2, &Frame4, &Frame6, &Frame8}) page->hide();
+void JunkScan::show_result_page() {
+  show_result_frame();
   view1.show();
 }
 
-void Form7::searchcustom() {
+void JunkScan::startcleanexplorer() {
+  totals.brfiles = 0;
+  totals.brsize = 0;
+  totals.catfiles = 0;
+  totals.catsize = 0;
+  scan_browsers(*this);
+  totals.totalfiles += totals.brfiles;
+  totals.totalsize += totals.brsize;
+  add_group_result(kBrowsersNode, totals.brfiles, totals.brsize);
+  enter_state(ButtonState::kCustomGroup);  // the custom group can no longer be cancelled
+  add_to_count_and_size(totals.brfiles, totals.brsize);
+}
+
+void JunkScan::searchcustom() {
   totals.custfiles = 0;
   totals.custsize = 0;
 }
 
-void Form7::add_group_result(int node, double files, double bytes) {
-  append_result(node, files, bytes);
-  node_results[node] = {files, bytes};
-}
-
-void Form7::pndtxt() {
-  std::string filter;
-  if (const auto queued = read_pending_value(platform())) {
-    for (const std::string& text : *queued) filter.append("|").append(text);
-  }
-  Text15.set_text(lower_case(filter));
-}
-
-void Form7::show_summary(double files) {
-  Label11.set_caption("Junk files found : ( " + number_text(files) + " ) files , Size : ( " +
-                      size_text(totals.totalsize) +
-                      " ) - Click \"Start Cleaning\" to Remove selected Files");
-}
-
-void Form7::show_found_mark() {
+void JunkScan::show_found_mark() {
   enable_report(totals.totalfiles > 0);
   if (totals.totalfiles > 0) Shape1.set_back_color(kFoundMark);
 }
 
-void Form7::write_result_file() {
+void JunkScan::write_result_file() {
   const std::string line =
       number_text(totals.totalfiles) + "|" + number_text(totals.totalsize) + "\r\n";
   // A result that cannot be written is passed over: the run goes on to its end.

@@ -5,12 +5,9 @@
 
 #include "core/form7.h"
 #include "drivesearch/type_table.h"
-#include "platform/unicode_case.h"
 #include "support/file_date.h"
-#include "support/list_files.h"
 #include "support/registry_text.h"
 #include "support/suite_color.h"
-#include "support/text.h"
 #include "support/val.h"
 
 namespace quillvane {
@@ -36,7 +33,7 @@ constexpr CodePageFont kFontCharacterSets[] = {
 
 void Form7::load() {
   session.Is64Bit = platform().system.is_wow64();
-  imglangselect.move_to(lbllanguage_0);
+  mark_chosen();
   for (const CodePageFont& font : kFontCharacterSets) {
     if (platform().system.ansi_code_page() == font.code_page) fontcharset = font.character_set;
   }
@@ -49,7 +46,7 @@ void Form7::load() {
   Gif89a2.set_file(session.data_file("search.gif"));
   read_system_temp_option();
   view1.set_column_width(1, kTwipsOfFileColumn);
-  fill_drive_list();
+  fill_drive_list(Drive1);
   restore_ticked_drives();
   Frame80.move_to(Frame2);
   Frame80.show();
@@ -106,15 +103,6 @@ void Form7::read_system_temp_option() {
   const FileTime date{platform().loop.local_now().ticks -
                       static_cast<std::int64_t>(days * kTicksOfDay)};
   if (calendar_date(date)) systempdate = date;
-}
-
-void Form7::read_ignore_list() {
-  std::string list;
-  for (const std::string& line :
-       read_list_lines(platform().files, session.data_file(kIgnoreFile))) {
-    list.append(Trim(line)).push_back('|');
-  }
-  ignorelist.set_text(lower_case(list));
 }
 
 }  // namespace quillvane

@@ -1,11 +1,8 @@
 // Commands of the main window that are no part of a scan: what the lists' pop-up shows of a file,
-// help, the suite's eraser, the small windows, and the way into the tray and back.
+// help, the suite's eraser, and the way back from the tray.
 #include <string>
 
-#include "core/form7.h"
-#include "dialogs/about_window.h"
-#include "dialogs/custom_dialog.h"
-#include "dialogs/ignore_dialog.h"
+#include "core/junk_commands.h"
 #include "support/shell_helpers.h"
 #include "support/val.h"
 
@@ -14,64 +11,41 @@ namespace quillvane {
 namespace {
 
 constexpr int kHelpTopic = 18;
-constexpr int kAboutPage = 7;
 
 }  // namespace
 
 // The row of view5 whose number stands in Text8; 0 when there is none.
-int Form7::row_in_hand() const {
-  const double row = Val(Text8.text());
-  return row >= 1 && row <= view5.count() ? static_cast<int>(row) : 0;
+int JunkCommands::row_in_hand() const {
+  const double row = Val(junk_.Text8.text());
+  return row >= 1 && row <= junk_.view5.count() ? static_cast<int>(row) : 0;
 }
 
-void Form7::locate_row() {
+void JunkCommands::locate_row() {
   const int row = row_in_hand();
   if (row == 0) return;
-  const std::string path = view5.text(row);
+  const std::string path = junk_.view5.text(row);
   platform().shell.open({"open", path.substr(0, path.rfind('\\') + 1), {}, kShowNormal});
 }
 
-void Form7::show_row_properties() {
+void JunkCommands::show_row_properties() {
   const int row = row_in_hand();
-  if (row != 0) ShowFileProperties(platform().shell, view5.text(row));
+  if (row != 0) ShowFileProperties(platform().shell, junk_.view5.text(row));
 }
 
-void Form7::start_eraser() {
+void JunkCommands::start_eraser() {
   // The start simply fails when the eraser is missing.
   platform().shell.open({"open", session.data_file("tideerase.exe"), {}, kShowNormal});
 }
 
-void Form7::show_help() {
+void JunkCommands::show_help() {
   platform().shell.show_help(session.data_file("tidehelp.chm") + ">sec", kHelpTopic);
 }
 
-void Form7::open_ignore_list() {
-  if (windows.find("Form1") != nullptr) return;  // it is open already
-  Form1 dialog(session, Text14);
-  dialog.load();
-  windows.show(dialog);
-}
-
-void Form7::open_custom_list() {
-  if (windows.find("Form2") != nullptr) return;
-  Form2 dialog(session, windows, Text14);
-  dialog.load();
-  windows.show(dialog);
-}
-
-void Form7::open_about() {
-  session.page_value = kAboutPage;
-  if (windows.find("frmabout") != nullptr) return;
-  frmabout window(session);
-  window.load();
-  windows.show(window);
-}
-
-void Form7::leave_tray() {
-  show();
+void JunkCommands::leave_tray() {
+  window.show();
   TrayArea1.set_icon_visible(false);
-  set_state(WindowState::kNormal);
-  show();
+  window.set_state(WindowState::kNormal);
+  window.show();
 }
 
 }  // namespace quillvane

@@ -12,7 +12,8 @@ namespace quillvane {
 // What all clickable controls share: a caption and the Click event.
 class Clickable : public Control {
  public:
-  using Control::Control;
+  Clickable(Window& window, std::string_view name, const Design& design = {})
+      : Control(window, name, design), caption_(design.caption), tool_tip_(design.tool_tip) {}
 
   [[nodiscard]] const std::string& caption() const { return caption_; }
   void set_caption(std::string_view caption);
@@ -98,9 +99,7 @@ class OptionButton : public Clickable {
 class MenuEntry : public Clickable {
  public:
   MenuEntry(Window& window, std::string_view name, std::string_view caption)
-      : Clickable(window, name) {
-    set_caption(caption);
-  }
+      : Clickable(window, name, {.caption = caption}) {}
 };
 
 // A popup menu. Entries stand in their order; separators are drawn before the entries named so.

@@ -7,7 +7,8 @@
 
 namespace quillvane {
 
-Control::Control(Window& window, std::string_view name) : window_(window), name_(name) {
+Control::Control(Window& window, std::string_view name, const Design& design)
+    : window_(window), name_(name), enabled_(!design.disabled), visible_(!design.hidden) {
   window_.add_control(*this);
 }
 

@@ -43,10 +43,19 @@ using PropertyValue = std::variant<bool, std::int64_t, double, std::string>;
 // 0x00BBGGRR, as Windows writes colours.
 using Color = std::uint32_t;
 
+// What a control is at design time, where that is more than its kind and its name.
+struct Design {
+  std::string_view caption = {};   // of the controls that have one
+  std::string_view tool_tip = {};  // likewise
+  bool hidden = false;
+  bool disabled = false;
+};
+inline constexpr Design kHidden{.hidden = true};
+
 class Control {
  public:
   // Adds itself to the window under `name`; the window must outlive it.
-  Control(Window& window, std::string_view name);
+  Control(Window& window, std::string_view name, const Design& design = {});
   virtual ~Control() = default;
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;

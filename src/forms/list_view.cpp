@@ -53,8 +53,9 @@ class ListView::OwnRows final : public RowSource {
   std::vector<std::size_t> free_;
 };
 
-ListView::ListView(Window& window, std::string_view name, std::vector<std::string> columns)
-    : Control(window, name),
+ListView::ListView(Window& window, std::string_view name, std::vector<std::string> columns,
+                   const Design& design)
+    : Control(window, name, design),
       columns_(std::move(columns)),
       column_widths_(columns_.size()),
       own_(std::make_shared<OwnRows>()) {

@@ -39,7 +39,8 @@ class RowSource {
 
 class ListView : public Control {
  public:
-  ListView(Window& window, std::string_view name, std::vector<std::string> columns);
+  ListView(Window& window, std::string_view name, std::vector<std::string> columns,
+           const Design& design = {});
 
   // --- Columns.
   [[nodiscard]] const std::vector<std::string>& columns() const { return columns_; }

@@ -48,6 +48,8 @@ class Window {
 
   // The value of a field by its name without regard to case.
   [[nodiscard]] std::optional<PropertyValue> field(std::string_view name) const;
+  // Makes a field readable by name.
+  void add_field(std::string_view name, std::function<PropertyValue()> read);
 
   // Called when visible or state change.
   std::function<void()> on_view_change;
@@ -55,8 +57,6 @@ class Window {
  protected:
   // Runs after each change of size or state.
   virtual void resized() {}
-  // Makes a field readable by name.
-  void add_field(std::string_view name, std::function<PropertyValue()> read);
 
  private:
   friend class Control;

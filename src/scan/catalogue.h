@@ -8,8 +8,6 @@
 
 namespace quillvane {
 
-class Form7;
-
 inline constexpr int kWindowsNode = 1;
 inline constexpr int kFirstWindowsLeaf = 2;
 inline constexpr int kLastWindowsLeaf = 11;

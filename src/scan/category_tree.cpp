@@ -1,9 +1,9 @@
 // The category tree: building it, and what a tick on a node carries to.
 #include <string>
 
-#include "core/form7.h"
 #include "scan/catalogue.h"
 #include "scan/hit_rows.h"
+#include "scan/junk_page.h"
 #include "support/list_files.h"
 #include "support/size_text.h"
 #include "support/text.h"
@@ -41,7 +41,7 @@ void tick_rows(ListView& list, bool checked, int first_category, int last_catego
 
 }  // namespace
 
-void Form7::build_tree() {
+void JunkPage::build_tree() {
   Tv1.clear();
   node_results.clear();
   for (const CatalogueNode& node : kCatalogue) {
@@ -52,7 +52,7 @@ void Form7::build_tree() {
   for (const int group : {kWindowsNode, kBrowsersNode, kCustomNode}) Tv1.set_expanded(group, true);
 }
 
-void Form7::add_custom_nodes() {
+void JunkPage::add_custom_nodes() {
   int key_number = kFirstCustomKey;
   for (const std::string& line :
        read_list_lines(platform().files, session.data_file(kCustomFile))) {
@@ -61,25 +61,30 @@ void Form7::add_custom_nodes() {
   }
 }
 
-void Form7::append_result(int node, double files, double bytes) {
+void JunkPage::append_result(int node, double files, double bytes) {
   const TreeNode* found = Tv1.find(node);
   if (found == nullptr) return;
   Tv1.set_text(node,
                found->text + " ( " + number_text(files) + " files, " + size_text(bytes) + " )");
 }
 
-NodeResult Form7::node_totals(int node) const {
+void JunkPage::add_group_result(int node, double files, double bytes) {
+  append_result(node, files, bytes);
+  node_results[node] = {files, bytes};
+}
+
+NodeResult JunkPage::node_totals(int node) const {
   const auto found = node_results.find(node);
   return found == node_results.end() ? NodeResult{} : found->second;
 }
 
-void Form7::reset_node_text(int node) {
+void JunkPage::reset_node_text(int node) {
   const TreeNode* found = Tv1.find(node);
   if (found == nullptr) return;
   Tv1.set_text(node, part(Split(found->text, " ("), 0));
 }
 
-void Form7::node_checked(int index) {
+void JunkPage::node_checked(int index) {
   const TreeNode* node = Tv1.find(index);
   if (node == nullptr) return;
   tick_rows(view5, node->checked, index, index);

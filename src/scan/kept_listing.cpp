@@ -4,8 +4,8 @@
 #include <string_view>
 #include <utility>
 
-#include "core/form7.h"
 #include "platform/unicode_case.h"
+#include "scan/junk_page.h"
 #include "scan/tree_part.h"
 #include "scan/walk.h"
 #include "support/text.h"
@@ -37,15 +37,15 @@ Found subfolder(const ListedFolder& folder, std::string_view name) {
 
 }  // namespace
 
-KeptListing::KeptListing(Form7& form, std::string root, std::vector<std::string> patterns)
-    : form_(form), root_(std::move(root)), patterns_(std::move(patterns)) {}
+KeptListing::KeptListing(JunkPage& page, std::string root, std::vector<std::string> patterns)
+    : page_(page), root_(std::move(root)), patterns_(std::move(patterns)) {}
 
 std::optional<ListedPart> KeptListing::find(const std::string& path, const std::string& pattern) {
   const auto wanted = std::find(patterns_.begin(), patterns_.end(), pattern);
   if (wanted == patterns_.end() || !path.starts_with(root_)) return std::nullopt;
   const std::string below = path.substr(root_.size());
   if (!below.empty() && below[0] != '\\') return std::nullopt;
-  if (!std::exchange(read_, true)) tree_ = form_.platform().files.read_tree_for(root_, patterns_);
+  if (!std::exchange(read_, true)) tree_ = page_.platform().files.read_tree_for(root_, patterns_);
   // Where a link led back, the walk of a part could go further than the walk of the whole did.
   if (tree_ == nullptr || tree_->left_out_loops()) return std::nullopt;
 
@@ -66,7 +66,7 @@ const ListedFolder* KeptListing::enter(const ListedFolder& folder, const std::st
   reached.append("\\").append(name);
   const auto [next, as_written] = subfolder(folder, name);
   if (next == nullptr || as_written) return next;
-  const auto attributes = form_.platform().files.attributes(reached);
+  const auto attributes = page_.platform().files.attributes(reached);
   return attributes && (*attributes & kAttributeFolder) != 0 ? next : nullptr;
 }
 
@@ -75,9 +75,9 @@ void KeptListing::srch(const std::string& path, const std::string& pattern, int 
     // The rows read their texts from a copy of their own, so that they do not keep the listing.
     auto own = copy_of(*part);
     const ListedFolder& folder = own->root();
-    Walk(form_, category, Walk::Keep::kAll).run({std::move(own), &folder, 0}, path, pattern);
+    Walk(page_, category, Walk::Keep::kAll).run({std::move(own), &folder, 0}, path, pattern);
   } else {
-    form_.srch(path, pattern, category);
+    page_.srch(path, pattern, category);
   }
 }
 

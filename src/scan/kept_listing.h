@@ -11,16 +11,16 @@
 
 namespace quillvane {
 
-class Form7;
+class JunkPage;
 
 // Lives no longer than the category routine that makes it: the rows it leads to do not need it.
 class KeptListing {
  public:
   // The tree below `root` is read when it is first needed. Requires: at most
   // FolderTree::kMostPatterns patterns.
-  KeptListing(Form7& form, std::string root, std::vector<std::string> patterns);
+  KeptListing(JunkPage& page, std::string root, std::vector<std::string> patterns);
 
-  // As Form7::srch, with the same rows in the same order; from the listing where it can answer.
+  // As JunkPage::srch, with the same rows in the same order; from the listing where it can answer.
   void srch(const std::string& path, const std::string& pattern, int category);
 
   // The part of the listing that a walk of `path` would read; nothing when that needs the disk: for
@@ -33,7 +33,7 @@ class KeptListing {
   [[nodiscard]] const ListedFolder* enter(const ListedFolder& folder, const std::string& name,
                                           std::string& reached) const;
 
-  Form7& form_;
+  JunkPage& page_;
   std::string root_;
   std::vector<std::string> patterns_;
   bool read_ = false;

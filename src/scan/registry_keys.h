@@ -5,11 +5,12 @@
 
 namespace quillvane {
 
-class Form7;
+class JunkPage;
 
 // Adds the names of the sub-keys to List1, which the caller has cleared, and to the end of `names`,
 // one behind the other, serving the message loop once a name. `hive` is "HKCU", "HKLM", "HKU" or
 // "HKCR". 0 when the key was read.
-int fEnumKey(Form7& form, const std::string& hive, const std::string& sub_key, std::string& names);
+int fEnumKey(JunkPage& page, const std::string& hive, const std::string& sub_key,
+             std::string& names);
 
 }  // namespace quillvane

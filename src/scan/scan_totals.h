@@ -2,19 +2,22 @@
 // away from them.
 #pragma once
 
+#include "forms/field.h"
+
 namespace quillvane {
 
 struct ScanTotals {
-  double catfiles = 0;  // the category now running
-  double catsize = 0;
-  double winfiles = 0;  // the Windows group
-  double winsize = 0;
-  double brfiles = 0;  // the Browsers group
-  double brsize = 0;
-  double custfiles = 0;  // the custom group
-  double custsize = 0;
-  double totalfiles = 0;  // the whole scan
-  double totalsize = 0;
+  Window& window;
+  Field<double> catfiles{window, "catfiles"};  // the category now running
+  Field<double> catsize{window, "catsize"};
+  Field<double> winfiles{window, "winfiles"};  // the Windows group
+  Field<double> winsize{window, "winsize"};
+  Field<double> brfiles{window, "brfiles"};  // the Browsers group
+  Field<double> brsize{window, "brsize"};
+  Field<double> custfiles{window, "custfiles"};  // the custom group
+  Field<double> custsize{window, "custsize"};
+  Field<double> totalfiles{window, "totalfiles"};  // the whole scan
+  Field<double> totalsize{window, "totalsize"};
 };
 
 // Count and bytes that one node of the tree put into the totals.

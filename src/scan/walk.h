@@ -12,7 +12,7 @@
 
 namespace quillvane {
 
-class Form7;
+class JunkPage;
 
 class Walk {
  public:
@@ -21,7 +21,7 @@ class Walk {
     kEmptyFiles,  // files without content
   };
 
-  Walk(Form7& form, int category, Keep keep);
+  Walk(JunkPage& page, int category, Keep keep);
 
   // Walks `path` on the disk.
   void run(const std::string& path, const std::string& pattern);
@@ -35,7 +35,7 @@ class Walk {
   [[nodiscard]] bool passes(std::string_view name, double size);
   void add_row(std::size_t index);
 
-  Form7& form_;
+  JunkPage& page_;
   int category_;
   Keep keep_;
   FolderTests tests_;

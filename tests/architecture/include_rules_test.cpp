@@ -5,7 +5,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
+#include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace quillvane {
@@ -20,6 +23,9 @@ constexpr Sample kAllowed[] = {
     {"core/form7.cpp", "#include \"forms/window.h\""},
     {"core/form7.cpp", "#include \"platform/file_system.h\""},
     {"core/form7.cpp", "#include \"categories/routines.h\""},
+    {"cleaning/run.cpp", "#include \"categories/routines.h\""},
+    {"categories/place.cpp", "#include \"scan/junk_page.h\""},
+    {"dialogs/about_window.h", "#include \"support/session.h\""},
     {"core/form7.cpp", "#include <string>"},
     {"core/form7_test.cpp", "#include \"tests/support/temp_machine.h\""},
     {"core/form7_test.cpp", "#include <gtest/gtest.h>"},
@@ -56,6 +62,19 @@ constexpr Sample kForbidden[] = {
     {"forms/window.cpp", "#include <nlohmann/json.hpp>"},
     {"core/form7.cpp", "#ifdef _WIN32"},
     {"view/console/console.cpp", "#if defined(_WIN32)"},
+    // Each row of the middle knows the rows below it alone.
+    {"shortcuts/form3.cpp", "#include \"core/form7.h\""},
+    {"cleaning/run.cpp", "#include \"core/form7.h\""},
+    {"categories/place.cpp", "#include \"cleaning/run.h\""},
+    {"drivesearch/lists.cpp", "#include \"categories/place.h\""},
+    {"dialogs/ignore_dialog.cpp", "#include \"core/form7.h\""},
+    {"dialogs/ignore_dialog.cpp", "#include \"drivesearch/drive_page.h\""},
+    {"scan/walker.cpp", "#include \"dialogs/about_window.h\""},
+    {"scan/walker.cpp", "#include \"categories/place.h\""},
+    {"lang/language.cpp", "#include \"scan/junk_page.h\""},
+    {"controls/chameleon_button.h", "#include \"lang/language.h\""},
+    {"forms/window.h", "#include \"controls/chameleon_button.h\""},
+    {"support/session.h", "#include \"forms/window.h\""},
     // Lower layers know nothing of the upper.
     {"support/text.h", "#include \"core/form7.h\""},
     {"support/text.h", "#include \"forms/window.h\""},
@@ -99,19 +118,60 @@ TEST(IncludeRules, EveryLineOfAFileIsLookedAt) {
   EXPECT_EQ(broken_rules("core/a.cpp", content).size(), 2U);
 }
 
-TEST(IncludeRules, TheSourcesKeepThem) {
+using Sources = std::map<std::string, std::string>;  // by their path from src/
+
+Sources read_sources() {
   const std::filesystem::path root = QUILLVANE_SOURCES;
-  std::size_t files = 0;
+  Sources sources;
   for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
     const std::string extension = entry.path().extension();
     if (extension != ".h" && extension != ".cpp") continue;
-    ++files;
     std::ifstream file(entry.path());
-    const std::string content(std::istreambuf_iterator<char>(file), {});
-    const std::string name = entry.path().lexically_relative(root).generic_string();
+    sources[entry.path().lexically_relative(root).generic_string()] =
+        std::string(std::istreambuf_iterator<char>(file), {});
+  }
+  return sources;
+}
+
+TEST(IncludeRules, TheSourcesKeepThem) {
+  const Sources sources = read_sources();
+  EXPECT_GT(sources.size(), 50U) << "not where they are looked for: " << QUILLVANE_SOURCES;
+  for (const auto& [name, content] : sources) {
     for (const std::string& broken : broken_rules(name, content)) ADD_FAILURE() << broken;
   }
-  EXPECT_GT(files, 50U) << "the sources are not where they are looked for: " << root;
+}
+
+// "| `scan/` | `forms` `support` |" of the overview, for each folder that includes another.
+std::set<std::string> arrows_of(const Sources& sources) {
+  std::map<std::string, std::set<std::string>> used;
+  for (const auto& [name, content] : sources) {
+    if (name.ends_with("_test.cpp")) continue;
+    for (const std::string_view header : own_includes(content)) {
+      if (folder_of(header) == folder_of(name)) continue;
+      used[std::string(folder_of(name))].emplace(folder_of(header));
+    }
+  }
+  std::set<std::string> rows;
+  std::size_t arrows = 0;
+  for (const auto& [folder, others] : used) {
+    std::string row = "| `" + folder + "/` |";
+    for (const std::string& other : others) row += " `" + other + "`";
+    rows.insert(row + " |");
+    arrows += others.size();
+  }
+  rows.insert("| " + std::to_string(arrows) + " arrows | none of them up |");
+  return rows;
+}
+
+TEST(Overview, DrawsTheArrowsBetweenTheFoldersAsTheSourcesHaveThem) {
+  std::ifstream overview(QUILLVANE_OVERVIEW);
+  std::set<std::string> told;
+  for (std::string line; std::getline(overview, line);) {
+    if (line.find("/` |") != std::string::npos || line.ends_with("none of them up |")) {
+      told.insert(line);
+    }
+  }
+  EXPECT_EQ(told, arrows_of(read_sources()));
 }
 
 }  // namespace

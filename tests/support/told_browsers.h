@@ -34,7 +34,7 @@ inline ToldRows joined(ToldRows first, const ToldRows& second) {
 
 struct ToldBrowser {
   int node;
-  void (*routine)(Form7&);
+  void (*routine)(JunkPage&);
   const char* key;
   const char* user_data;
   ToldRows rows;

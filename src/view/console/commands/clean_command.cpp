@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "cleaning/cleaning_run.h"
 #include "cleaning/permission.h"
-#include "cleaning/questions.h"
 #include "core/form7.h"
 #include "core/program.h"
 #include "view/console/clean/cleaning_watch.h"

@@ -29,14 +29,14 @@ SwitchKind kind_of(const std::string& words) {
 }
 
 // The last reading of the run, as the suite finds it in junst.txt.
-void print_result(const ConsoleSession& session, const Form7& form) {
+void print_result(const ConsoleSession& session, const JunkPage& page) {
   if (session.json) {
-    const Json totals = {{"files", json_number(form.totals.totalfiles)},
-                         {"bytes", json_number(form.totals.totalsize)}};
+    const Json totals = {{"files", json_number(page.totals.totalfiles)},
+                         {"bytes", json_number(page.totals.totalsize)}};
     session.io.out << json_text(Json{{"totals", totals}}) << '\n';
   } else {
-    session.io.out << number_text(form.totals.totalfiles) << " files, "
-                   << form.size_text(form.totals.totalsize) << '\n';
+    session.io.out << number_text(page.totals.totalfiles) << " files, "
+                   << page.size_text(page.totals.totalsize) << '\n';
   }
 }
 

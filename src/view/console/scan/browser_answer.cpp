@@ -2,7 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
-#include "cleaning/questions.h"
+#include "cleaning/browser_guard.h"
 #include "scan/catalogue.h"
 
 namespace quillvane {
@@ -17,14 +17,14 @@ void BrowserAnswer::apply_to(ConsoleDialogs& dialogs) const {
   if (keep_) dialogs.answer_in_advance(kCloseBrowserTitle, Answer::kNo);
 }
 
-std::vector<std::string> skipped_captions(const Form7& form) {
+std::vector<std::string> skipped_captions(const JunkPage& page) {
   std::vector<std::string> captions;
-  for (const int node : form.skipped_browsers) captions.emplace_back(kCatalogue[node - 1].caption);
+  for (const int node : page.skipped_browsers) captions.emplace_back(kCatalogue[node - 1].caption);
   return captions;
 }
 
-void tell_skipped(std::ostream& err, const Form7& form) {
-  for (const std::string& caption : skipped_captions(form)) {
+void tell_skipped(std::ostream& err, const JunkPage& page) {
+  for (const std::string& caption : skipped_captions(page)) {
     err << "quillvane: " << caption << ": left out, since the browser is running\n";
   }
 }

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/form7.h"
+#include "scan/junk_page.h"
 #include "view/console/console_dialogs.h"
 
 namespace CLI {
@@ -26,9 +26,9 @@ class BrowserAnswer {
 };
 
 // Captions of the browsers that were left out since they run.
-[[nodiscard]] std::vector<std::string> skipped_captions(const Form7& form);
+[[nodiscard]] std::vector<std::string> skipped_captions(const JunkPage& page);
 
 // One line for each of them.
-void tell_skipped(std::ostream& err, const Form7& form);
+void tell_skipped(std::ostream& err, const JunkPage& page);
 
 }  // namespace quillvane

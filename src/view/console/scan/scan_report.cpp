@@ -11,16 +11,16 @@ constexpr std::string_view kResultBegin = " (";
 
 }  // namespace
 
-ScanReport read_report(const Form7& form) {
-  ScanReport report{{form.totals.totalfiles, form.totals.totalsize},
-                    form.Label11.caption(),
+ScanReport read_report(const JunkPage& page) {
+  ScanReport report{{page.totals.totalfiles, page.totals.totalsize},
+                    page.Label11.caption(),
                     {},
-                    skipped_captions(form)};
-  for (int index = 1; index <= form.Tv1.count(); ++index) {
-    const TreeNode& node = form.Tv1.node(index);
+                    skipped_captions(page)};
+  for (int index = 1; index <= page.Tv1.count(); ++index) {
+    const TreeNode& node = page.Tv1.node(index);
     report.categories.push_back({index, node.key, node.parent.empty(), node.text,
                                  node.text.substr(0, node.text.find(kResultBegin)),
-                                 form.node_totals(index)});
+                                 page.node_totals(index)});
   }
   return report;
 }

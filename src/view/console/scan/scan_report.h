@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/form7.h"
+#include "scan/junk_page.h"
 
 namespace quillvane {
 
@@ -24,6 +24,6 @@ struct ScanReport {
   std::vector<std::string> skipped = {};   // captions of browsers left out since they run
 };
 
-[[nodiscard]] ScanReport read_report(const Form7& form);
+[[nodiscard]] ScanReport read_report(const JunkPage& page);
 
 }  // namespace quillvane

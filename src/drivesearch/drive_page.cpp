@@ -1,9 +1,9 @@
-// The drive list View2, and the memory of the drives that are ticked in it.
+#include "drivesearch/drive_page.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
 
-#include "core/form7.h"
 #include "platform/unicode_case.h"
 #include "support/registry_text.h"
 #include "support/text.h"
@@ -49,10 +49,14 @@ std::string folded(std::string_view text) { return lower_case(Trim(text)); }
 
 }  // namespace
 
-void Form7::fill_drive_list() {
-  for (const std::string& drive : platform().drives.list()) Drive1.add(drive);
+DrivePage::DrivePage(Window& owner, Session& shared) : Page(owner, shared) {
+  View2.on_item_check = [this](int /*row*/) { drive_ticked(); };
+}
+
+void DrivePage::fill_drive_list(ListBox& drives) {
+  for (const std::string& drive : platform().drives.list()) drives.add(drive);
   std::string_view beginning;
-  for (const std::string& drive : Drive1.items()) {
+  for (const std::string& drive : drives.items()) {
     const std::string root = upper_case(drive.substr(0, 1)) + ":\\";
     const DriveType type = platform().drives.type(root);
     const auto row_text = row_beginning(type, beginning);
@@ -68,7 +72,7 @@ void Form7::fill_drive_list() {
   }
 }
 
-void Form7::restore_ticked_drives() {
+void DrivePage::restore_ticked_drives() {
   const auto read = [&](const std::string& name) {
     return ReadRegistryString(platform().registry, Hive::kLocalMachine, kTimerKey, name).text;
   };
@@ -84,7 +88,7 @@ void Form7::restore_ticked_drives() {
   } while (number <= stored && number <= kLettersOfDrives);
 }
 
-void Form7::save_ticked_drives() {
+void DrivePage::save_ticked_drives() {
   int ticked = 0;
   const auto write = [&](const std::string& name, std::string_view text) {
     // A setting that cannot be written is forgotten.
@@ -100,7 +104,7 @@ void Form7::save_ticked_drives() {
   write("alldrive", std::to_string(ticked));
 }
 
-void Form7::drive_ticked() {
+void DrivePage::drive_ticked() {
   anydrivechecked = 0;
   for (int row = 1; row <= View2.count() && anydrivechecked == 0; ++row) {
     session.do_events();

@@ -1,7 +1,7 @@
-// Reports of what was found: the full names of view1 as a text file and as a page of HTML.
+#include "drivesearch/report_page.h"
+
 #include <string>
 
-#include "core/form7.h"
 #include "support/date_text.h"
 #include "support/file_date.h"
 #include "support/program_name.h"
@@ -22,17 +22,17 @@ DateTime now(const Platform& platform) {
 }
 
 // The size is that of the category scan, also after a drive search. Meant so.
-std::string text_report(const Form7& form) {
-  const DateTime time = now(form.platform());
+std::string text_report(const JunkPage& junk) {
+  const DateTime time = now(junk.platform());
   std::string report = "Report Time " + date_text(time, "dd,mm,yyyy") + "   " +
                        time_text(time, "hh:mm:ss") + kLineEnd;
-  report += "Total files found = " + std::to_string(form.view1.count()) +
-            " Total files size = " + form.size_text(form.totals.winsize + form.totals.brsize) +
+  report += "Total files found = " + std::to_string(junk.view1.count()) +
+            " Total files size = " + junk.size_text(junk.totals.winsize + junk.totals.brsize) +
             kLineEnd;
   report += rule(59) + kLineEnd;
   report += std::string("\r") + kLineEnd;  // a line that holds a CR of its own; meant so
-  for (int row = 1; row <= form.view1.count(); ++row) {
-    report.append(Trim(form.view1.text(row))).append(kLineEnd);
+  for (int row = 1; row <= junk.view1.count(); ++row) {
+    report.append(Trim(junk.view1.text(row))).append(kLineEnd);
   }
   report += rule(59) + kLineEnd;
   report += std::string("This Report Made by Tidewrack") + kLineEnd;
@@ -42,18 +42,18 @@ std::string text_report(const Form7& form) {
 
 // A row's link is its path as it stands, without quotes, and its heading is closed by "<h/5>"; a
 // "</font>" that nothing opened closes the list; the time begins with its seconds. All meant so.
-std::string html_report(const Form7& form) {
-  const DateTime time = now(form.platform());
+std::string html_report(const ReportPage& page, const JunkPage& junk) {
+  const DateTime time = now(junk.platform());
   std::string report = std::string("<body>") + kLineEnd;
-  report += "<h4><font face = verdana > Report For Drive  " + std::string(Trim(form.Text1.text())) +
+  report += "<h4><font face = verdana > Report For Drive  " + std::string(Trim(page.Text1.text())) +
             "  At        " + date_text(time, " dd /mm/yyyy ") + "             " +
             time_text(time, " ss: mm: hh ") + "</font></h4>" + kLineEnd;
   report += std::string("<br>") + kLineEnd;
-  report += "<h4>Total files found = " + std::to_string(form.view1.count()) +
-            " Total files size = " + form.foundsizetext + "</h4>" + kLineEnd;
+  report += "<h4>Total files found = " + std::to_string(junk.view1.count()) +
+            " Total files size = " + page.foundsizetext + "</h4>" + kLineEnd;
   report += "<h5>" + rule(59) + "</h5>" + kLineEnd;
-  for (int row = 1; row <= form.view1.count(); ++row) {
-    const std::string path(Trim(form.view1.text(row)));
+  for (int row = 1; row <= junk.view1.count(); ++row) {
+    const std::string path(Trim(junk.view1.text(row)));
     report +=
         "<h5><font color=blue size=2><a href= " + path + ">" + path + "</a></font><h/5>" + kLineEnd;
   }
@@ -65,21 +65,21 @@ std::string html_report(const Form7& form) {
 
 }  // namespace
 
-void Form7::write_text_report() {
-  if (view1.count() == 0) return;
+void ReportPage::write_text_report(const JunkPage& junk) {
+  if (junk.view1.count() == 0) return;
   Text5.set_text("");
   const std::string file =
       platform().dialogs.save_file({"Save As", "*.txt (text files)|*.txt", "*.txt"});
   if (Trim(file).empty()) return;
   Text5.set_text(file);
   // Without a word when it cannot be written; what lies there is shown then.
-  static_cast<void>(platform().files.write_file(file, text_report(*this)));
+  static_cast<void>(platform().files.write_file(file, text_report(junk)));
   platform().shell.open({"", file, {}, kShowNormal});
 }
 
-void Form7::write_html_report() {
+void ReportPage::write_html_report(const JunkPage& junk) {
   if (Trim(Text5.text()).empty()) return;
-  static_cast<void>(platform().files.write_file(Text5.text(), html_report(*this)));
+  static_cast<void>(platform().files.write_file(Text5.text(), html_report(*this, junk)));
 }
 
 }  // namespace quillvane

@@ -7,6 +7,7 @@
 
 #include "categories/category_frame.h"
 #include "categories/place.h"
+#include "scan/catalogue.h"
 #include "scan/junk_page.h"
 #include "scan/kept_listing.h"
 #include "scan/registry_keys.h"
@@ -82,43 +83,43 @@ struct Browser {
   std::span<const Row> last_rows;
 };
 
-constexpr Browser kChrome{15,
+constexpr Browser kChrome{kChromeNode,
                           "Software\\Google\\Chrome\\PreferenceMACs",
                           "\\AppData\\Local\\Google\\Chrome\\User Data",
                           {},
                           kChromeRows,
                           {}};
-constexpr Browser kEdge{17,
+constexpr Browser kEdge{kEdgeNode,
                         "Software\\Microsoft\\Edge\\PreferenceMACs",
                         "\\AppData\\Local\\Microsoft\\Edge\\User Data",
                         {},
                         kCommonRows,
                         kEdgeLastRows};
-constexpr Browser kBrave{18,
+constexpr Browser kBrave{kBraveNode,
                          "Software\\BraveSoftware\\Brave-Browser\\PreferenceMACs",
                          "\\AppData\\Local\\BraveSoftware\\Brave-Browser\\User Data",
                          {},
                          kCommonRows,
                          {}};
-constexpr Browser kVivaldi{19,
+constexpr Browser kVivaldi{kVivaldiNode,
                            "Software\\vivaldi\\PreferenceMACs",
                            "\\AppData\\Local\\vivaldi\\User Data",
                            kVivaldiFirstRows,
                            kCommonRows,
                            {}};
-constexpr Browser kTorch{20,
+constexpr Browser kTorch{kTorchNode,
                          "Software\\Torch\\PreferenceMACs",
                          "\\AppData\\Local\\Torch\\User Data",
                          kTemporaryFilesFirst,
                          kCommonRows,
                          {}};
-constexpr Browser kMaxthon{21,
+constexpr Browser kMaxthon{kMaxthonNode,
                            "Software\\Maxthon\\PreferenceMACs",
                            "\\AppData\\Local\\Maxthon\\Application\\User Data",
                            kTemporaryFilesFirst,
                            kCommonRows,
                            {}};
-constexpr Browser kYandex{22,
+constexpr Browser kYandex{kYandexNode,
                           "Software\\Yandex\\YandexBrowser\\PreferenceMACs",
                           "\\AppData\\Local\\Yandex\\YandexBrowser\\User Data",
                           kYandexFirstRows,

@@ -7,17 +7,13 @@
 #include "categories/place.h"
 #include "categories/url_cache_rows.h"
 #include "platform/unicode_case.h"
+#include "scan/catalogue.h"
 #include "scan/junk_page.h"
 #include "scan/kept_listing.h"
 
 namespace quillvane {
 
 namespace {
-
-constexpr int kInternetExplorerNode = 13;
-constexpr int kFirefoxNode = 14;
-constexpr int kOperaNode = 16;
-constexpr int kUcBrowserNode = 23;
 
 constexpr Place kInternetExplorer[] = {
     {"USERPROFILE", "\\AppData\\Local\\Microsoft\\Windows\\Temporary Internet Files", "*.*"},

@@ -5,9 +5,9 @@ namespace quillvane {
 
 class JunkPage;
 
-void iecache(JunkPage& page);       // node 13: the URL cache and two folders
-void firefoxcache(JunkPage& page);  // node 14: two folder trees, profiles found on disk
-void operacache(JunkPage& page);    // node 16: a fixed list for one profile
-void uccache(JunkPage& page);       // node 23: profiles found on disk
+void iecache(JunkPage& page);       // the URL cache and two folders
+void firefoxcache(JunkPage& page);  // two folder trees, profiles found on disk
+void operacache(JunkPage& page);    // a fixed list for one profile
+void uccache(JunkPage& page);       // profiles found on disk
 
 }  // namespace quillvane

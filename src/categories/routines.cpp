@@ -1,5 +1,7 @@
 #include "categories/routines.h"
 
+#include <iterator>
+
 #include "categories/chromium_browsers.h"
 #include "categories/other_browsers.h"
 #include "categories/windows_categories.h"
@@ -10,25 +12,38 @@ namespace quillvane {
 
 namespace {
 
-using Routine = void (*)(JunkPage&);
+struct CategoryRoutine {
+  int node;
+  void (*scan)(JunkPage&);
+};
 
-// From node 2 on.
-constexpr Routine kWindowsRoutines[] = {systemp, utemp,    thumb,        memdump,  errorrep,
-                                        logfile, recycleb, downloadprog, wupdates, whistory};
+constexpr CategoryRoutine kRoutines[] = {
+    {kSystemTempNode, systemp},  {kUserTempNode, utemp},           {kThumbnailNode, thumb},
+    {kMemoryDumpNode, memdump},  {kErrorReportNode, errorrep},     {kLogFileNode, logfile},
+    {kRecycleBinNode, recycleb}, {kDownloadedNode, downloadprog},  {kUpdatesNode, wupdates},
+    {kHistoryNode, whistory},    {kInternetExplorerNode, iecache}, {kFirefoxNode, firefoxcache},
+    {kChromeNode, googlecache},  {kOperaNode, operacache},         {kEdgeNode, edgecache},
+    {kBraveNode, bravecache},    {kVivaldiNode, vivaldicache},     {kTorchNode, Torchcache},
+    {kMaxthonNode, maxcache},    {kYandexNode, ydxcache},          {kUcBrowserNode, uccache},
+};
 
-// From node 13 on.
-constexpr Routine kBrowserRoutines[] = {iecache,   firefoxcache, googlecache,  operacache,
-                                        edgecache, bravecache,   vivaldicache, Torchcache,
-                                        maxcache,  ydxcache,     uccache};
+constexpr bool each_leaf_has_its_routine() {
+  const CategoryRoutine* next = std::begin(kRoutines);
+  for (const CatalogueNode& row : kCatalogue) {
+    if (row.parent.empty()) continue;
+    if (next == std::end(kRoutines) || next->node != row.node) return false;
+    ++next;
+  }
+  return next == std::end(kRoutines);
+}
+static_assert(each_leaf_has_its_routine());
 
 }  // namespace
 
 void run_category(JunkPage& page, int node) {
   if (page.session.ended()) return;
-  if (node >= kFirstWindowsLeaf && node <= kLastWindowsLeaf) {
-    kWindowsRoutines[node - kFirstWindowsLeaf](page);
-  } else if (node >= kFirstBrowserLeaf && node <= kLastBrowserLeaf) {
-    kBrowserRoutines[node - kFirstBrowserLeaf](page);
+  for (const CategoryRoutine& routine : kRoutines) {
+    if (routine.node == node) routine.scan(page);
   }
 }
 

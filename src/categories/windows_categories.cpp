@@ -7,6 +7,7 @@
 
 #include "categories/category_frame.h"
 #include "categories/place.h"
+#include "scan/catalogue.h"
 #include "scan/junk_page.h"
 #include "support/registry_values.h"
 #include "support/stored_path.h"
@@ -95,46 +96,44 @@ std::optional<std::uint64_t> dump_file_size(const JunkPage& page) {
 
 }  // namespace
 
-void systemp(JunkPage& page) { scan_places(page, 2, kSystemTemporary); }
-void utemp(JunkPage& page) { scan_places(page, 3, kUserTemporary); }
-void thumb(JunkPage& page) { scan_places(page, 4, kThumbnails); }
-void errorrep(JunkPage& page) { scan_places(page, 6, kErrorReports); }
-void logfile(JunkPage& page) { scan_places(page, 7, kLogFiles); }
-void downloadprog(JunkPage& page) { scan_places(page, 9, kDownloadedPrograms); }
-void wupdates(JunkPage& page) { scan_places(page, 10, kWindowsUpdates); }
-void whistory(JunkPage& page) { scan_places(page, 11, kWindowsHistory); }
+void systemp(JunkPage& page) { scan_places(page, kSystemTempNode, kSystemTemporary); }
+void utemp(JunkPage& page) { scan_places(page, kUserTempNode, kUserTemporary); }
+void thumb(JunkPage& page) { scan_places(page, kThumbnailNode, kThumbnails); }
+void errorrep(JunkPage& page) { scan_places(page, kErrorReportNode, kErrorReports); }
+void logfile(JunkPage& page) { scan_places(page, kLogFileNode, kLogFiles); }
+void downloadprog(JunkPage& page) { scan_places(page, kDownloadedNode, kDownloadedPrograms); }
+void wupdates(JunkPage& page) { scan_places(page, kUpdatesNode, kWindowsUpdates); }
+void whistory(JunkPage& page) { scan_places(page, kHistoryNode, kWindowsHistory); }
 
 // Leaves the running numbers as the category before it left them, so those are added to the group
 // a second time, and the dump file is in no total and in no row: meant so.
 void memdump(JunkPage& page) {
-  constexpr int kNode = 5;
-  page.Tv1.set_node_color(kNode, kGreen);
+  page.Tv1.set_node_color(kMemoryDumpNode, kGreen);
   page.Tv1.refresh();
   const auto size = dump_file_size(page);
-  const std::string caption = page.Tv1.node(kNode).text;
+  const std::string caption = page.Tv1.node(kMemoryDumpNode).text;
   if (size) {
-    page.Tv1.set_text(kNode,
+    page.Tv1.set_text(kMemoryDumpNode,
                       caption + " ( 1 file, " + page.size_text(static_cast<double>(*size)) + " )");
-    page.Tv1.set_node_color(kNode, kDarkRed);
+    page.Tv1.set_node_color(kMemoryDumpNode, kDarkRed);
   } else {
-    page.Tv1.set_text(kNode, caption + " ( 0 files, 0 Byte )");
-    page.Tv1.set_node_color(kNode, 0);
+    page.Tv1.set_text(kMemoryDumpNode, caption + " ( 0 files, 0 Byte )");
+    page.Tv1.set_node_color(kMemoryDumpNode, 0);
   }
-  add_to_group(page, kNode);
+  add_to_group(page, kMemoryDumpNode);
 }
 
 // The folder of one user on each fixed drive; of all users when no SID is known.
 void recycleb(JunkPage& page) {
-  constexpr int kNode = 8;
-  begin_category(page, kNode);
+  begin_category(page, kRecycleBinNode);
   const Platform& platform = page.platform();
   for (const std::string& drive : page.Drive1.items()) {
     const std::string root = drive.substr(0, 1) + ":\\";
     if (platform.drives.type(root) != DriveType::kFixed) continue;
     page.srch(root + "$RECYCLE.BIN\\" + GetHiveListSid(platform.registry, platform.files), "*.*",
-              kNode);
+              kRecycleBinNode);
   }
-  end_category(page, kNode);
+  end_category(page, kRecycleBinNode);
 }
 
 }  // namespace quillvane

@@ -12,23 +12,6 @@ namespace quillvane {
 
 namespace {
 
-// One guarded browser. "launcher.exe" stands for Opera and "browser.exe" for Yandex, by their own
-// names: any process of that name brings the question.
-struct GuardedBrowser {
-  int node;
-  std::string_view process;
-  std::string_view spoken_name;
-};
-
-constexpr GuardedBrowser kGuardedBrowsers[] = {
-    {13, "iexplore.exe", "Internet Explorer"},    {14, "firefox.exe", "FireFox"},
-    {15, "chrome.exe", "Google chrome"},          {16, "launcher.exe", "Opera browser"},
-    {17, "msedge.exe", "Microsoft Edge browser"}, {18, "brave.exe", "Brave browser"},
-    {19, "vivaldi.exe", "Vivaldi browser"},       {20, "torch.exe", "Torch browser"},
-    {21, "Maxthon.exe", "Maxthon browser"},       {22, "browser.exe", "Yandex browser"},
-};
-constexpr int kUnguardedNode = 23;  // UC Browser
-
 constexpr std::uint32_t kQuestionStyle = kBoxSystemModal | kBoxIconQuestion | kBoxYesNo;
 
 std::string question(std::string_view browser) {
@@ -36,14 +19,15 @@ std::string question(std::string_view browser) {
          " is running. would you like to close it? otherwise tracks can't be cleaned.";
 }
 
-bool may_scan_browser(JunkPage& page, std::string_view process, std::string_view spoken_name) {
+bool may_scan_browser(JunkPage& page, const CatalogueNode& browser) {
+  if (browser.process.empty()) return true;
   Processes& processes = page.platform().processes;
-  if (pid(processes, process) == 0 || page.session.silentmode != 0) return true;
-  const Answer answer = page.platform().dialogs.message_box(question(spoken_name),
+  if (pid(processes, browser.process) == 0 || page.session.silentmode != 0) return true;
+  const Answer answer = page.platform().dialogs.message_box(question(browser.spoken_name),
                                                             kCloseBrowserTitle, kQuestionStyle);
   if (answer != Answer::kYes) return false;
-  TerminateByName(processes, process);
-  KillProcessByName(processes, process);
+  TerminateByName(processes, browser.process);
+  KillProcessByName(processes, browser.process);
   return true;
 }
 
@@ -51,16 +35,15 @@ bool may_scan_browser(JunkPage& page, std::string_view process, std::string_view
 
 void scan_browsers(JunkPage& page) {
   page.skipped_browsers.clear();
-  for (const GuardedBrowser& browser : kGuardedBrowsers) {
+  for (int node = kFirstBrowserLeaf; node <= kLastBrowserLeaf; ++node) {
     if (page.session.ended()) return;  // nobody is there to be asked
-    if (may_scan_browser(page, browser.process, browser.spoken_name)) {
-      run_category(page, browser.node);
+    if (may_scan_browser(page, catalogue_node(node))) {
+      run_category(page, node);
     } else {
-      page.skipped_browsers.push_back(browser.node);
+      page.skipped_browsers.push_back(node);
     }
     if (page.cancelflag == 1) return;
   }
-  run_category(page, kUnguardedNode);
 }
 
 }  // namespace quillvane

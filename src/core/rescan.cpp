@@ -18,7 +18,6 @@ namespace quillvane {
 namespace {
 
 constexpr std::chrono::milliseconds kScanPause{1000};
-constexpr int kThumbnailNode = 4;
 constexpr std::string_view kRenamedEnding = "1.db";
 
 // Limits of a shorter catalogue, meant as they stand: a browser's rescan resets the nodes up to 16

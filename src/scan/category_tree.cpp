@@ -17,7 +17,7 @@ constexpr int kFirstCustomKey = 18;  // the keys are only there to be unique
 // Nodes and rows that a tick on a group reaches. The limits of the rows, and the first node of the
 // custom group, stem from a shorter catalogue and are meant as they stand.
 struct TickReach {
-  std::string_view key;
+  int group;
   int first_node;
   int last_node;  // 0: the last of the tree
   int first_category;
@@ -25,9 +25,9 @@ struct TickReach {
 };
 
 constexpr TickReach kTickReach[] = {
-    {"w", 1, 11, 1, 12},
-    {"b", 12, 23, 12, 16},
-    {"f", 19, 0, 17, 0},
+    {kWindowsNode, kWindowsNode, kLastWindowsLeaf, kWindowsNode, 12},
+    {kBrowsersNode, kBrowsersNode, kLastBrowserLeaf, 12, 16},
+    {kCustomNode, 19, 0, 17, 0},
 };
 
 void tick_rows(ListView& list, bool checked, int first_category, int last_category) {
@@ -56,7 +56,8 @@ void JunkPage::add_custom_nodes() {
   int key_number = kFirstCustomKey;
   for (const std::string& line :
        read_list_lines(platform().files, session.data_file(kCustomFile))) {
-    Tv1.add("f", "f-" + std::to_string(key_number), custom_entry_of(line).name, kCustomImage);
+    Tv1.add(catalogue_node(kCustomNode).key, "f-" + std::to_string(key_number),
+            custom_entry_of(line).name, kCustomImage);
     ++key_number;
   }
 }
@@ -89,7 +90,7 @@ void JunkPage::node_checked(int index) {
   if (node == nullptr) return;
   tick_rows(view5, node->checked, index, index);
   for (const TickReach& reach : kTickReach) {
-    if (node->key != reach.key) continue;
+    if (node->key != catalogue_node(reach.group).key) continue;
     const int last = reach.last_node == 0 ? Tv1.count() : reach.last_node;
     for (int i = reach.first_node; i <= last; ++i) Tv1.set_checked(i, node->checked);
     tick_rows(view5, node->checked, reach.first_category, reach.last_category);

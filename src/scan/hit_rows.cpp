@@ -5,10 +5,17 @@
 
 namespace quillvane {
 
-int category_icon(int category) {
-  constexpr int kBrowsersNode = 12;
-  return category > kBrowsersNode ? category - 2 : category - 1;
+namespace {
+
+constexpr bool icons_are_those_of_the_tree() {
+  for (const CatalogueNode& row : kCatalogue) {
+    if (!row.parent.empty() && category_icon(row.node) != row.image) return false;
+  }
+  return true;
 }
+static_assert(icons_are_those_of_the_tree());
+
+}  // namespace
 
 std::string HitRows::text(std::size_t index, int column) const {
   switch (column) {

@@ -6,6 +6,7 @@
 
 #include "forms/list_view.h"
 #include "platform/system_info.h"
+#include "scan/catalogue.h"
 #include "scan/search.h"
 
 namespace quillvane {
@@ -17,7 +18,9 @@ inline constexpr int kCategoryColumn = 3;  // Index of the category's node in Tv
 
 // Icon of the rows of a category: a picture of ImageList4, counted from 0. The groups have no
 // picture of their own, so the browsers' are one further down.
-[[nodiscard]] int category_icon(int category);
+[[nodiscard]] constexpr int category_icon(int category) {
+  return category > kBrowsersNode ? category - 2 : category - 1;
+}
 
 // Row i is file i of `files`.
 class HitRows final : public RowSource {

@@ -16,6 +16,7 @@
 #include "forms/simple_controls.h"
 #include "forms/text_box.h"
 #include "forms/tree_view.h"
+#include "scan/catalogue.h"
 #include "scan/scan_totals.h"
 #include "scan/searchable_text.h"
 
@@ -64,9 +65,10 @@ class JunkPage : public virtual Page {
   Field<int> cancelflag{window, "cancelflag"};  // 1: the running scan shall stop
   Field<int> selnode{window, "selnode"};        // Index of the node of Tv1 clicked last
   Field<int> listfocus{window, "listfocus"};    // 3 once a row of view1 or view5 was clicked
-  Field<int> custnode{window, "custnode", 25};  // Index of the custom node being scanned
-  SearchableText ignorelist;                    // lower-case ignore entries, each followed by "|"
-  SearchableText pending_filter;                // PendingFilter: the text of Text15, with an index
+  // Index of the custom node being scanned
+  Field<int> custnode{window, "custnode", kFirstCustomLeaf};
+  SearchableText ignorelist;      // lower-case ignore entries, each followed by "|"
+  SearchableText pending_filter;  // PendingFilter: the text of Text15, with an index
   ScanTotals totals{window};
   std::map<int, NodeResult> node_results;  // by Index; emptied with the tree
   std::vector<int> skipped_browsers;       // nodes the user kept out, since their browser runs

@@ -19,7 +19,7 @@ void BrowserAnswer::apply_to(ConsoleDialogs& dialogs) const {
 
 std::vector<std::string> skipped_captions(const JunkPage& page) {
   std::vector<std::string> captions;
-  for (const int node : page.skipped_browsers) captions.emplace_back(kCatalogue[node - 1].caption);
+  for (const int node : page.skipped_browsers) captions.emplace_back(catalogue_node(node).caption);
   return captions;
 }
 

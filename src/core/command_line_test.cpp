@@ -118,7 +118,7 @@ TEST(CommandLine, AnEmptyOneIsAStartByTheUser) {
 TEST(CommandLine, IsKeptTrimmedAndInLowerCase) {
   ScanFixture fixture;
   Program program(fixture.machine.platform());
-  Form7 form(program);
+  Form7 form(program.session, program.windows);
   form.initialize("  W2-C2 ");
   EXPECT_EQ(form.session.cmdline, "w2-c2");
 }

@@ -58,7 +58,7 @@ TEST(StartUp, HidesTheTextBoxesThatServeAsVariables) {
 TEST(StartUp, ShowsTheResultPageWhereTheDrivesStand) {
   ScanFixture fixture;
   Program program(fixture.machine.platform());
-  Form7 form(program);
+  Form7 form(program.session, program.windows);
   form.Frame2.move(120, 900);
   form.lbllanguage_0.move(30, 45);
 
@@ -175,7 +175,7 @@ TEST(StartUp, KeepsTheSuitesOptionsForTheSystemTemporaryFolder) {
   fixture.machine.set_registry_text(Hive::kLocalMachine, kOptionKey, "access", "1");
   fixture.machine.set_registry_text(Hive::kLocalMachine, kOptionKey, "days", "21");
   const Form7& form = fixture.start();
-  EXPECT_EQ(form.systempaccess, "1");
+  EXPECT_EQ(form.systempaccess.value(), "1");
   const auto date = calendar_date(form.systempdate);  // 21 days before 2026-11-21
   ASSERT_TRUE(date);
   EXPECT_EQ(std::vector({date->year, date->month, date->day}), (std::vector{2026, 10, 31}));
@@ -184,7 +184,7 @@ TEST(StartUp, KeepsTheSuitesOptionsForTheSystemTemporaryFolder) {
 TEST(StartUp, OptionsThatAreMissingCountAsNothing) {
   ScanFixture fixture;
   const Form7& form = fixture.start();
-  EXPECT_EQ(form.systempaccess, "");
+  EXPECT_EQ(form.systempaccess.value(), "");
   const auto date = calendar_date(form.systempdate);
   ASSERT_TRUE(date);
   EXPECT_EQ(std::vector({date->year, date->month, date->day}), (std::vector{2026, 11, 21}));

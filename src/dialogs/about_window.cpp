@@ -7,23 +7,8 @@
 
 namespace quillvane {
 
-frmabout::frmabout(Session& session)
-    : ModalWindow("frmabout"),
-      Label222_1(*this, "Label222(1)"),
-      chameleonButton3(*this, "chameleonButton3"),
-      Label2_0(*this, "Label2(0)"),
-      Label2_1(*this, "Label2(1)"),
-      Label2_2(*this, "Label2(2)"),
-      Label2_3(*this, "Label2(3)"),
-      Label6(*this, "Label6"),
-      session_(session) {
+frmabout::frmabout(Session& session) : ModalWindow("frmabout"), session_(session) {
   set_caption("About");
-  Label222_1.set_caption("About");
-  Label2_0.set_caption(kProgramName);
-  Label2_1.set_caption("Version " QUILLVANE_VERSION);
-  Label2_2.set_caption(kWebAddress);
-  Label2_3.set_caption(kMailAddress);
-  Label6.set_caption("Translate this program");
 
   chameleonButton3.on_click = [this] { unload(); };
   Label2_2.on_click = [this] { open(std::string(kWebAddress)); };

@@ -10,29 +10,8 @@
 namespace quillvane {
 
 Form2::Form2(Session& session, ModalWindows& windows, TextBox& mail_box)
-    : ModalWindow("Form2"),
-      Label222_1(*this, "Label222(1)"),
-      chameleonButton3(*this, "chameleonButton3"),
-      Label1(*this, "Label1"),
-      view1(*this, "view1", {"Name", "Location"}),
-      Command3(*this, "Command3"),
-      Command4(*this, "Command4"),
-      Command2(*this, "Command2"),
-      Command1(*this, "Command1"),
-      Text1(*this, "Text1"),
-      session_(session),
-      windows_(windows),
-      mail_box_(mail_box) {
+    : ModalWindow("Form2"), session_(session), windows_(windows), mail_box_(mail_box) {
   set_caption("Custom file search");
-  Label222_1.set_caption("Custom file search");
-  Label1.set_caption("The folders in this list are searched for junk files too");
-  Command3.set_caption("New");
-  Command4.set_caption("Edit");
-  Command2.set_caption("Delete");
-  Command1.set_caption("Close");
-  Command4.set_enabled(false);
-  Command2.set_enabled(false);
-  Text1.hide();
 
   view1.on_item_click = [this](int row) { row_clicked(row); };
   Command3.on_click = [this] { add_entry(); };

@@ -18,15 +18,21 @@ class Form2 final : public ModalWindow {
   // Takes the suite's colour and reads the list. A missing file is an empty list.
   void load();
 
-  Label Label222_1;         // the title
-  Button chameleonButton3;  // the close cross
-  Label Label1;             // says what the list is for
-  ListView view1;           // the entries; sub-items: location, include, exclude, subfolders
-  Button Command3;          // a new entry
-  Button Command4;          // edits the row clicked last
-  Button Command2;          // deletes the row clicked last
-  Button Command1;          // leaves
-  TextBox Text1;            // mailbox of Form5: "1" reads the list again, "2" writes it
+  Label Label222_1{*this, "Label222(1)", {.caption = "Custom file search"}};  // the title
+  Button chameleonButton3{*this, "chameleonButton3"};                         // the close cross
+  // says what the list is for
+  Label Label1{
+      *this, "Label1", {.caption = "The folders in this list are searched for junk files too"}};
+  // the entries; sub-items: location, include, exclude, subfolders
+  ListView view1{*this, "view1", {"Name", "Location"}};
+  Button Command3{*this, "Command3", {.caption = "New"}};  // a new entry
+  // edits the row clicked last
+  Button Command4{*this, "Command4", {.caption = "Edit", .disabled = true}};
+  // deletes the row clicked last
+  Button Command2{*this, "Command2", {.caption = "Delete", .disabled = true}};
+  Button Command1{*this, "Command1", {.caption = "Close"}};  // leaves
+  // mailbox of Form5: "1" reads the list again, "2" writes it
+  TextBox Text1{*this, "Text1", kHidden};
 
  private:
   void read_list();

@@ -11,54 +11,15 @@
 namespace quillvane {
 
 Form5::Form5(Session& session, Form2& list, TextBox& mail_box)
-    : ModalWindow("Form5"),
-      Label222_1(*this, "Label222(1)"),
-      chameleonButton3(*this, "chameleonButton3"),
-      Label1_4(*this, "Label1(4)"),
-      Label1_0(*this, "Label1(0)"),
-      Text1(*this, "Text1"),
-      Label1_1(*this, "Label1(1)"),
-      Text2(*this, "Text2"),
-      Command3(*this, "Command3"),
-      Label1_2(*this, "Label1(2)"),
-      Text3(*this, "Text3"),
-      Label2_0(*this, "Label2(0)"),
-      Label1_3(*this, "Label1(3)"),
-      Text4(*this, "Text4"),
-      Label2_1(*this, "Label2(1)"),
-      Check1(*this, "Check1"),
-      Command2(*this, "Command2"),
-      Command1(*this, "Command1"),
-      Text5(*this, "Text5"),
-      session_(session),
-      list_(list),
-      mail_box_(mail_box) {
-  set_captions();
+    : ModalWindow("Form5"), session_(session), list_(list), mail_box_(mail_box) {
+  set_caption("Custom file search");
   Text5.set_text("0");
-  Text5.hide();
-  Command2.set_enabled(false);
 
   Text2.on_change = [this] { Command2.set_enabled(folder_exists()); };
   Command3.on_click = [this] { choose_folder(); };
   Command2.on_click = [this] { save(); };
   Command1.on_click = [this] { unload(); };
   chameleonButton3.on_click = [this] { unload(); };
-}
-
-void Form5::set_captions() {
-  set_caption("Custom file search");
-  Label222_1.set_caption("Custom file search");
-  Label1_4.set_caption("Add new location to search with in");
-  Label1_0.set_caption("Custom Name");
-  Label1_1.set_caption("Location");
-  Label1_2.set_caption("Include");
-  Label1_3.set_caption("Exclude");
-  Label2_0.set_caption("Example: *.tmp,*.log");
-  Label2_1.set_caption("Example: *.exe,*.doc");
-  Check1.set_caption("Include Subfolders in search");
-  Command3.set_caption("Browse");
-  Command2.set_caption("Save");
-  Command1.set_caption("Close");
 }
 
 void Form5::load() { set_back_color(suite_color(session_.platform)); }

@@ -22,27 +22,28 @@ class Form5 final : public ModalWindow {
   // Shows the entry that shall be changed.
   void fill(const CustomEntry& entry);
 
-  Label Label222_1;         // the title
-  Button chameleonButton3;  // the close cross
-  Label Label1_4;           // says what is asked for
-  Label Label1_0;           // "Custom Name"
-  TextBox Text1;            // the category's caption
-  Label Label1_1;           // "Location"
-  TextBox Text2;            // folder to search
-  Button Command3;          // chooses the folder
-  Label Label1_2;           // "Include"
-  TextBox Text3;            // patterns, joined by commas
-  Label Label2_0;           // an example of them
-  Label Label1_3;           // "Exclude"
-  TextBox Text4;            // patterns to leave out, joined by commas
-  Label Label2_1;           // an example of them
-  CheckBox Check1;          // "Include Subfolders in search"
-  Button Command2;          // saves and leaves
-  Button Command1;          // leaves without saving
-  TextBox Text5;            // the row of Form2 to change; 0 for a new entry
+  Label Label222_1{*this, "Label222(1)", {.caption = "Custom file search"}};  // the title
+  Button chameleonButton3{*this, "chameleonButton3"};                         // the close cross
+  // says what is asked for
+  Label Label1_4{*this, "Label1(4)", {.caption = "Add new location to search with in"}};
+  Label Label1_0{*this, "Label1(0)", {.caption = "Custom Name"}};  // "Custom Name"
+  TextBox Text1{*this, "Text1"};                                   // the category's caption
+  Label Label1_1{*this, "Label1(1)", {.caption = "Location"}};     // "Location"
+  TextBox Text2{*this, "Text2"};                                   // folder to search
+  Button Command3{*this, "Command3", {.caption = "Browse"}};       // chooses the folder
+  Label Label1_2{*this, "Label1(2)", {.caption = "Include"}};      // "Include"
+  TextBox Text3{*this, "Text3"};                                   // patterns, joined by commas
+  Label Label2_0{*this, "Label2(0)", {.caption = "Example: *.tmp,*.log"}};  // an example of them
+  Label Label1_3{*this, "Label1(3)", {.caption = "Exclude"}};               // "Exclude"
+  TextBox Text4{*this, "Text4"};  // patterns to leave out, joined by commas
+  Label Label2_1{*this, "Label2(1)", {.caption = "Example: *.exe,*.doc"}};  // an example of them
+  // "Include Subfolders in search"
+  CheckBox Check1{*this, "Check1", {.caption = "Include Subfolders in search"}};
+  Button Command2{*this, "Command2", {.caption = "Save", .disabled = true}};  // saves and leaves
+  Button Command1{*this, "Command1", {.caption = "Close"}};  // leaves without saving
+  TextBox Text5{*this, "Text5", kHidden};  // the row of Form2 to change; 0 for a new entry
 
  private:
-  void set_captions();
   void choose_folder();
   void save();
   void change_row(double row);

@@ -9,25 +9,8 @@
 namespace quillvane {
 
 Form1::Form1(Session& session, TextBox& mail_box)
-    : ModalWindow("Form1"),
-      Label222_1(*this, "Label222(1)"),
-      chameleonButton3(*this, "chameleonButton3"),
-      Label1(*this, "Label1"),
-      view1(*this, "view1", {"Folder"}),
-      Command3(*this, "Command3"),
-      Command4(*this, "Command4"),
-      Command2(*this, "Command2"),
-      Command1(*this, "Command1"),
-      session_(session),
-      mail_box_(mail_box) {
+    : ModalWindow("Form1"), session_(session), mail_box_(mail_box) {
   set_caption("Ignore list");
-  Label222_1.set_caption("Ignore list");
-  Label1.set_caption("All folders and files in this list will not considered as junk files");
-  Command3.set_caption("Add");
-  Command4.set_caption("Remove");
-  Command2.set_caption("Save");
-  Command1.set_caption("Close");
-  Command4.set_enabled(false);
 
   view1.on_item_click = [this](int row) {
     row_ = row;

@@ -17,14 +17,18 @@ class Form1 final : public ModalWindow {
   // Takes the suite's colour and reads the list. A missing file is an empty list.
   void load();
 
-  Label Label222_1;         // the title
-  Button chameleonButton3;  // the close cross: leaves without saving
-  Label Label1;             // says what the list is for
-  ListView view1;           // the entries, as they stand in ignore.tdw
-  Button Command3;          // adds a folder
-  Button Command4;          // removes the row clicked last
-  Button Command2;          // saves and leaves
-  Button Command1;          // leaves without saving
+  Label Label222_1{*this, "Label222(1)", {.caption = "Ignore list"}};  // the title
+  Button chameleonButton3{*this, "chameleonButton3"};  // the close cross: leaves without saving
+  // says what the list is for
+  Label Label1{*this,
+               "Label1",
+               {.caption = "All folders and files in this list will not considered as junk files"}};
+  ListView view1{*this, "view1", {"Folder"}};  // the entries, as they stand in ignore.tdw
+  Button Command3{*this, "Command3", {.caption = "Add"}};  // adds a folder
+  // removes the row clicked last
+  Button Command4{*this, "Command4", {.caption = "Remove", .disabled = true}};
+  Button Command2{*this, "Command2", {.caption = "Save"}};   // saves and leaves
+  Button Command1{*this, "Command1", {.caption = "Close"}};  // leaves without saving
 
  private:
   void add_folder();

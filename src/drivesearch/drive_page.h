@@ -22,7 +22,8 @@ class DrivePage : public virtual Page {
 
   // drives with their space; ticked ones are searched
   ListView View2{window, "View2", {"Name", "Total", "Free Space", "Status"}};
-  Button chameleonButton6{window, "chameleonButton6", kHidden};  // holds the way to this page
+  Button chameleonButton6{window, "chameleonButton6",
+                          kHidden};  // holds the way to the page of the drives
 
   Field<int> anydrivechecked{window, "anydrivechecked"};  // 1 when a row of View2 is ticked
 

@@ -15,7 +15,8 @@ class ListsPage : public virtual Page {
   ListView View201{window, "View201", {"Excluded Files and Folders Location", "Description"}};
   // folders to take in
   ListView View202{window, "View202", {"Included Folders Location", "Description"}};
-  Button chameleonButton1{window, "chameleonButton1", kHidden};  // holds the way to this page
+  // holds the way to the page of the exclude and include lists
+  Button chameleonButton1{window, "chameleonButton1", kHidden};
 };
 
 }  // namespace quillvane

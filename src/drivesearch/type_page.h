@@ -16,7 +16,7 @@ class TypePage : public virtual Page {
   // summary by file type
   ListView View1000{
       window, "View1000", {"File Description ", "File Type", "Files", "Space Used (Byte)"}};
-  Button orvbutton8{window, "orvbutton8", kHidden};  // holds the way to this page
+  Button orvbutton8{window, "orvbutton8", kHidden};  // holds the way to the page of the file types
   Button command111{window, "command111"};           // a new file type
   Button command811{window, "command811"};           // edits the file type clicked last
   Button command911{window, "command911"};           // deletes the selected file types

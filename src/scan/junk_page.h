@@ -90,7 +90,7 @@ class JunkPage : public virtual Page {
 
   // --- Hidden controls that serve as variables.
   TextBox Text8{window, "Text8", kHidden};    // number of the row clicked last in a list
-  TextBox Text15{window, "Text15", kHidden};  // files queued for the restart, each after a "|"
+  TextBox Text15{window, "Text15", kHidden};  // files queued for the restart, each behind a bar
   TextBox txtfilecont{window, "txtfilecont", kHidden};  // files of the whole scan
   TextBox txtfilesize{window, "txtfilesize", kHidden};  // bytes of the whole scan
   ListBox List1{window, "List1", kHidden};    // a working list of sub-key names of the registry

@@ -8,16 +8,16 @@ namespace quillvane {
 
 struct ScanTotals {
   Window& window;
-  Field<double> catfiles{window, "catfiles"};  // the category now running
-  Field<double> catsize{window, "catsize"};
-  Field<double> winfiles{window, "winfiles"};  // the Windows group
-  Field<double> winsize{window, "winsize"};
-  Field<double> brfiles{window, "brfiles"};  // the Browsers group
-  Field<double> brsize{window, "brsize"};
-  Field<double> custfiles{window, "custfiles"};  // the custom group
-  Field<double> custsize{window, "custsize"};
-  Field<double> totalfiles{window, "totalfiles"};  // the whole scan
-  Field<double> totalsize{window, "totalsize"};
+  Field<double> catfiles{window, "catfiles"};      // files of the category now running
+  Field<double> catsize{window, "catsize"};        // bytes of the category now running
+  Field<double> winfiles{window, "winfiles"};      // files of the Windows group
+  Field<double> winsize{window, "winsize"};        // bytes of the Windows group
+  Field<double> brfiles{window, "brfiles"};        // files of the Browsers group
+  Field<double> brsize{window, "brsize"};          // bytes of the Browsers group
+  Field<double> custfiles{window, "custfiles"};    // files of the custom group
+  Field<double> custsize{window, "custsize"};      // bytes of the custom group
+  Field<double> totalfiles{window, "totalfiles"};  // files of the whole scan
+  Field<double> totalsize{window, "totalsize"};    // bytes of the whole scan
 };
 
 // Count and bytes that one node of the tree put into the totals.

@@ -20,7 +20,7 @@ constexpr ControlPlace dialog_place(std::string_view name, ControlKind kind, int
 }
 
 constexpr ControlPlace dialog_list(std::string_view name, int row, std::string_view says) {
-  return {name, ControlKind::kPlainList, row, 0, 1, Pack::kFill, 0, says, {}, {}, {}};
+  return filling(name, ControlKind::kPlainList, row, 0, 1).says(says);
 }
 
 // What the small windows have in common: the title's label, the keys, the distances. What is a
@@ -45,17 +45,9 @@ constexpr WindowLayout dialog_layout(int width, int height) {
 }
 
 constexpr ControlPlace dialog_close_cross(int columns) {
-  return {"chameleonButton3",
-          ControlKind::kTitleButton,
-          0,
-          0,
-          columns,
-          Pack::kFromRight,
-          42,
-          "Close",
-          {},
-          {},
-          "title-close"};
+  return packed(Pack::kFromRight, "chameleonButton3", ControlKind::kTitleButton, 0, columns, 42)
+      .says("Close")
+      .with("title-close");
 }
 
 }  // namespace quillvane

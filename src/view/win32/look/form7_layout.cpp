@@ -22,124 +22,66 @@ constexpr Track kColumns[] = {{230, 41}, {300, 59}};
 constexpr std::string_view kResultPage = "Frame80";
 constexpr std::string_view kLanguages = "pictrlang";
 
-constexpr ControlPlace title_button(std::string_view name, std::string_view says,
-                                    std::string_view picture) {
-  return {name,   ControlKind::kTitleButton, kTitle, 0, 2, Pack::kFromRight, 42, says, {}, {},
-          picture};
+using enum ControlKind;
+
+constexpr ControlPlace left(std::string_view name, ControlKind kind, Row row, int width) {
+  return packed(Pack::kFromLeft, name, kind, row, 2, width);
 }
 
-constexpr ControlPlace button(std::string_view name, Row row, int columns, Pack pack, int width,
-                              ControlKind kind = ControlKind::kButton) {
-  return {name, kind, row, 0, columns, pack, width, {}, {}, {}, {}};
+constexpr ControlPlace right(std::string_view name, ControlKind kind, Row row, int width) {
+  return packed(Pack::kFromRight, name, kind, row, 2, width);
+}
+
+constexpr ControlPlace under_tree(std::string_view name, int width) {
+  return packed(Pack::kFromLeft, name, kButton, kSelect, 1, width);
+}
+
+constexpr ControlPlace across(std::string_view name, ControlKind kind, Row row) {
+  return filling(name, kind, row, 0, 2).on(kResultPage);
+}
+
+constexpr ControlPlace beside_tree(std::string_view name, ControlKind kind, Row row) {
+  return filling(name, kind, row, 1, 1).on(kResultPage);
+}
+
+constexpr ControlPlace hit_list(std::string_view name, std::string_view says,
+                                std::string_view tab) {
+  return beside_tree(name, kList, kMain).says(says).under(tab).with("category");
+}
+
+constexpr ControlPlace language_part(std::string_view name, ControlKind kind, int width) {
+  return right(name, kind, kTools, width).on(kLanguages);
+}
+
+constexpr ControlPlace title_button(std::string_view name) {
+  return right(name, kTitleButton, kTitle, 42);
 }
 
 // In the order in which Tab goes through them.
 constexpr ControlPlace kControls[] = {
-    {"Toolbar1",
-     ControlKind::kToolbar,
-     kTools,
-     0,
-     2,
-     Pack::kFromLeft,
-     500,
-     "Commands",
-     {},
-     {},
-     "toolbar"},
-    {"lbllanguage(0)",
-     ControlKind::kLabel,
-     kTools,
-     0,
-     2,
-     Pack::kFromRight,
-     70,
-     {},
-     kLanguages,
-     {},
-     {}},
-    {"imglangselect",
-     ControlKind::kPicture,
-     kTools,
-     0,
-     2,
-     Pack::kFromRight,
-     20,
-     "Chosen language",
-     kLanguages,
-     {},
-     "language-chosen"},
-    {"Tv1",
-     ControlKind::kTree,
-     kMain,
-     0,
-     1,
-     Pack::kFill,
-     0,
-     "Categories",
-     kResultPage,
-     {},
-     "category"},
-    {"view5", ControlKind::kList, kMain, 1, 1, Pack::kFill, 0, "Files of the category", kResultPage,
-     "Category", "category"},
-    {"view1", ControlKind::kList, kMain, 1, 1, Pack::kFill, 0, "All files found", kResultPage,
-     "All files", "category"},
-    button("cmd_all", kSelect, 1, Pack::kFromLeft, 104),
-    button("cmd_non", kSelect, 1, Pack::kFromLeft, 104),
-    {"Text13", ControlKind::kPathLine, kSelect, 1, 1, Pack::kFill, 0, {}, kResultPage, {}, {}},
-    {"Shape1",
-     ControlKind::kMark,
-     kSummary,
-     0,
-     2,
-     Pack::kFromLeft,
-     14,
-     "Result mark",
-     kResultPage,
-     {},
-     {}},
-    {"Gif89a2",
-     ControlKind::kAnimation,
-     kSummary,
-     0,
-     2,
-     Pack::kFromRight,
-     34,
-     "At work",
-     kResultPage,
-     {},
-     {}},
-    {"Label11",
-     ControlKind::kLabel,
-     kSummary,
-     0,
-     2,
-     Pack::kFill,
-     0,
-     "Summary",
-     kResultPage,
-     {},
-     {}},
-    {"bar3",
-     ControlKind::kProgress,
-     kBar,
-     0,
-     2,
-     Pack::kFill,
-     0,
-     "Cleaning progress",
-     kResultPage,
-     {},
-     {}},
-    button("cmd_start", kCommands, 2, Pack::kFromLeft, 104, ControlKind::kMainButton),
-    button("cmd_cancel", kCommands, 2, Pack::kFromLeft, 90),
-    button("cmd_clean", kCommands, 2, Pack::kFromLeft, 120),
-    button("cmd_report", kCommands, 2, Pack::kFromRight, 112),
-    button("cmd_ignore", kCommands, 2, Pack::kFromRight, 90),
-    button("cmd_custom", kCommands, 2, Pack::kFromRight, 116),
-    title_button("chameleonButton9", "Close", "title-close"),
-    title_button("chameleonButton12", "Minimise", "title-minimise"),
-    title_button("chameleonButton18", "About", "title-about"),
-    title_button("chameleonButton13", "Language", "title-language"),
+    left("Toolbar1", kToolbar, kTools, 500).says("Commands").with("toolbar"),
+    language_part("lbllanguage(0)", kLabel, 70),
+    language_part("imglangselect", kPicture, 20).says("Chosen language").with("language-chosen"),
+    filling("Tv1", kTree, kMain, 0, 1).on(kResultPage).says("Categories").with("category"),
+    hit_list("view5", "Files of the category", "Category"),
+    hit_list("view1", "All files found", "All files"),
+    under_tree("cmd_all", 104),
+    under_tree("cmd_non", 104),
+    beside_tree("Text13", kPathLine, kSelect),
+    left("Shape1", kMark, kSummary, 14).on(kResultPage).says("Result mark"),
+    right("Gif89a2", kAnimation, kSummary, 34).on(kResultPage).says("At work"),
+    across("Label11", kLabel, kSummary).says("Summary"),
+    across("bar3", kProgress, kBar).says("Cleaning progress"),
+    left("cmd_start", kMainButton, kCommands, 104),
+    left("cmd_cancel", kButton, kCommands, 90),
+    left("cmd_clean", kButton, kCommands, 120),
+    right("cmd_report", kButton, kCommands, 112),
+    right("cmd_ignore", kButton, kCommands, 90),
+    right("cmd_custom", kButton, kCommands, 116),
+    title_button("chameleonButton9").says("Close").with("title-close"),
+    title_button("chameleonButton12").says("Minimise").with("title-minimise"),
+    title_button("chameleonButton18").says("About").with("title-about"),
+    title_button("chameleonButton13").says("Language").with("title-language"),
 };
 
 constexpr ToolbarHint kHints[] = {

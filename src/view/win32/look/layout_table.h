@@ -53,7 +53,41 @@ struct ControlPlace {
   // Controls of one cell that have a tab share the cell and are shown in turn.
   std::string_view tab;
   std::string_view picture;  // its own, or the set that a list, tree or tool bar takes from
+
+  // The same place with one thing more, so that a table holds a control a line.
+  [[nodiscard]] constexpr ControlPlace says(std::string_view text) const {
+    ControlPlace place = *this;
+    place.accessible_name = text;
+    return place;
+  }
+  [[nodiscard]] constexpr ControlPlace on(std::string_view frame) const {
+    ControlPlace place = *this;
+    place.page = frame;
+    return place;
+  }
+  [[nodiscard]] constexpr ControlPlace under(std::string_view tab_caption) const {
+    ControlPlace place = *this;
+    place.tab = tab_caption;
+    return place;
+  }
+  [[nodiscard]] constexpr ControlPlace with(std::string_view its_picture) const {
+    ControlPlace place = *this;
+    place.picture = its_picture;
+    return place;
+  }
 };
+
+// A control that fills what others leave of its cell.
+constexpr ControlPlace filling(std::string_view name, ControlKind kind, int row, int column,
+                               int columns) {
+  return {name, kind, row, column, columns, Pack::kFill, 0, {}, {}, {}, {}};
+}
+
+// A control of that width at the left or right end of a cell that begins with the first column.
+constexpr ControlPlace packed(Pack pack, std::string_view name, ControlKind kind, int row,
+                              int columns, int width) {
+  return {name, kind, row, 0, columns, pack, width, {}, {}, {}, {}};
+}
 
 // A row or column of the grid: a fixed length, or a share of what the fixed ones leave.
 struct Track {

@@ -53,7 +53,7 @@ TEST_F(ConsoleProcess, AClosedOutputIsAProblem) {
 TEST_F(ConsoleProcess, WrongWordsHaveAStatusOfTheirOwn) {
   EXPECT_EQ(run("scan --fast >out"), 2);
   EXPECT_EQ(folder_.read("out"), "");
-  EXPECT_EQ(err(), "quillvane: command line: The following argument was not expected: --fast\n");
+  EXPECT_EQ(err(), "quillvane: --fast: there is no such option\n");
 }
 
 TEST_F(ConsoleProcess, AScriptThatFailsKeepsWhatItPrinted) {

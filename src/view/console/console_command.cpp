@@ -1,7 +1,6 @@
 #include "view/console/console_command.h"
 
 #include <array>
-#include <optional>
 #include <variant>
 
 namespace quillvane {
@@ -34,9 +33,7 @@ int ConsoleSession::problem(std::string_view what_and_why) const {
 }
 
 std::unique_ptr<ConsoleMachine> ConsoleSession::open_machine() const {
-  const auto dir =
-      machine_folder.empty() ? std::nullopt : std::optional<std::string>(machine_folder);
-  auto opened = host.open(dir, io.err);
+  auto opened = host.open(machine_folder, io.err);
   if (const auto* why = std::get_if<HostProblem>(&opened)) {
     problem(why->text);
     return nullptr;

@@ -36,7 +36,8 @@ class FolderMachineTest : public testing::Test {
   std::unique_ptr<FolderMachine> machine_;
 };
 
-TEST_F(FolderMachineTest, AnEmptyFolderIsAMachineOfDefaultsAndStaysEmpty) {
+TEST_F(FolderMachineTest, AFolderOfADriveIsAMachineOfDefaultsAndGetsNothingByItself) {
+  folder_.make_folder("drive_c");
   FolderMachine& machine = open();
   QueuedDialogs dialogs(machine.effects());
   const Platform platform = machine.platform(dialogs);
@@ -51,7 +52,25 @@ TEST_F(FolderMachineTest, AnEmptyFolderIsAMachineOfDefaultsAndStaysEmpty) {
   EXPECT_EQ(platform.url_cache.find_first(), std::nullopt);
   EXPECT_FALSE(folder_.has("machine.json"));
   EXPECT_FALSE(folder_.has("registry.db"));
-  EXPECT_FALSE(folder_.has("drive_c"));
+}
+
+TEST_F(FolderMachineTest, AFolderWithoutDrivesAndDescriptionIsNoMachine) {
+  const std::string problem =
+      folder_.path() + ": is no machine folder (it has neither machine.json nor a drive_c)";
+  EXPECT_EQ(open_failure(folder_.path()), problem);
+  folder_.make_folder("drive_");
+  folder_.make_folder("drive_cc");
+  folder_.write("drive_d");
+  folder_.write("registry.db");
+  EXPECT_EQ(open_failure(folder_.path()), problem);
+
+  folder_.make_folder("drive_x");
+  EXPECT_EQ(open_failure(folder_.path()), "opened");
+}
+
+TEST_F(FolderMachineTest, ADescriptionAloneIsAMachine) {
+  folder_.write("machine.json", "{}");
+  EXPECT_EQ(open_failure(folder_.path()), "opened");
 }
 
 TEST_F(FolderMachineTest, AllThatIsSetUpIsSeenThroughThePlatform) {

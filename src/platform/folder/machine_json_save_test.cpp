@@ -89,6 +89,7 @@ TEST_F(MachineJsonSave, OnlyWhatChangedIsWrittenAndUnknownKeysStay) {
 
 TEST_F(MachineJsonSave, EverythingReadsBackAsItWasSaved) {
   MachineState state = load();
+  folder_.make_folder("share");
   state.drives.push_back({'D', DriveType::kRemovable, folder_.path_of("drive_d"), 5000, 40});
   state.drives.push_back(
       {'E', DriveType::kRemote, folder_.path_of("share"), std::nullopt, std::nullopt});

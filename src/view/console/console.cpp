@@ -88,7 +88,9 @@ int run_console(const std::vector<std::string>& words, ConsoleIo& io, MachineHos
   ConsoleSession session{io, host, std::nullopt, false, false};
   const int status = run_words(words, io, session);
   io.out.flush();
-  if (!io.out) {
+  const bool reader_gone = io.reader_gone && io.reader_gone();
+  // One that has seen enough, as `head` has, is no problem.
+  if (!io.out && !reader_gone) {
     io.err << "quillvane: standard output: cannot be written\n";
     return kNotDone;
   }

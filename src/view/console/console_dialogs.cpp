@@ -1,6 +1,7 @@
 #include "view/console/console_dialogs.h"
 
 #include "platform/unicode_case.h"
+#include "view/console/readable.h"
 
 namespace quillvane {
 
@@ -16,7 +17,7 @@ Answer ConsoleDialogs::message_box(const std::string& text, const std::string& t
     return given_[title] = known == answers_.end() ? ask(text) : known->second;
   }
   if (io_.clear_line) io_.clear_line();
-  io_.err << "quillvane: " << text << '\n';
+  io_.err << "quillvane: " << shown(text, io_.err_is_terminal) << '\n';
   return Answer::kOk;
 }
 
@@ -24,7 +25,7 @@ Answer ConsoleDialogs::ask(const std::string& text) {
   if (!io_.in_is_terminal) return Answer::kNo;
   io_.out.flush();
   if (io_.clear_line) io_.clear_line();
-  io_.err << text << " [y/N] " << std::flush;
+  io_.err << shown(text, io_.err_is_terminal) << " [y/N] " << std::flush;
   std::string line;
   std::getline(io_.in, line);
   const std::string word = lower_case(line);

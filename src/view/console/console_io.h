@@ -17,6 +17,9 @@ struct ConsoleIo {
   bool in_is_terminal = false;  // somebody can answer
   // Takes away what stands in the terminal's last line for the moment; set while it may.
   std::function<void()> clear_line = nullptr;
+  bool out_is_terminal = false;
+  // Whether writing to `out` failed since nobody reads it any more.
+  std::function<bool()> reader_gone = nullptr;
 };
 
 }  // namespace quillvane

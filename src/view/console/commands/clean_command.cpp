@@ -63,7 +63,7 @@ int clean(const ConsoleSession& session, const CleanOptions& options) {
   if (session.json) {
     print_scan_json_open(io.out, report, files);
   } else {
-    print_scan_table(io.out, report, files, io.out_takes_bold);
+    print_scan_table(io, report, files);
   }
   watch.begin(recycle_bin_rows(form.view1));
   run_attended(io, machine->loop(), program, [&] { form.cmd_clean.click(); });

@@ -30,7 +30,7 @@ int scan(const ConsoleSession& session, const BrowserAnswer& browsers) {
   if (session.json) {
     print_scan_json(session.io.out, report, files);
   } else {
-    print_scan_table(session.io.out, report, files, session.io.out_takes_bold);
+    print_scan_table(session.io, report, files);
   }
   return kDone;
 }

@@ -12,12 +12,11 @@
 #include "forms/window.h"
 #include "platform/platform.h"
 #include "support/error_trail.h"
+#include "support/program_name.h"
 
 namespace quillvane {
 
 class Form7;
-
-inline constexpr std::string_view kProgramName = "Quillvane Disk Cleaner";
 
 class Program {
  public:

@@ -1,6 +1,6 @@
 #include "view/console/command_words.h"
 
-#include <algorithm>
+#include <CLI/CLI.hpp>
 #include <cstddef>
 #include <map>
 

@@ -3,10 +3,13 @@
 // it ("--machine" "" from a script's empty variable), or given twice.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <optional>
 #include <string>
 #include <vector>
+
+namespace CLI {
+class App;
+}
 
 namespace quillvane {
 

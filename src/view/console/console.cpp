@@ -1,5 +1,6 @@
 #include "view/console/console.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <utility>
 

@@ -271,6 +271,8 @@ class Form7 final : public Window {
   void clean_button();
   [[nodiscard]] bool remove_row(const std::string& path);
   [[nodiscard]] bool remove_all_rows();
+  void promise_restart();
+  void finish_cleaning();  // what follows when every row was handled
   void expect_removals(int first_row);
 
   // window_commands.cpp

@@ -40,6 +40,15 @@ class Program {
   }
   [[nodiscard]] bool stopped() const { return stopped_; }
 
+  // From here on nothing is removed any more. A cleaning in progress looks at this behind each row
+  // and ends there: what it queued is written without the message, the thumbnail policy is set
+  // back, and no scan, question or box follows. The rows not yet handled stay in view1; totals and
+  // tree stay as the scan left them, the statistics count nothing of such a run, and the URL cache
+  // keeps its entries. A cleaning that has not begun does not begin. A program that has ended, be
+  // it by its close button, does the same.
+  void end_cleaning() { cleaning_ended_ = true; }
+  [[nodiscard]] bool cleaning_ended() const { return cleaning_ended_ || ended_; }
+
   // Lets the message loop run once.
   void do_events() {
     if (!ended_) platform.loop.do_events();
@@ -79,6 +88,7 @@ class Program {
   std::vector<ModalWindow*> modal_windows_;  // those that wait, the innermost last
   bool ended_ = false;
   bool stopped_ = false;
+  bool cleaning_ended_ = false;
 };
 
 }  // namespace quillvane

@@ -1,6 +1,7 @@
 // What the process's own streams are.
 #pragma once
 
+#include <functional>
 #include <string_view>
 
 namespace quillvane {
@@ -17,6 +18,10 @@ enum class Written {
 
 // Writes all of the text to standard output, past every buffer.
 [[nodiscard]] Written write_output(std::string_view text);
+
+// Waits until standard input can be read; false when `interrupted`, which a signal handler makes
+// true, holds before.
+[[nodiscard]] bool await_input(const std::function<bool()>& interrupted);
 
 [[nodiscard]] bool input_is_terminal();
 [[nodiscard]] bool output_is_terminal();

@@ -1,3 +1,4 @@
+#include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
@@ -26,6 +27,23 @@ Written write_output(std::string_view text) {
     text.remove_prefix(static_cast<std::size_t>(size));
   }
   return Written::kAll;
+}
+
+// The signal is let in only while waiting, so that none comes between the look and the wait.
+bool await_input(const std::function<bool()>& interrupted) {
+  sigset_t blocked;
+  sigset_t before;
+  sigemptyset(&blocked);
+  sigaddset(&blocked, SIGINT);
+  sigprocmask(SIG_BLOCK, &blocked, &before);
+  int ready = -1;
+  while (ready < 0 && !interrupted()) {
+    pollfd input{.fd = STDIN_FILENO, .events = POLLIN, .revents = 0};
+    ready = ppoll(&input, 1, nullptr, &before);
+    if (ready < 0 && errno != EINTR) ready = 1;  // the reading will tell
+  }
+  sigprocmask(SIG_SETMASK, &before, nullptr);
+  return ready > 0;
 }
 
 bool output_is_terminal() { return isatty(STDOUT_FILENO) == 1; }

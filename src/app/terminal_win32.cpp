@@ -37,6 +37,9 @@ bool input_is_terminal() { return _isatty(_fileno(stdin)) != 0; }
 
 bool output_takes_bold() { return false; }
 
+// Windows ends the reading of a console itself when Ctrl-C is pressed.
+bool await_input(const std::function<bool()>& interrupted) { return !interrupted(); }
+
 bool output_is_terminal() { return _isatty(_fileno(stdout)) != 0; }
 
 bool error_is_terminal() { return _isatty(_fileno(stderr)) != 0; }

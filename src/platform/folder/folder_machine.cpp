@@ -116,6 +116,12 @@ Platform FolderMachine::platform(Dialogs& dialogs) {
           .dialogs = dialogs};
 }
 
+std::unique_ptr<Registry> FolderMachine::another_registry() {
+  auto opened = FolderRegistry::open(dir_ + "/registry.db", unseen_effects_);
+  if (std::holds_alternative<std::string>(opened)) return nullptr;
+  return std::get<std::unique_ptr<FolderRegistry>>(std::move(opened));
+}
+
 void FolderMachine::save() const {
   // The call that made the change cannot tell of it: a process has ended, whether or not the folder
   // can be written.

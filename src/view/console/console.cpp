@@ -44,6 +44,7 @@ std::vector<PreparedCommand> add_commands(CLI::App& app, ConsoleSession& session
   std::vector<PreparedCommand> prepared;
   for (const ConsoleCommand& command : console_commands()) {
     CLI::App* added = group_of(app, command).add_subcommand(command.name, command.description);
+    // A command may have more to tell.
     added->footer("quillvane --help tells the options that all commands share.");
     prepared.push_back({added, command.prepare(*added, session)});
   }

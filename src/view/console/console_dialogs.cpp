@@ -13,6 +13,7 @@ bool ConsoleDialogs::said_yes(const std::string& title) const {
 Answer ConsoleDialogs::message_box(const std::string& text, const std::string& title,
                                    std::uint32_t style) {
   if ((style & kBoxYesNo) != 0) {
+    if (interrupted()) return given_[title] = Answer::kNo;
     const auto known = answers_.find(title);
     return given_[title] = known == answers_.end() ? ask(text) : known->second;
   }
@@ -26,10 +27,17 @@ Answer ConsoleDialogs::ask(const std::string& text) {
   io_.out.flush();
   if (io_.clear_line) io_.clear_line();
   io_.err << shown(text, io_.err_is_terminal) << " [y/N] " << std::flush;
+  const bool ready = !io_.await_line || io_.await_line([this] { return interrupted(); });
   std::string line;
-  std::getline(io_.in, line);
+  if (ready) std::getline(io_.in, line);
+  if (interrupted()) {
+    io_.err << '\n';  // the question's line was not ended by the user
+    return Answer::kNo;
+  }
   const std::string word = lower_case(line);
   return word == "y" || word == "yes" ? Answer::kYes : Answer::kNo;
 }
+
+bool ConsoleDialogs::interrupted() const { return io_.interrupted && io_.interrupted(); }
 
 }  // namespace quillvane

@@ -21,7 +21,7 @@ using namespace std::string_view_literals;
 
 TEST(Readable, WhatUpsetsATerminalIsWrittenOut) {
   const PrintableCase cases[] = {
-      {"C:\Temp\a b<c>.tmp", "C:\Temp\a b<c>.tmp"},
+      {"C:\\Temp\\a b<c>.tmp", "C:\\Temp\\a b<c>.tmp"},
       {"\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80", "\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"},
       {"a\x1b[1m\nb\tc", "a<1B>[1m<0A>b<09>c"},
       {"\0\x1f \x7f"sv, "<00><1F> <7F>"},

@@ -5,6 +5,7 @@
 #include <csignal>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <sstream>
 #include <thread>
 
@@ -28,8 +29,10 @@ class ActingFiles final : public ForwardingFileSystem {
       : ForwardingFileSystem(next), at_(at), act_(std::move(act)) {}
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override {
     if (--at_ == 0) act_();
-    return next().remove_file(path);
+    return answer ? *answer : next().remove_file(path);
   }
+
+  std::optional<RemoveResult> answer;  // instead of a removal
 
  private:
   int at_;
@@ -49,6 +52,15 @@ struct Stage {
     host.machine.wrap = [this, number, act](const Platform& platform) {
       if (!files) files = std::make_unique<ActingFiles>(platform.files, number, act);
       return platform.with({.files = files.get()});
+    };
+  }
+
+  void answer_removals(RemoveResult result) {
+    at_removal(0, nullptr);
+    host.machine.wrap = [this, result, make = host.machine.wrap](const Platform& platform) {
+      const Platform wrapped = make(platform);
+      files->answer = result;
+      return wrapped;
     };
   }
 
@@ -145,6 +157,23 @@ TEST(CleanCommand, APromiseThatCouldNotBeWrittenIsAFailure) {
             "quillvane: Some files cannot be deleted now, They will be deleted next time when you "
             "restart your PC.\n"
             "quillvane: clean: 1 file could not be removed\n");
+}
+
+TEST(CleanCommand, AFileThatCannotBeLookedAtIsNeverCountedAsGone) {
+  struct Case {
+    RemoveResult result;
+    const char* why;
+  };
+  for (const Case& c : {Case{RemoveResult::kTooLong, "its path is too long"},
+                        Case{RemoveResult::kUnreadable, "it cannot be looked at"}}) {
+    Stage stage;
+    stage.answer_removals(c.result);
+    EXPECT_EQ(stage.run({"run", "w3-c3"}), 1);
+    EXPECT_EQ(stage.out.str(), std::string("3 files, 300 B\n") + "failed: " + kA + ": " + c.why +
+                                   "\nfailed: " + kB + ": " + c.why + "\nfailed: " + kC + ": " +
+                                   c.why +
+                                   "\nRemoved: 0, queued for the next restart: 0, failed: 3\n");
+  }
 }
 
 TEST(CleanCommand, CtrlCInTheScanRemovesNothing) {
@@ -255,6 +284,7 @@ TEST(RunCommand, CtrlCInTheScanRemovesNothing) {
     EXPECT_EQ(stage.run({"run", words, "--json"}), 1) << words;
     EXPECT_TRUE(stage.has(kA) && stage.has(kB) && stage.has(kC)) << words;
     EXPECT_EQ(stage.document()["outcome"], "cancelled") << words;
+    EXPECT_EQ(stage.document()["totals"]["files"], 0) << words;  // the scan was ended, too
   }
 }
 

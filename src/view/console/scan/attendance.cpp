@@ -37,7 +37,9 @@ void Attendance::serve() {
   if (!cancelled()) return;
   program_.end_cleaning();
   // Each scan begins with the flag cleared, the one behind a cleaning too.
-  if (form.cancelflag == 0) form.cmd_cancel.click();
+  if (form.cancelflag == 1) return;
+  form.cmd_cancel.click();
+  form.cancelflag = 1;  // in the scan of a run switch the button is off
 }
 
 }  // namespace quillvane

@@ -20,11 +20,14 @@ Written write_output(std::string_view text) {
   // one.
   constexpr unsigned long kBrokenPipe = 109;
   constexpr unsigned long kNoData = 232;
+  constexpr unsigned long kNotConnected = 233;
   while (!text.empty()) {
     const int size = _write(_fileno(stdout), text.data(),
                             static_cast<unsigned>(std::min(text.size(), kPortion)));
     if (size <= 0) {
-      const bool gone = errno == EPIPE || _doserrno == kBrokenPipe || _doserrno == kNoData;
+      const unsigned long why = _doserrno;
+      const bool gone =
+          errno == EPIPE || why == kBrokenPipe || why == kNoData || why == kNotConnected;
       return gone ? Written::kReaderGone : Written::kFailed;
     }
     text.remove_prefix(static_cast<std::size_t>(size));

@@ -20,6 +20,7 @@ namespace {
 class FolderMachineTest : public testing::Test {
  protected:
   FolderMachine& open() {
+    folder_.make_folder("drive_c");
     auto opened = FolderMachine::open(folder_.path());
     if (const auto* problem = std::get_if<std::string>(&opened)) ADD_FAILURE() << *problem;
     machine_ = std::get<std::unique_ptr<FolderMachine>>(std::move(opened));
@@ -37,7 +38,6 @@ class FolderMachineTest : public testing::Test {
 };
 
 TEST_F(FolderMachineTest, AFolderOfADriveIsAMachineOfDefaultsAndGetsNothingByItself) {
-  folder_.make_folder("drive_c");
   FolderMachine& machine = open();
   QueuedDialogs dialogs(machine.effects());
   const Platform platform = machine.platform(dialogs);
@@ -148,6 +148,7 @@ TEST_F(FolderMachineTest, WhatCannotBeReadIsToldInOneLine) {
   EXPECT_EQ(
       open_failure(folder_.path_of("one")),
       folder_.path_of("one") + "/machine.json: codePage: must be a whole number from 1 to 65535");
+  folder_.make_folder("two/drive_c");
   folder_.write("two/registry.db", "no store, but long enough to look like a damaged one");
   EXPECT_EQ(open_failure(folder_.path_of("two")),
             folder_.path_of("two") + "/registry.db: cannot be read: file is not a database");

@@ -8,6 +8,7 @@
 #include <optional>
 #include <sstream>
 #include <thread>
+#include <utility>
 
 #include "platform/forwarding_file_system.h"
 #include "tests/support/memory_registry.h"
@@ -53,6 +54,13 @@ struct Stage {
       if (!files) files = std::make_unique<ActingFiles>(platform.files, number, act);
       return platform.with({.files = files.get()});
     };
+  }
+
+  // Presses Ctrl-C once, in the wait before the scan.
+  void interrupt_scan() {
+    machine().loop().start_timer(std::chrono::milliseconds(1), [pressed = false]() mutable {
+      if (!std::exchange(pressed, true)) std::raise(SIGINT);
+    });
   }
 
   void answer_removals(RemoveResult result) {
@@ -178,7 +186,7 @@ TEST(CleanCommand, AFileThatCannotBeLookedAtIsNeverCountedAsGone) {
 
 TEST(CleanCommand, CtrlCInTheScanRemovesNothing) {
   Stage stage;
-  stage.host.machine.loop().start_timer(std::chrono::milliseconds(1), [] { std::raise(SIGINT); });
+  stage.interrupt_scan();
 
   EXPECT_EQ(stage.run({"clean", "--yes", "--json"}), 1);
 
@@ -280,7 +288,7 @@ TEST(RunCommand, WhatAForcedRunCannotRemoveHasFailed) {
 TEST(RunCommand, CtrlCInTheScanRemovesNothing) {
   for (const char* words : {"w", "w-c", "w3-c3", "w4-c4"}) {
     Stage stage;
-    stage.host.machine.loop().start_timer(std::chrono::milliseconds(1), [] { std::raise(SIGINT); });
+    stage.interrupt_scan();
     EXPECT_EQ(stage.run({"run", words, "--json"}), 1) << words;
     EXPECT_TRUE(stage.has(kA) && stage.has(kB) && stage.has(kC)) << words;
     EXPECT_EQ(stage.document()["outcome"], "cancelled") << words;

@@ -273,6 +273,16 @@ TEST_F(ExpectedRemovalTest, RemovesInAnyOrderAndWhatWasNotExpected) {
   EXPECT_EQ(list("C:\\Temp"), Names());
 }
 
+TEST_F(ExpectedRemovalTest, RemovesWhenTheHostGivesNoThreads) {
+  with_failing_calls({SYS_clone, SYS_clone3}, EAGAIN, [&] {
+    files.expect_removals(paths);
+    for (const std::string& path : paths) {
+      ASSERT_EQ(files.remove_file(path), RemoveResult::kRemoved) << path;
+    }
+  });
+  EXPECT_EQ(list("C:\\Temp"), Names());
+}
+
 TEST_F(ExpectedRemovalTest, TakesAnyTextForAPath) {
   files.expect_removals({"", "C:", "C:\\", "\\", "C:\\Temp\\", "C:\\Temp\\..", "C:\\Temp/file1.tmp",
                          "E:\\a", "no path", "C:\\" + std::string(300, 'x'), paths[2]});

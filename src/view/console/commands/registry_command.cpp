@@ -1,5 +1,6 @@
 // registry export, registry import.
 
+#include <CLI/CLI.hpp>
 #include <cstddef>
 #include <system_error>
 #include <variant>

@@ -41,6 +41,8 @@ RemoveResult result_of(int error) {
       return RemoveResult::kInUse;
     case EIO:
       return RemoveResult::kUnreadable;
+    case EROFS:
+      return RemoveResult::kWriteProtected;
     default:
       return RemoveResult::kDenied;
   }

@@ -36,6 +36,8 @@ RemoveResult refused(DWORD error) {
     case ERROR_LOCK_VIOLATION:
     case ERROR_USER_MAPPED_FILE:
       return RemoveResult::kInUse;
+    case ERROR_WRITE_PROTECT:
+      return RemoveResult::kWriteProtected;
     default:
       return RemoveResult::kDenied;
   }

@@ -155,10 +155,6 @@ TEST(MachineJson, GivenVariablesAreAddedToTheDefaultsWithoutRegardToCase) {
   EXPECT_EQ(state.environment.size(), 16U);
 }
 
-TEST(MachineJson, UnknownKeysAreLeftAlone) {
-  EXPECT_EQ(parsed(R"({"comment": {"by": ["me"]}, "codePage": 1251})").code_page, 1251);
-}
-
 struct Refused {
   const char* text;
   const char* why;
@@ -229,6 +225,16 @@ constexpr Refused kRefused[] = {
      "machine.json: utcOffsetMinutes: must be a whole number from -1440 to 1440"},
     {R"({"utcOffsetMinutes": -1441})",
      "machine.json: utcOffsetMinutes: must be a whole number from -1440 to 1440"},
+    {R"({"comment": {"by": ["me"]}, "codePage": 1251})",
+     "machine.json: comment: there is no such key"},
+    {R"({"Drives": []})", "machine.json: Drives: there is no such key"},
+    {R"({"in\nuse": []})", "machine.json: in?use: there is no such key"},
+    {R"({"drives": [{"letter": "C", "foldr": "disk"}]})",
+     "machine.json: drives[0].foldr: there is no such key"},
+    {R"({"processes": [{"id": 1, "nome": "a.exe"}]})",
+     "machine.json: processes[0].nome: there is no such key"},
+    {R"({"urlCache": [{"url": "u", "file": "f", "Size": 1}]})",
+     "machine.json: urlCache[0].Size: there is no such key"},
     // Of several mistakes the first one is told.
     {R"({"denied": 1, "drives": 2})", "machine.json: drives: must be a list"},
 };
@@ -270,6 +276,29 @@ TEST(MachineJson, APipeOrADeviceIsNoDescription) {
   const auto* error = std::get_if<std::string>(&result);
   ASSERT_NE(error, nullptr);
   EXPECT_EQ(*error, "machine.json: cannot be read: is no file");
+}
+
+TEST(MachineJson, ADriveWhoseNamedFolderIsNotThereIsAMistake) {
+  TempFolder folder;
+  const auto refusal_of = [&folder](const char* drives) {
+    folder.write("machine.json", drives);
+    const auto loaded = load_machine_json(folder.path());
+    const auto* error = std::get_if<std::string>(&loaded);
+    return error == nullptr ? "accepted" : *error;
+  };
+  folder.write("file");
+  folder.make_folder("disk");
+  // A drive without a medium has no folder and names none.
+  EXPECT_EQ(refusal_of(R"({"drives": [{"letter": "C"}, {"letter": "E", "type": "cdrom"}]})"),
+            "accepted");
+  EXPECT_EQ(refusal_of(R"({"drives": [{"letter": "D", "folder": "disk"}]})"), "accepted");
+  const std::string begin = "machine.json: drives[1].folder: ";
+  const std::string missing =
+      refusal_of(R"({"drives": [{"letter": "C"}, {"letter": "D", "folder": "disc"}]})");
+  EXPECT_TRUE(missing.starts_with(begin + host_text(host_path(folder.path_of("disc"))) + ": "))
+      << missing;
+  EXPECT_EQ(refusal_of(R"({"drives": [{"letter": "C"}, {"letter": "D", "folder": "file"}]})"),
+            begin + host_text(host_path(folder.path_of("file"))) + ": is no folder");
 }
 
 }  // namespace

@@ -38,9 +38,10 @@ bool remove_row(JunkPage& page, PendingQueue& pending, const std::string& row_te
     page.platform().shell.update_recycle_bin_icon();
     return false;
   }
-  DeleteAFile(page.platform(), path);
-  if (!StillThere(page.platform(), path) || page.pending_filter.contains(lower_case(path)))
-    return false;
+  // A disk that cannot be written to now cannot be at the restart either.
+  if (DeleteAFile(page.platform(), path) == RemoveResult::kWriteProtected) return false;
+  if (!StillThere(page.platform(), path)) return false;
+  if (page.pending_filter.contains(lower_case(path))) return false;
   pending.add(path);
   return true;
 }

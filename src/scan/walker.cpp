@@ -42,7 +42,7 @@ bool Walk::judge_folder(const FolderRun& run) {
     const std::optional<double> size = FileSizeToDouble(file.size_high, file.size_low);
     // The folder of a file whose size overflowed was never set: it is in no list.
     const bool ignored = size && tests_.ignored();
-    if (ignored || !passes(file.name, size.value_or(0))) continue;
+    if (ignored || !passes(file.name, size)) continue;
     form_.totals.catfiles += 1;
     form_.totals.catsize += size.value_or(0);
     add_row(run.begin + i);
@@ -50,9 +50,10 @@ bool Walk::judge_folder(const FolderRun& run) {
   return true;
 }
 
-bool Walk::passes(std::string_view name, double size) {
+bool Walk::passes(std::string_view name, std::optional<double> size) {
   if (keep_ == Keep::kEmptyFiles) {
-    if (Trim(name).empty() || size != 0) return false;
+    // A size that overflowed was never set, but the file is anything but empty.
+    if (Trim(name).empty() || size != 0.0) return false;
   } else if (tests_.desktop_ini() || holds_desktop_ini(name)) {
     return false;
   }

@@ -286,6 +286,14 @@ TEST(Srch2, ListsEmptyFilesOnly) {
   EXPECT_EQ(walked.form().totals.catsize, 0);
 }
 
+TEST(Srch2, AFileWhoseSizeOverflowsIsNotEmpty) {
+  Walked walked({});
+  walked.machine.add_file("C:\\T\\empty.msi", 0);
+  walked.machine.add_file("C:\\T\\huge.msi", 5'368'709'120);
+  EXPECT_EQ(walked.srch2("C:\\T", "*.msi"), (Texts{"C:\\T\\empty.msi"}));
+  EXPECT_EQ(walked.form().totals.catfiles, 1);
+}
+
 TEST(Srch2, ListsAnEmptyDesktopIni) {
   Walked walked({});
   walked.machine.add_file("C:\\T\\desktop.ini", 0);

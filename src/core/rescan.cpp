@@ -112,8 +112,8 @@ void Form7::scan_node_again(int node) {
   }
 }
 
+// A node that is clicked during the wait or the walk is the one from then on.
 void Form7::rescan_node() {
-  const int node = selnode;
   cancelflag = 0;
   totals.totalfiles = 0;
   totals.totalsize = 0;
@@ -121,11 +121,11 @@ void Form7::rescan_node() {
   txtfilesize.set_text("0");
   Text13.show();
   begin_rescan();
-  drop_old_results(node);
-  scan_node_again(node);
+  drop_old_results(selnode);
+  scan_node_again(selnode);
 
-  Tv1.select(node);
-  show_node(node);
+  Tv1.select(selnode);
+  show_node(selnode);
   view5.check_all(true);
   // The shares of the browsers and the custom entries are left out: meant so.
   totals.totalfiles += totals.winfiles;

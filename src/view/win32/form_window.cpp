@@ -246,7 +246,7 @@ void FormWindow::changed(Control& /*control*/, Change what) {
 }
 
 void FormWindow::restyle() {
-  theme_ = make_theme(model_.back_color(), system_colors(), high_contrast());
+  theme_ = make_theme(shown_color(model_.back_color()), system_colors(), high_contrast());
   FontOwner font = make_font(kFontPoints, FW_NORMAL, dpi_);
   FontOwner bold_font = make_font(kFontPoints, FW_SEMIBOLD, dpi_);
   std::swap(font, font_);  // the old ones stay until no control uses them

@@ -64,7 +64,7 @@ std::optional<LRESULT> PathLineView::filter(UINT message, WPARAM /*w*/, LPARAM /
 void PathLineView::paint() {
   const PaintScope paint(window());
   const Theme& theme = host().theme();
-  const COLORREF back = theme.high_contrast ? theme.page : box_.back_color();
+  const COLORREF back = theme.high_contrast ? theme.page : shown_color(box_.back_color());
   RECT area = client_area();
   fill(paint.dc(), area, back);
   InflateRect(&area, -scaled(kLinePadding, host().dpi()), 0);
@@ -102,7 +102,7 @@ void MarkView::paint() {
   const int top = (area.bottom - size) / 2;
   if (is_mark) {
     const RECT square{left, top, left + size, top + size};
-    fill(paint.dc(), square, theme.high_contrast ? theme.text : model().back_color());
+    fill(paint.dc(), square, theme.high_contrast ? theme.text : shown_color(model().back_color()));
     return;
   }
   host().pictures().draw(paint.dc(), left, top, size, place().picture, CLR_NONE);

@@ -22,7 +22,7 @@ Json window_value(const DrivenProgram& program, const std::string& window_name,
   if (const auto field = window.field(name)) return property_json(*field);
   if (same_name(name, "Visible")) return window.visible();
   if (same_name(name, "Caption")) return window.caption();
-  if (same_name(name, "BackColor")) return window.back_color();
+  if (same_name(name, "BackColor")) return color_number(window.back_color());
   throw ScriptError(window.name() + "." + name + ": there is no such field");
 }
 

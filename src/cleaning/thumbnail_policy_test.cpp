@@ -69,25 +69,31 @@ TEST(ThumbnailPolicy, MakesNoKey) {
 class UsersRegistry final : public Registry {
  public:
   explicit UsersRegistry(Registry& next) : next_(next) {}
-  [[nodiscard]] std::optional<std::vector<std::string>> sub_keys(Hive hive, const std::string& key,
-                                                                 KeyAccess access) const override {
+  [[nodiscard]] RegistryRead<std::vector<std::string>> sub_keys(Hive hive, const std::string& key,
+                                                                KeyAccess access) const override {
     return next_.sub_keys(hive, key, access);
   }
-  [[nodiscard]] std::optional<std::vector<NamedRegistryValue>> values(
+  [[nodiscard]] RegistryRead<std::vector<NamedRegistryValue>> values(
       Hive hive, const std::string& key, KeyAccess access) const override {
     return next_.values(hive, key, access);
   }
-  [[nodiscard]] std::optional<RegistryValue> value(Hive hive, const std::string& key,
-                                                   const std::string& name,
-                                                   KeyAccess access) const override {
+  [[nodiscard]] RegistryRead<RegistryValue> value(Hive hive, const std::string& key,
+                                                  const std::string& name,
+                                                  KeyAccess access) const override {
     return next_.value(hive, key, name, access);
   }
-  [[nodiscard]] bool create_key(Hive hive, const std::string& key) override {
-    return hive != Hive::kLocalMachine && next_.create_key(hive, key);
+  RegistryWrite create_key(Hive hive, const std::string& key) override {
+    if (hive == Hive::kLocalMachine) return RegistryWrite::failure("the rights are missing");
+    return next_.create_key(hive, key);
   }
-  [[nodiscard]] bool set_value(Hive hive, const std::string& key, const std::string& name,
-                               const RegistryValue& value) override {
-    return hive != Hive::kLocalMachine && next_.set_value(hive, key, name, value);
+  RegistryWrite set_value(Hive hive, const std::string& key, const std::string& name,
+                          const RegistryValue& value) override {
+    if (hive == Hive::kLocalMachine) return RegistryWrite::failure("the rights are missing");
+    return next_.set_value(hive, key, name, value);
+  }
+  RegistryWrite remove_value(Hive hive, const std::string& key, const std::string& name) override {
+    if (hive == Hive::kLocalMachine) return RegistryWrite::failure("the rights are missing");
+    return next_.remove_value(hive, key, name);
   }
 
  private:

@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cleaning/cleaning_result.h"
 #include "cleaning/pending_queue.h"
 #include "controls/tray_area.h"
 #include "core/program.h"
@@ -102,6 +103,7 @@ class Form7 final : public Window {
   SearchableText ignorelist;      // lower-case ignore entries, each followed by "|"
   SearchableText pending_filter;  // PendingFilter: the text of Text15, with an index
   PendingQueue pending;           // mirror of the queue of the next restart
+  CleaningResult last_cleaning;   // of the last run behind orvbutton2
   int selnode = 0;                // Index of the node of Tv1 clicked last
   int listfocus = 0;              // 3 once a row of view1 or view5 was clicked
   int wizardstep = 0;             // page of the drive search
@@ -270,8 +272,9 @@ class Form7 final : public Window {
   // cleaning/cleaning_run.cpp
   void clean_button();
   [[nodiscard]] bool remove_row(const std::string& path);
-  [[nodiscard]] bool remove_all_rows();
+  [[nodiscard]] int remove_all_rows();
   void promise_restart();
+  void count_in_statistics();
   void finish_cleaning();  // what follows when every row was handled
   void expect_removals(int first_row);
 
@@ -318,6 +321,7 @@ class Form7 final : public Window {
   void read_mail();
 
   bool shown_at_start_ = true;
+  std::string drives_problem_;  // why the stored drives could not be read
 };
 
 }  // namespace quillvane

@@ -68,6 +68,11 @@ class Program {
   // The main window. Requires: start has begun.
   [[nodiscard]] Form7& main_window() const { return *form7_; }
 
+  // Tells of something that the program could not do and that nobody is asked about: `what`, and
+  // why. To on_problem where a view has set it, otherwise to the system's log.
+  void tell_problem(std::string_view what, std::string_view why);
+  std::function<void(std::string_view what, std::string_view why)> on_problem;
+
   // A file in the program's folder: "C:\...\junst.txt" for "junst.txt".
   [[nodiscard]] std::string data_file(std::string_view name) const;
 

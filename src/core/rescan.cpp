@@ -5,7 +5,6 @@
 
 #include "categories/routines.h"
 #include "categories/url_cache_rows.h"
-#include "cleaning/statistics.h"
 #include "cleaning/thumbnail_policy.h"
 #include "core/form7.h"
 #include "platform/file_system.h"
@@ -175,7 +174,7 @@ void Form7::delete_rows(int node) {
 void Form7::clean_node() {
   if (program.cleaning_ended()) return;
   delete_rows(selnode);
-  add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());
+  count_in_statistics();
   txtfilecont.set_text("0");
   txtfilesize.set_text("0");
   totals.totalfiles = 0;

@@ -54,6 +54,7 @@ int clean(const ConsoleSession& session, const CleanOptions& options) {
   if (options.yes) dialogs.answer_in_advance(kRemoveFilesTitle, Answer::kYes);
   CleaningWatch watch(machine->platform());
   Program program(machine->platform().with({.files = &watch, .dialogs = &dialogs}));
+  program.on_problem = session.problem_teller();
   program.start("");
   Form7& form = program.main_window();
   run_attended(io, machine->loop(), program, [&] { form.cmd_start.click(); });

@@ -53,6 +53,7 @@ int run(const ConsoleSession& session, const std::string& words) {
   if (machine == nullptr) return kNotDone;
   ConsoleDialogs dialogs(session.io);
   Program program(machine->platform().with({.dialogs = &dialogs}));
+  program.on_problem = session.problem_teller();
   run_attended(session.io, machine->loop(), program, [&] { program.start(words); });
   if (kind == SwitchKind::kScan) print_result(session, program.main_window());
   return kDone;

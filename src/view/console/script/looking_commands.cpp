@@ -112,6 +112,7 @@ void events(ScriptContext& context, ScriptArguments /*arguments*/) {
 void reg(ScriptContext& context, ScriptArguments arguments) {
   const Registry& registry = context.machine.platform().registry;
   const auto value = registry.value(hive_named(arguments[0]), arguments[1], arguments[2]);
+  if (value.failed()) throw ScriptError(value.problem());
   context.output.print(value ? registry_json(*value) : Json(nullptr));
 }
 

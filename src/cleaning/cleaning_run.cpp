@@ -8,7 +8,6 @@
 #include "cleaning/permission.h"
 #include "cleaning/questions.h"
 #include "cleaning/statistics.h"
-#include "cleaning/thumbnail_policy.h"
 #include "core/form7.h"
 #include "platform/unicode_case.h"
 
@@ -114,13 +113,13 @@ void Form7::run_cleaning() {
   Gif89a2.show();
   pending.loadpending();
   Label11.set_caption("Removing selected files please wait..");
-  disablethumbcache(platform().registry);
+  thumbnails.disablethumbcache();
   Text3.show();
   pndtxt();
   last_cleaning.queued = remove_all_rows();
   if (last_cleaning.queued > 0 && forceclean == 0 && suitemode == 0) promise_restart();
   bar3.hide();
-  enablethumbcache(platform().registry);
+  thumbnails.enablethumbcache();
   Text3.hide();
   if (!program.cleaning_ended()) finish_cleaning();
   Gif89a2.hide();

@@ -13,6 +13,7 @@
 
 #include "cleaning/cleaning_result.h"
 #include "cleaning/pending_queue.h"
+#include "cleaning/thumbnail_policy.h"
 #include "controls/tray_area.h"
 #include "core/program.h"
 #include "forms/buttons.h"
@@ -103,6 +104,7 @@ class Form7 final : public Window {
   SearchableText ignorelist;      // lower-case ignore entries, each followed by "|"
   SearchableText pending_filter;  // PendingFilter: the text of Text15, with an index
   PendingQueue pending;           // mirror of the queue of the next restart
+  ThumbnailPolicy thumbnails;     // off while files are removed
   CleaningResult last_cleaning;   // of the last run behind orvbutton2
   int selnode = 0;                // Index of the node of Tv1 clicked last
   int listfocus = 0;              // 3 once a row of view1 or view5 was clicked

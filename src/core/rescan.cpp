@@ -5,7 +5,6 @@
 
 #include "categories/routines.h"
 #include "categories/url_cache_rows.h"
-#include "cleaning/thumbnail_policy.h"
 #include "core/form7.h"
 #include "platform/file_system.h"
 #include "scan/catalogue.h"
@@ -152,14 +151,14 @@ void Form7::delete_row(int node, const std::string& path) {
     remove(path);
     return;
   }
-  disablethumbcache(platform().registry);
+  thumbnails.disablethumbcache();
   constexpr std::size_t kCutLetters = 3;
   const std::string renamed = path.substr(0, path.size() - std::min(kCutLetters, path.size())) +
                               std::string(kRenamedEnding);
   pass_over(files.set_attributes(path, kAttributeArchive));
   pass_over(files.rename_file(path, renamed));
   remove(renamed);
-  enablethumbcache(platform().registry);
+  thumbnails.enablethumbcache();
 }
 
 void Form7::delete_rows(int node) {

@@ -46,11 +46,6 @@ constexpr const char* kMarkKey = "software\\Quillvane\\Tidewrack Deluxe";
 constexpr const char* kMark = "thumbcache";
 constexpr const char* kSet = "1";
 
-void take_mark_away(Registry& registry) {
-  // One that stays is taken away at the next start.
-  static_cast<void>(registry.remove_value(kMarkHive, kMarkKey, kMark));
-}
-
 }  // namespace
 
 void ThumbnailPolicy::disablethumbcache() {
@@ -61,18 +56,20 @@ void ThumbnailPolicy::disablethumbcache() {
 }
 
 void ThumbnailPolicy::enablethumbcache() {
-  write_all(platform_.registry, 0);
-  take_mark_away(platform_.registry);
+  quillvane::enablethumbcache(platform_.registry);
   announced_ = nullptr;
 }
 
 void ThumbnailPolicy::put_back() {
-  Registry& registry = platform_.registry;
-  if (ReadRegistryString(registry, kMarkHive, kMarkKey, kMark).text != kSet) return;
+  if (ReadRegistryString(platform_.registry, kMarkHive, kMarkKey, kMark).text != kSet) return;
   const Instances::Hold alone = platform_.instances.hold_off_cleaning();
-  if (alone == nullptr) return;
+  if (alone != nullptr) quillvane::enablethumbcache(platform_.registry);
+}
+
+void enablethumbcache(Registry& registry) {
   write_all(registry, 0);
-  take_mark_away(registry);
+  // A mark that stays is taken away at the next start.
+  static_cast<void>(registry.remove_value(kMarkHive, kMarkKey, kMark));
 }
 
 }  // namespace quillvane

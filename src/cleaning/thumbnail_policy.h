@@ -26,4 +26,7 @@ class ThumbnailPolicy {
   Instances::Hold announced_;  // tells the other instances that the mark has a living owner
 };
 
+// The same as ThumbnailPolicy's, for who ends the program at once and has only the registry.
+void enablethumbcache(Registry& registry);
+
 }  // namespace quillvane

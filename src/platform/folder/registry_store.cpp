@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/folder/host_path.h"
+#include "platform/folder/registry_files.h"
 #include "platform/folder/registry_schema.h"
 #include "platform/multi_string.h"
 #include "platform/unicode_case.h"
@@ -16,7 +17,6 @@ namespace quillvane {
 namespace {
 
 constexpr std::size_t kLongestName = 255;
-constexpr std::size_t kDeepest = 512;
 
 std::int64_t hive_id(Hive hive) { return -1 - static_cast<std::int64_t>(hive); }
 
@@ -57,6 +57,7 @@ std::variant<std::unique_ptr<FolderRegistry>, std::string> FolderRegistry::open(
 
 std::optional<std::string> FolderRegistry::connect() const {
   if (database_) return std::nullopt;
+  if (auto problem = registry_files_problem(file_)) return problem;
   std::error_code failed;
   const bool exists = std::filesystem::exists(host_path(file_), failed);
   if (failed) return "cannot be read: " + failed.message();
@@ -240,7 +241,7 @@ RegistryRead<FolderRegistry::KeyId> FolderRegistry::find_sub_key(KeyId parent,
 
 std::optional<FolderRegistry::KeyId> FolderRegistry::make_key(Hive hive, std::string_view key) {
   const std::vector<std::string_view> names = path_names(key);
-  if (names.size() > kDeepest || !std::all_of(names.begin(), names.end(), is_key_name)) {
+  if (names.size() > kDeepestKey || !std::all_of(names.begin(), names.end(), is_key_name)) {
     return std::nullopt;
   }
   std::optional<KeyId> id = hive_id(hive);

@@ -7,6 +7,7 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -22,6 +23,8 @@
 #include "platform/virtual/effect_log.h"
 
 namespace quillvane {
+
+inline constexpr std::size_t kDeepestKey = 512;  // names of a key's path at most
 
 class FolderRegistry final : public Registry {
  public:

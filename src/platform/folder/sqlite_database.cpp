@@ -30,6 +30,8 @@ int wait_for_lock(void* data, int attempt) {
   return 1;
 }
 
+constexpr int kLongestValue = 256 << 20;  // bytes
+
 }  // namespace
 
 void SqliteDatabase::CloseDatabase::operator()(sqlite3* database) const {
@@ -48,6 +50,11 @@ std::variant<SqliteDatabase, std::string> SqliteDatabase::open(
   const int result = sqlite3_open_v2(file.c_str(), &opened, flags, nullptr);
   Database database(opened);
   if (result != SQLITE_OK) return std::string(sqlite3_errstr(result & 0xFF));
+  // A file may come from anybody: nothing that it brings along is run, and no value of it is larger
+  // than those of registries are.
+  sqlite3_db_config(opened, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  sqlite3_db_config(opened, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+  sqlite3_limit(opened, SQLITE_LIMIT_LENGTH, kLongestValue);
   return SqliteDatabase(std::move(database), lock_wait);
 }
 

@@ -83,7 +83,7 @@ struct Stage {
     const std::size_t end = text.rfind('\n', text.size() - 2);
     return text.substr(end == std::string::npos ? 0 : end + 1);
   }
-  std::optional<RegistryValue> policy() {
+  RegistryRead<RegistryValue> policy() {
     return machine().platform().registry.value(
         Hive::kLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer",
         "NoThumbnailCache");
@@ -164,6 +164,8 @@ TEST(CleanCommand, APromiseThatCouldNotBeWrittenIsAFailure) {
   EXPECT_EQ(stage.err.str(),
             "quillvane: Some files cannot be deleted now, They will be deleted next time when you "
             "restart your PC.\n"
+            "quillvane: queue of the next restart: not written: it is read-only\n"
+            "quillvane: statistics: not counted: it is read-only\n"
             "quillvane: clean: 1 file could not be removed\n");
 }
 

@@ -98,7 +98,9 @@ class Files {
 
 class Search {
  public:
-  Search(const FileSystem& files, ErrorTrail& trail) : file_system_(files), trail_(trail) {}
+  // `watch` is told of the reading (FileSystem::read_tree_watched). All must outlive it.
+  Search(const FileSystem& files, ErrorTrail& trail, TreeReading* watch = nullptr)
+      : file_system_(files), trail_(trail), watch_(watch) {}
 
   // Collects the files below `path` that match `pattern`: those of the subfolders first. A file
   // whose size overflows ends the listing of its folder; the failure goes to the error trail.
@@ -115,6 +117,7 @@ class Search {
 
   const FileSystem& file_system_;
   ErrorTrail& trail_;
+  TreeReading* watch_;
   std::string pattern_;
   unsigned pattern_number_ = 0;  // of the patterns that the listing was read for
   bool recursive_ = true;

@@ -1,6 +1,7 @@
 // The walker: which files of a folder tree become rows of the hit list.
 #include "core/form7.h"
 #include "core/hit_rows.h"
+#include "core/reading_watch.h"
 #include "core/walk.h"
 #include "support/text.h"
 
@@ -10,8 +11,10 @@ Walk::Walk(Form7& form, int category, Keep keep)
     : form_(form), category_(category), keep_(keep), tests_(form.pending_filter, form.ignorelist) {}
 
 void Walk::run(const std::string& path, const std::string& pattern) {
-  Search search(form_.platform().files, form_.program.trail);
+  ReadingWatch watch(form_.program);
+  Search search(form_.platform().files, form_.program.trail, &watch);
   search.SearchFiles(path, pattern, true);
+  watch.settle();
   judge(search.Files());
 }
 

@@ -17,8 +17,12 @@ constexpr std::size_t kFolderPatternLength = 3;
 
 }  // namespace
 
-TreeReader::TreeReader(const std::vector<std::string>& patterns, FolderTree& tree)
-    : short_names_(FolderListing::ShortNames::kNo), arena_(tree.add_arena()), tree_(tree) {
+TreeReader::TreeReader(const std::vector<std::string>& patterns, FolderTree& tree,
+                       ReadingState& state)
+    : short_names_(FolderListing::ShortNames::kNo),
+      arena_(tree.add_arena()),
+      tree_(tree),
+      state_(state) {
   for (const std::string& pattern : patterns) {
     patterns_.push_back({FilePattern(pattern), utf16_length(pattern)});
     if (!patterns_.back().rule.matches_every_name()) short_names_ = FolderListing::ShortNames::kYes;
@@ -40,10 +44,12 @@ bool TreeReader::read_folder(ListedFolder& folder) {
   const bool folders_fit = path_.size() + kFolderPatternLength < kPathLimit;
   if (fitting == 0 && !folders_fit) return false;
 
+  if (state_.ended()) return true;
+  state_.enter(folder);
   FolderListing listing(path_ + L'*', short_names_);
   if (!listing.is_open()) return false;
   std::vector<Subfolder> subfolders;
-  while (const WIN32_FIND_DATAW* entry = listing.next()) {
+  while (const WIN32_FIND_DATAW* entry = state_.ended() ? nullptr : listing.next()) {
     if ((entry->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
       if (fitting != 0) note_file(*entry, fitting);
     } else if (folders_fit) {
@@ -63,6 +69,7 @@ bool TreeReader::read_folder(ListedFolder& folder) {
 }
 
 void TreeReader::read_subfolder(const Subfolder& subfolder) {
+  if (state_.ended()) return;
   const std::size_t length = path_.size();
   path_ += widen(subfolder.folder->name());
   path_ += L'\\';
@@ -106,6 +113,7 @@ void TreeReader::note_file(const WIN32_FIND_DATAW& entry, std::uint32_t fitting)
     names_.resize(begin);
     return;
   }
+  state_.add_files(1);
   matches_.push_back(matching);
   records_.push_back({entry.nFileSizeLow,
                       entry.nFileSizeHigh,

@@ -22,8 +22,9 @@ constexpr int kListFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 }  // namespace
 
-FolderWalk::FolderWalk(const TreeScope& scope, unsigned threads, FolderTree& tree)
-    : scope_(scope), tree_(tree), open_(threads) {}
+FolderWalk::FolderWalk(const TreeScope& scope, unsigned threads, FolderTree& tree,
+                       ReadingState& state)
+    : scope_(scope), tree_(tree), state_(state), open_(threads) {}
 
 void FolderWalk::read(const HostPlace& start, Descriptor descriptor, std::size_t path_units) {
   ListedFolder* root = ListedFolder::make(tree_.add_arena(), {}, nullptr);
@@ -33,7 +34,7 @@ void FolderWalk::read(const HostPlace& start, Descriptor descriptor, std::size_t
 }
 
 void FolderWalk::work(std::size_t thread, std::optional<FolderInWork> first) {
-  FolderReader reader(scope_, tree_.add_arena());
+  FolderReader reader(scope_, tree_.add_arena(), state_);
   std::size_t folders_read = 0;
   for (auto folder = first ? std::move(first) : next_folder(thread); folder;
        folder = next_folder(thread)) {
@@ -97,7 +98,7 @@ std::optional<FolderInWork> FolderWalk::take_from_others(std::size_t thread) {
 FolderInWork FolderWalk::enter(const FolderInWork& parent, ListedFolder& folder) {
   const std::string name(folder.name());
   FolderInWork entered{&folder, {}, parent.route, parent.path_units + utf16_length(name) + 1};
-  if (!scope_.can_list(entered.path_units)) return entered;
+  if (state_.ended() || !scope_.can_list(entered.path_units)) return entered;
   entered.descriptor = Descriptor(openat(parent.descriptor.number(), name.c_str(), kListFlags));
   const bool is_link = !entered.descriptor.is_open() && (errno == ELOOP || errno == ENOTDIR);
   if (is_link) enter_link(parent, entered);

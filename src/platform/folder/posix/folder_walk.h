@@ -19,16 +19,18 @@
 #include "platform/folder/posix/tree_route.h"
 #include "platform/folder/posix/tree_scope.h"
 #include "platform/folder_tree.h"
+#include "platform/reading_state.h"
 
 namespace quillvane {
 
 class FolderWalk {
  public:
-  // Requires: threads is at least 1.
-  FolderWalk(const TreeScope& scope, unsigned threads, FolderTree& tree);
+  // All must outlive the walk. Requires: threads is at least 1.
+  FolderWalk(const TreeScope& scope, unsigned threads, FolderTree& tree, ReadingState& state);
 
   // Reads the folder `start`, already open as `descriptor`, into the tree. `path_units` are the
-  // UTF-16 units of its Windows path with a backslash. Called once.
+  // UTF-16 units of its Windows path with a backslash. When `state` ends the reading, what was read
+  // until then stays. Called once.
   void read(const HostPlace& start, Descriptor descriptor, std::size_t path_units);
 
  private:
@@ -46,6 +48,7 @@ class FolderWalk {
 
   const TreeScope& scope_;
   FolderTree& tree_;
+  ReadingState& state_;
   std::vector<OpenFolders> open_;  // one for each thread
   std::vector<std::thread> helpers_;
 

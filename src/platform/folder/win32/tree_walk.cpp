@@ -69,7 +69,9 @@ void TreeWalk::read(const HeldPlace& start, std::size_t path_units) {
 }
 
 void TreeWalk::read_folder(ListedFolder& folder, const HeldPlace& place, std::size_t path_units) {
-  const std::vector<HostFile> files = read_entries(drive_, place);
+  if (state_.ended()) return;
+  state_.enter(folder);
+  const std::vector<HostFile> files = read_entries(drive_, place, state_);
   CollectedNames names;
   StatusByName status;
   for (const HostFile& file : files) {
@@ -79,6 +81,7 @@ void TreeWalk::read_folder(ListedFolder& folder, const HeldPlace& place, std::si
   patterns_.filter.apply(names, patterns_.usable_patterns(path_units));
   if (TreePatterns::can_list_subfolders(path_units)) add_subfolders(names, arena_, folder);
   add_files(names, status, patterns_.pattern_units.size() > 1, arena_, folder);
+  state_.add_files(folder.file_count());
 
   way_.push_back(HostIdentity::of(place.status));
   for (auto* sub = folder.first_subfolder(); sub != nullptr; sub = sub->next_sibling()) {
@@ -90,6 +93,7 @@ void TreeWalk::read_folder(ListedFolder& folder, const HeldPlace& place, std::si
 // One that cannot be read stays in the tree, empty.
 void TreeWalk::read_subfolder(ListedFolder& folder, const HeldPlace& parent,
                               std::size_t path_units) {
+  if (state_.ended()) return;
   const std::string name(folder.name());
   path_units += utf16_length(name) + 1;
   if (!patterns_.can_list(path_units)) return;

@@ -8,6 +8,7 @@
 #include "platform/folder/win32/folder_entries.h"
 #include "platform/folder/win32/host_drive.h"
 #include "platform/folder_tree.h"
+#include "platform/reading_state.h"
 
 namespace quillvane {
 
@@ -15,15 +16,17 @@ class TreeWalk {
  public:
   // `denied` are the folders that cannot be listed. All must outlive this object.
   TreeWalk(const HostDrive& drive, const TreePatterns& patterns,
-           const std::vector<HostIdentity>& denied, FolderTree& tree)
+           const std::vector<HostIdentity>& denied, FolderTree& tree, ReadingState& state)
       : drive_(drive),
         patterns_(patterns),
         denied_(denied),
         tree_(tree),
+        state_(state),
         arena_(tree.add_arena()) {}
 
   // Reads the tree from a folder on that is held with Access::kListed and not denied. `path_units`
-  // are the UTF-16 units of its Windows path with a backslash.
+  // are the UTF-16 units of its Windows path with a backslash. When `state` ends the reading, what
+  // was read until then stays.
   void read(const HeldPlace& start, std::size_t path_units);
 
  private:
@@ -34,6 +37,7 @@ class TreeWalk {
   const TreePatterns& patterns_;
   const std::vector<HostIdentity>& denied_;
   FolderTree& tree_;
+  ReadingState& state_;
   TreeArena& arena_;
   std::vector<HostIdentity> way_;  // the folders that the walk is in
 };

@@ -5,10 +5,10 @@
 #include <fstream>
 #include <string>
 
-#include "categories/catalogue.h"
 #include "categories/chromium_browsers.h"
 #include "categories/other_browsers.h"
 #include "platform/folder/posix/folder_file_system.h"
+#include "scan/catalogue.h"
 #include "tests/support/scan_fixture.h"
 #include "tests/support/told_browsers.h"
 #include "tests/support/watched_files.h"

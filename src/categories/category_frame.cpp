@@ -1,7 +1,7 @@
 #include "categories/category_frame.h"
 
-#include "categories/catalogue.h"
 #include "core/form7.h"
+#include "scan/catalogue.h"
 
 namespace quillvane {
 

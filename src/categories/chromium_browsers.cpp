@@ -8,8 +8,8 @@
 #include "categories/category_frame.h"
 #include "categories/place.h"
 #include "core/form7.h"
-#include "core/kept_listing.h"
-#include "core/registry_keys.h"
+#include "scan/kept_listing.h"
+#include "scan/registry_keys.h"
 
 namespace quillvane {
 

@@ -7,8 +7,8 @@
 #include "categories/place.h"
 #include "categories/url_cache_rows.h"
 #include "core/form7.h"
-#include "core/kept_listing.h"
 #include "platform/unicode_case.h"
+#include "scan/kept_listing.h"
 
 namespace quillvane {
 

@@ -1,10 +1,10 @@
 #include "categories/routines.h"
 
-#include "categories/catalogue.h"
 #include "categories/chromium_browsers.h"
 #include "categories/other_browsers.h"
 #include "categories/windows_categories.h"
 #include "core/form7.h"
+#include "scan/catalogue.h"
 
 namespace quillvane {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/form7.h"
-#include "core/hit_rows.h"
+#include "scan/hit_rows.h"
 #include "support/file_date.h"
 
 namespace quillvane {

@@ -3,11 +3,11 @@
 #include <string>
 #include <string_view>
 
-#include "categories/catalogue.h"
 #include "categories/routines.h"
 #include "cleaning/browser_processes.h"
 #include "cleaning/questions.h"
 #include "core/form7.h"
+#include "scan/catalogue.h"
 
 namespace quillvane {
 

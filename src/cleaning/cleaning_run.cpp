@@ -31,6 +31,7 @@ bool lies_in_recycle_bin(std::string_view path) {
 }  // namespace
 
 bool Form7::confirm_cleaning() {
+  if (program.cleaning_ended()) return false;
   if (cleanmode == 1) return true;
   return platform().dialogs.message_box(kQuestion, kRemoveFilesTitle,
                                         kBoxYesNo | kBoxIconInformation) == Answer::kYes;
@@ -39,6 +40,7 @@ bool Form7::confirm_cleaning() {
 void Form7::clean_button() {
   if (!confirm_cleaning()) return;
   orvbutton2.click();
+  if (program.cleaning_ended()) return;
   enter_state(ButtonState::kScanning);
   autosearch();
   // The start and cancel buttons stay as the scan has left them.
@@ -88,13 +90,21 @@ bool Form7::remove_all_rows() {
     view1.remove(1);
     bar3.set_value(progress);
     program.do_events();
-    if (program.stopped()) return false;
+    if (program.cleaning_ended()) break;
   }
   return queued;
 }
 
+// The queue is written only after the user has closed the box.
+void Form7::promise_restart() {
+  if (!program.cleaning_ended()) {
+    platform().dialogs.message_box(kQueuedMessage, std::string(kProgramName), kBoxIconInformation);
+  }
+  pending.savepending();
+}
+
 void Form7::run_cleaning() {
-  if (view1.count() < 1) return;
+  if (view1.count() < 1 || program.cleaning_ended()) return;
   Gif89a2.show();
   pending.loadpending();
   Label11.set_caption("Removing selected files please wait..");
@@ -102,23 +112,22 @@ void Form7::run_cleaning() {
   Text3.show();
   pndtxt();
   const bool queued = remove_all_rows();
-  if (program.stopped()) return;
-  if (queued && forceclean == 0 && suitemode == 0) {
-    // The queue is written only after the user has closed the box.
-    platform().dialogs.message_box(kQueuedMessage, std::string(kProgramName), kBoxIconInformation);
-    pending.savepending();
-  }
+  if (queued && forceclean == 0 && suitemode == 0) promise_restart();
   bar3.hide();
   enablethumbcache(platform().registry);
   Text3.hide();
+  if (!program.cleaning_ended()) finish_cleaning();
+  Gif89a2.hide();
+  if (forceclean == 1) program.end();
+}
+
+void Form7::finish_cleaning() {
   deleteiecach(*this);
   // The totals of the scan, whatever was really removed.
   add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());
   txtfilecont.set_text("0");
   txtfilesize.set_text("0");
   build_tree();
-  Gif89a2.hide();
-  if (forceclean == 1) program.end();
 }
 
 }  // namespace quillvane

@@ -67,5 +67,44 @@ TEST(CleaningRun, AQueueThatCannotBeWrittenIsPromisedAllTheSame) {
   EXPECT_EQ(form.txtfilecont.text(), "0");
 }
 
+// --- Ended before its last row.
+
+TEST(EndedCleaning, StopsBehindTheRowInHandAndScansNoMore) {
+  JunkEverywhere fixture;
+  Form7& form = fixture.start();
+  form.cmd_start.click();
+  fixture.machine.dialogs().answer(Answer::kYes);
+  fixture.when([&form] { return form.view1.count() == 8; },
+               [&fixture] { fixture.program->end_cleaning(); });
+
+  form.cmd_clean.click();
+
+  EXPECT_EQ(rows(form.view1), Texts(fixture.junk.begin() + 2, fixture.junk.end()));
+  EXPECT_FALSE(fixture.machine.has_file(fixture.junk[1]));
+  EXPECT_TRUE(fixture.machine.has_file(fixture.junk[2]));
+  EXPECT_EQ(form.txtfilecont.text(), "11");
+  EXPECT_EQ(form.Tv1.node(2).text, "System Temporary ( 1 files, 10 B )");
+  EXPECT_FALSE(fixture.program->ended());
+}
+
+TEST(EndedCleaning, LetsNoOtherBeginAndAsksNothing) {
+  JunkEverywhere fixture;
+  Form7& form = fixture.start();
+  form.cmd_start.click();
+  fixture.machine.dialogs().answer(Answer::kYes);
+  fixture.program->end_cleaning();
+
+  form.cmd_clean.click();
+  form.Toolbar1.set_button_enabled(6, true);
+  form.Toolbar1.click_button(6);
+  form.b1.click();
+  form.Tv1.click_node(2);
+  form.stc.click();
+
+  EXPECT_TRUE(fixture.machine.dialogs().take_boxes().empty());
+  EXPECT_EQ(rows(form.view1), fixture.junk);
+  EXPECT_TRUE(fixture.machine.has_file(fixture.junk[0]));
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -85,7 +85,7 @@ void Form7::toolbar_start() {
 void Form7::toolbar_clean() {
   if (!confirm_cleaning()) return;
   orvbutton2.click();
-  toolbar_start();
+  if (!program.cleaning_ended()) toolbar_start();
 }
 
 void Form7::toolbar_cancel() {

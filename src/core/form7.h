@@ -14,8 +14,6 @@
 #include "cleaning/pending_queue.h"
 #include "controls/tray_area.h"
 #include "core/program.h"
-#include "core/scan_totals.h"
-#include "core/searchable_text.h"
 #include "forms/buttons.h"
 #include "forms/list_box.h"
 #include "forms/list_view.h"
@@ -26,6 +24,8 @@
 #include "forms/toolbar.h"
 #include "forms/tree_view.h"
 #include "forms/window.h"
+#include "scan/scan_totals.h"
+#include "scan/searchable_text.h"
 
 namespace quillvane {
 
@@ -271,6 +271,8 @@ class Form7 final : public Window {
   void clean_button();
   [[nodiscard]] bool remove_row(const std::string& path);
   [[nodiscard]] bool remove_all_rows();
+  void promise_restart();
+  void finish_cleaning();  // what follows when every row was handled
   void expect_removals(int first_row);
 
   // window_commands.cpp

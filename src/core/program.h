@@ -12,12 +12,11 @@
 #include "forms/window.h"
 #include "platform/platform.h"
 #include "support/error_trail.h"
+#include "support/program_name.h"
 
 namespace quillvane {
 
 class Form7;
-
-inline constexpr std::string_view kProgramName = "Quillvane Disk Cleaner";
 
 class Program {
  public:
@@ -40,6 +39,15 @@ class Program {
     ended_ = true;
   }
   [[nodiscard]] bool stopped() const { return stopped_; }
+
+  // From here on nothing is removed any more. A cleaning in progress looks at this behind each row
+  // and ends there: what it queued is written without the message, the thumbnail policy is set
+  // back, and no scan, question or box follows. The rows not yet handled stay in view1; totals and
+  // tree stay as the scan left them, the statistics count nothing of such a run, and the URL cache
+  // keeps its entries. A cleaning that has not begun does not begin. A program that has ended, be
+  // it by its close button, does the same.
+  void end_cleaning() { cleaning_ended_ = true; }
+  [[nodiscard]] bool cleaning_ended() const { return cleaning_ended_ || ended_; }
 
   // Lets the message loop run once.
   void do_events() {
@@ -80,6 +88,7 @@ class Program {
   std::vector<ModalWindow*> modal_windows_;  // those that wait, the innermost last
   bool ended_ = false;
   bool stopped_ = false;
+  bool cleaning_ended_ = false;
 };
 
 }  // namespace quillvane

@@ -3,14 +3,14 @@
 #include <string>
 #include <string_view>
 
-#include "categories/catalogue.h"
 #include "categories/routines.h"
 #include "categories/url_cache_rows.h"
 #include "cleaning/statistics.h"
 #include "cleaning/thumbnail_policy.h"
 #include "core/form7.h"
-#include "core/hit_rows.h"
 #include "platform/file_system.h"
+#include "scan/catalogue.h"
+#include "scan/hit_rows.h"
 #include "support/text.h"
 
 namespace quillvane {
@@ -173,6 +173,7 @@ void Form7::delete_rows(int node) {
 }
 
 void Form7::clean_node() {
+  if (program.cleaning_ended()) return;
   delete_rows(selnode);
   add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());
   txtfilecont.set_text("0");

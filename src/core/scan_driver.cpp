@@ -1,10 +1,10 @@
 // The scan driver: the categories in their order, the totals, the summary.
 #include <string>
 
-#include "categories/catalogue.h"
 #include "categories/routines.h"
 #include "core/form7.h"
 #include "platform/unicode_case.h"
+#include "scan/catalogue.h"
 #include "support/size_text.h"
 #include "support/text.h"
 #include "support/val.h"

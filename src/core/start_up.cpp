@@ -4,12 +4,12 @@
 #include <string>
 
 #include "core/form7.h"
-#include "core/suite_color.h"
-#include "drivesearch/list_files.h"
 #include "drivesearch/type_table.h"
 #include "platform/unicode_case.h"
 #include "support/file_date.h"
+#include "support/list_files.h"
 #include "support/registry_text.h"
+#include "support/suite_color.h"
 #include "support/text.h"
 #include "support/val.h"
 

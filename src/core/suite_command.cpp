@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/form7.h"
-#include "core/hit_rows.h"
+#include "scan/hit_rows.h"
 #include "support/registry_text.h"
 #include "support/text.h"
 #include "support/val.h"

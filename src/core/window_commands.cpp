@@ -3,9 +3,9 @@
 #include <string>
 
 #include "core/form7.h"
-#include "drivesearch/about_window.h"
-#include "drivesearch/custom_dialog.h"
-#include "drivesearch/ignore_dialog.h"
+#include "dialogs/about_window.h"
+#include "dialogs/custom_dialog.h"
+#include "dialogs/ignore_dialog.h"
 #include "support/shell_helpers.h"
 #include "support/val.h"
 

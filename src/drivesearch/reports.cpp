@@ -2,9 +2,9 @@
 #include <string>
 
 #include "core/form7.h"
-#include "core/maker.h"
 #include "support/date_text.h"
 #include "support/file_date.h"
+#include "support/program_name.h"
 #include "support/text.h"
 
 namespace quillvane {

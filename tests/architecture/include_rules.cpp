@@ -13,9 +13,9 @@ namespace {
 constexpr std::string_view kPlatform[] = {"platform"};
 constexpr std::string_view kSupport[] = {"support", "platform"};
 constexpr std::string_view kForms[] = {"forms", "controls", "support", "platform"};
-constexpr std::string_view kBehaviour[] = {"core",      "categories", "cleaning", "drivesearch",
-                                           "shortcuts", "lang",       "forms",    "controls",
-                                           "support",   "platform"};
+constexpr std::string_view kBehaviour[] = {"core",    "categories", "cleaning",  "drivesearch",
+                                           "dialogs", "scan",       "shortcuts", "lang",
+                                           "forms",   "controls",   "support",   "platform"};
 constexpr std::string_view kVirtual[] = {"platform/virtual", "platform"};
 constexpr std::string_view kWin32[] = {"platform/win32", "support", "platform"};
 constexpr std::string_view kFolder[] = {"platform/folder", "platform/virtual", "support",
@@ -23,12 +23,12 @@ constexpr std::string_view kFolder[] = {"platform/folder", "platform/virtual", "
 constexpr std::string_view kFolderOnWindows[] = {"platform/folder", "platform/win32", "support",
                                                  "platform"};
 constexpr std::string_view kConsole[] = {
-    "view/console", "platform/virtual", "core",      "categories",
-    "cleaning",     "drivesearch",      "shortcuts", "lang",
-    "forms",        "controls",         "support",   "platform"};
-constexpr std::string_view kWindows[] = {"view/win32", "platform/win32", "core",      "categories",
-                                         "cleaning",   "drivesearch",    "shortcuts", "lang",
-                                         "forms",      "controls",       "support",   "platform"};
+    "view/console", "platform/virtual", "core",    "categories", "cleaning",
+    "drivesearch",  "dialogs",          "scan",    "shortcuts",  "lang",
+    "forms",        "controls",         "support", "platform"};
+constexpr std::string_view kWindows[] = {
+    "view/win32", "platform/win32", "core", "categories", "cleaning", "drivesearch", "dialogs",
+    "scan",       "shortcuts",      "lang", "forms",      "controls", "support",     "platform"};
 
 struct Layer {
   std::string_view folder;
@@ -49,6 +49,8 @@ constexpr Layer kLayers[] = {
     {"categories", kBehaviour, false},
     {"cleaning", kBehaviour, false},
     {"drivesearch", kBehaviour, false},
+    {"dialogs", kBehaviour, false},
+    {"scan", kBehaviour, false},
     {"shortcuts", kBehaviour, false},
     {"lang", kBehaviour, false},
     {"view/console", kConsole, true},

@@ -34,7 +34,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path kFolder = fs::path(__FILE__).parent_path();
+const fs::path kFolder = QUILLVANE_SCRIPTS;
 
 std::string text_of(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);

@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "core/form7.h"
-#include "core/hit_rows.h"
 #include "core/program.h"
+#include "scan/hit_rows.h"
 #include "tests/support/temp_machine.h"
 
 namespace quillvane {

@@ -1,5 +1,6 @@
 #include "view/console/console.h"
 
+#include <CLI/CLI.hpp>
 #include <utility>
 
 #include "view/console/console_command.h"

@@ -1,7 +1,6 @@
 // What a command of the console is, and what all of them share.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <functional>
 #include <memory>
 #include <span>
@@ -9,6 +8,10 @@
 #include <string_view>
 
 #include "view/console/console.h"
+
+namespace CLI {
+class App;
+}
 
 namespace quillvane {
 

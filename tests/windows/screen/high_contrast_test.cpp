@@ -8,7 +8,7 @@
 #include <set>
 #include <vector>
 
-#include "core/suite_color.h"
+#include "support/suite_color.h"
 #include "tests/windows/screen/hand.h"
 #include "tests/windows/screen/planted_junk.h"
 #include "view/win32/look/form7_layout.h"

@@ -1,5 +1,6 @@
 // clean: the scan, the question, the cleaning run, and what became of the files.
 
+#include <CLI/CLI.hpp>
 #include <memory>
 #include <string>
 #include <vector>

@@ -1,5 +1,6 @@
 // machine create, machine show.
 
+#include <CLI/CLI.hpp>
 #include <iomanip>
 #include <variant>
 

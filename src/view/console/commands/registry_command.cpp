@@ -1,5 +1,6 @@
 // registry export, registry import.
 
+#include <CLI/CLI.hpp>
 #include <filesystem>
 #include <fstream>
 #include <iterator>

@@ -1,5 +1,6 @@
 // run: what the window program does when the suite starts it with a run switch.
 
+#include <CLI/CLI.hpp>
 #include <string>
 
 #include "core/form7.h"

@@ -1,5 +1,7 @@
 // script [FILE].
 
+#include <CLI/CLI.hpp>
+
 #include "view/console/console_command.h"
 #include "view/console/input_file.h"
 #include "view/console/program_driver.h"

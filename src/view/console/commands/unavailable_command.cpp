@@ -1,5 +1,7 @@
 // Words that are kept for commands this version does not have.
 
+#include <CLI/CLI.hpp>
+
 #include "view/console/console_command.h"
 
 namespace quillvane {

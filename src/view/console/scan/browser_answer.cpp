@@ -1,7 +1,9 @@
 #include "view/console/scan/browser_answer.h"
 
-#include "categories/catalogue.h"
+#include <CLI/CLI.hpp>
+
 #include "cleaning/questions.h"
+#include "scan/catalogue.h"
 
 namespace quillvane {
 

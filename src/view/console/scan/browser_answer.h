@@ -1,13 +1,16 @@
 // What happens to browsers that run when their files are to be scanned.
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include "core/form7.h"
 #include "view/console/console_dialogs.h"
+
+namespace CLI {
+class App;
+}
 
 namespace quillvane {
 

@@ -1,6 +1,6 @@
 #include "view/console/scan/scan_json.h"
 
-#include "core/hit_rows.h"
+#include "scan/hit_rows.h"
 #include "view/console/json_text.h"
 
 namespace quillvane {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "core/hit_rows.h"
+#include "scan/hit_rows.h"
 #include "support/text.h"
 #include "view/console/readable.h"
 

@@ -8,10 +8,10 @@
 #include <set>
 #include <string>
 
-#include "drivesearch/about_window.h"
-#include "drivesearch/custom_dialog.h"
-#include "drivesearch/custom_entry_dialog.h"
-#include "drivesearch/ignore_dialog.h"
+#include "dialogs/about_window.h"
+#include "dialogs/custom_dialog.h"
+#include "dialogs/custom_entry_dialog.h"
+#include "dialogs/ignore_dialog.h"
 #include "tests/support/scan_fixture.h"
 #include "view/win32/look/arrange.h"
 

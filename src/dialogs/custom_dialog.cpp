@@ -1,0 +1,109 @@
+#include "dialogs/custom_dialog.h"
+
+#include <string>
+
+#include "dialogs/custom_entry_dialog.h"
+#include "support/list_files.h"
+#include "support/suite_color.h"
+#include "support/val.h"
+
+namespace quillvane {
+
+Form2::Form2(Program& program)
+    : ModalWindow("Form2"),
+      Label222_1(*this, "Label222(1)"),
+      chameleonButton3(*this, "chameleonButton3"),
+      Label1(*this, "Label1"),
+      view1(*this, "view1", {"Name", "Location"}),
+      Command3(*this, "Command3"),
+      Command4(*this, "Command4"),
+      Command2(*this, "Command2"),
+      Command1(*this, "Command1"),
+      Text1(*this, "Text1"),
+      program_(program) {
+  set_caption("Custom file search");
+  Label222_1.set_caption("Custom file search");
+  Label1.set_caption("The folders in this list are searched for junk files too");
+  Command3.set_caption("New");
+  Command4.set_caption("Edit");
+  Command2.set_caption("Delete");
+  Command1.set_caption("Close");
+  Command4.set_enabled(false);
+  Command2.set_enabled(false);
+  Text1.hide();
+
+  view1.on_item_click = [this](int row) { row_clicked(row); };
+  Command3.on_click = [this] { add_entry(); };
+  Command4.on_click = [this] { edit_entry(); };
+  Command2.on_click = [this] { delete_entry(); };
+  Command1.on_click = [this] { unload(); };
+  chameleonButton3.on_click = [this] { unload(); };
+  Text1.on_change = [this] { read_mail(); };
+}
+
+void Form2::load() {
+  set_back_color(suite_color(program_.platform));
+  read_list();
+}
+
+void Form2::read_list() {
+  for (const std::string& line :
+       read_list_lines(program_.platform.files, program_.data_file(kCustomFile))) {
+    const CustomEntry entry = custom_entry_of(line);
+    set_custom_entry(view1, view1.add(""), entry);
+  }
+}
+
+// The rows take the place of the old file at one stroke. One that cannot be removed cannot be
+// written either, and stays as it was.
+void Form2::write_list() {
+  std::string lines;
+  for (int row = 1; row <= view1.count(); ++row) {
+    lines += line_of(custom_entry_at(view1, row)) + "\r\n";
+  }
+  static_cast<void>(program_.platform.files.write_file(program_.data_file(kCustomFile), lines));
+}
+
+void Form2::read_mail() {
+  const double mail = Val(Text1.text());
+  if (mail == 1) {
+    view1.clear();
+    read_list();
+    Text1.set_text("0");
+  } else if (mail == 2) {
+    write_list();
+    Text1.set_text("0");
+  }
+}
+
+void Form2::row_clicked(int row) {
+  row_ = row;
+  Command4.set_enabled(true);
+  Command2.set_enabled(true);
+}
+
+void Form2::add_entry() {
+  if (program_.find_window("Form5") != nullptr) return;
+  Form5 dialog(program_, *this);
+  dialog.load();
+  program_.show_modal(dialog);
+}
+
+void Form2::edit_entry() {
+  if (program_.find_window("Form5") != nullptr) return;
+  Form5 dialog(program_, *this);
+  dialog.load();
+  if (has_row()) dialog.fill(custom_entry_at(view1, row_));
+  dialog.Text5.set_text(std::to_string(row_));
+  program_.show_modal(dialog);
+}
+
+void Form2::delete_entry() {
+  if (has_row()) view1.remove(row_);
+  write_list();
+  Command2.set_enabled(false);
+  Command4.set_enabled(false);
+  row_ = 0;
+}
+
+}  // namespace quillvane

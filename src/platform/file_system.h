@@ -57,10 +57,11 @@ class FileSystem {
   // one of `patterns`, at most FolderTree::kMostPatterns of them (ListedFolder::matches tells
   // which); of the folders all. Links to folders are entered like folders; one that leads back to a
   // folder it lies in is not entered again along that path. A folder that cannot be read is there
-  // without contents. Null when `folder` itself cannot be listed.
-  // `watch` is told how far the reading has come and may end it: then the tree holds what was read
-  // until then (FolderTree::ended_early). Null: nobody watches.
-  // May read with threads of its own; the order of the result does not depend on them.
+  // without contents. Where links multiply, some of them are passed over, so that the work stays in
+  // proportion to the folders that are there (FolderTree::left_out_links). Null when `folder`
+  // itself cannot be listed. `watch` is told how far the reading has come and may end it: then the
+  // tree holds what was read until then (FolderTree::ended_early). Null: nobody watches. May read
+  // with threads of its own; the order of the result does not depend on them.
   [[nodiscard]] virtual std::shared_ptr<const FolderTree> read_tree_watched(
       const std::string& folder, const std::vector<std::string>& patterns,
       TreeReading* watch) const = 0;

@@ -48,7 +48,7 @@ std::optional<ListedPart> KeptListing::find(const std::string& path, const std::
   if (!below.empty() && below[0] != '\\') return std::nullopt;
   if (!std::exchange(read_, true)) read();
   // Where a link led back, the walk of a part could go further than the walk of the whole did.
-  if (tree_ == nullptr || tree_->left_out_loops()) return std::nullopt;
+  if (tree_ == nullptr || tree_->left_out_loops() || tree_->left_out_links()) return std::nullopt;
 
   const ListedFolder* folder = &tree_->root();
   std::string reached = root_;
@@ -63,7 +63,7 @@ std::optional<ListedPart> KeptListing::find(const std::string& path, const std::
 void KeptListing::read() {
   ReadingWatch watch(form_.program);
   tree_ = form_.platform().files.read_tree_watched(root_, patterns_, &watch);
-  watch.settle();
+  watch.settle(root_, tree_.get());
 }
 
 // A disk that tells names apart by case could have a file, which is not listed here, under a name

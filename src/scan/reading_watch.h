@@ -1,7 +1,10 @@
 // The watch over the reading of a tree: the window answers meanwhile, and the user may end it.
 #pragma once
 
+#include <string>
+
 #include "core/program.h"
+#include "platform/folder_tree.h"
 #include "platform/tree_reading.h"
 
 namespace quillvane {
@@ -15,9 +18,10 @@ class ReadingWatch final : public TreeReading {
   // a view is the same whether a reading takes long or not.
   [[nodiscard]] bool go_on(const TreeProgress& progress) override;
 
-  // To be called behind the reading. Serves the message loop once when the reading was ended: what
-  // ended it, a click on Cancel, is done before the files are judged, and also when there are none.
-  void settle();
+  // To be called behind the reading of `path`; null: it could not be read. Serves the message loop
+  // once when the reading was ended: what ended it, a click on Cancel, is done before the files are
+  // judged, and also when there are none. Warns when links were passed over.
+  void settle(const std::string& path, const FolderTree* tree);
 
  private:
   Program& program_;

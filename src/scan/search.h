@@ -108,6 +108,9 @@ class Search {
   // The same, of a listing that was read before.
   void search_listing(const ListedPart& part, const std::string& path, const std::string& pattern);
 
+  // What SearchFiles read; null when the folder could not be.
+  [[nodiscard]] const std::shared_ptr<const FolderTree>& tree() const { return tree_; }
+
   // What was collected; null when the folder could not be read.
   [[nodiscard]] const std::shared_ptr<class Files>& Files() const { return found_; }
 
@@ -121,6 +124,7 @@ class Search {
   std::string pattern_;
   unsigned pattern_number_ = 0;  // of the patterns that the listing was read for
   bool recursive_ = true;
+  std::shared_ptr<const FolderTree> tree_;
   std::shared_ptr<class Files> found_;
 };
 

@@ -14,7 +14,7 @@ void Walk::run(const std::string& path, const std::string& pattern) {
   ReadingWatch watch(form_.program);
   Search search(form_.platform().files, form_.program.trail, &watch);
   search.SearchFiles(path, pattern, true);
-  watch.settle();
+  watch.settle(path, search.tree().get());
   judge(search.Files());
 }
 
@@ -48,6 +48,8 @@ bool Walk::judge_folder(const FolderRun& run) {
     if (ignored || !passes(file.name, size.value_or(0))) continue;
     form_.totals.catfiles += 1;
     form_.totals.catsize += size.value_or(0);
+    form_.totals.listedfiles += 1;
+    form_.totals.listedsize += size.value_or(0);
     add_row(run.begin + i);
   }
   return true;

@@ -142,9 +142,13 @@ std::shared_ptr<const FolderTree> FolderFileSystem::read_tree_watched(
   Descriptor readable = open_for_listing(*place);
   if (!readable.is_open()) return nullptr;
   auto tree = std::make_shared<FolderTree>();
+  std::shared_ptr<FolderTree> given_up;  // `state` may still tell of a folder in it
   ReadingState state;
   read_watched(watch, folder, state, [&] {
     FolderWalk(scope, reading_threads_, *tree, state).read(*place, std::move(readable), path_units);
+    if (reading_threads_ == 1 || !tree->left_out_links()) return;
+    given_up = std::exchange(tree, std::make_shared<FolderTree>());
+    FolderWalk(scope, 1, *tree, state).read(*place, open_for_listing(*place), path_units);
   });
   if (state.ended()) tree->set_ended_early();
   return tree;

@@ -28,9 +28,11 @@ ListedFolder::FixedRecord record_of(const HostStatus& status, std::size_t name_e
 }  // namespace
 
 std::size_t FolderReader::read(const FolderInWork& work) {
+  names_read_ = 0;
   if (state_.ended() || !work.descriptor.is_open()) return 0;
   state_.enter(*work.folder);
   if (!listing_.read(work.descriptor.number())) return 0;
+  names_read_ = listing_.entries().size();
   if (listing_.has_links()) {
     follow_links(listing_, scope_.drive, work.route->path_of(*work.folder));
   }

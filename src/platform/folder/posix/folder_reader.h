@@ -24,6 +24,9 @@ class FolderReader {
   // until then.
   std::size_t read(const FolderInWork& work);
 
+  // How many names the folder that was read last has, be they matched or not.
+  [[nodiscard]] std::size_t names_read() const { return names_read_; }
+
  private:
   std::size_t add_subfolders(ListedFolder& folder);
   void add_files(const FolderInWork& work);
@@ -36,6 +39,7 @@ class FolderReader {
   TreeArena& arena_;
   ReadingState& state_;
   DirectoryListing listing_;
+  std::size_t names_read_ = 0;
 };
 
 }  // namespace quillvane

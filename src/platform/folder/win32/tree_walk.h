@@ -8,6 +8,7 @@
 #include "platform/folder/win32/folder_entries.h"
 #include "platform/folder/win32/host_drive.h"
 #include "platform/folder_tree.h"
+#include "platform/link_budget.h"
 #include "platform/reading_state.h"
 
 namespace quillvane {
@@ -30,8 +31,17 @@ class TreeWalk {
   void read(const HeldPlace& start, std::size_t path_units);
 
  private:
-  void read_folder(ListedFolder& folder, const HeldPlace& place, std::size_t path_units);
-  void read_subfolder(ListedFolder& folder, const HeldPlace& parent, std::size_t path_units);
+  // A folder of the walk and how it was come to.
+  struct Step {
+    const HeldPlace& place;
+    std::size_t path_units;
+    bool is_behind_link = false;  // or a link itself
+    bool is_read_again = false;   // the walk has read it before, by another way
+  };
+
+  void read_folder(ListedFolder& folder, const Step& step);
+  void read_subfolder(ListedFolder& folder, const Step& parent);
+  [[nodiscard]] bool may_be_read(const HostIdentity& folder);
 
   const HostDrive& drive_;
   const TreePatterns& patterns_;
@@ -39,6 +49,7 @@ class TreeWalk {
   FolderTree& tree_;
   ReadingState& state_;
   TreeArena& arena_;
+  LinkBudget links_;
   std::vector<HostIdentity> way_;  // the folders that the walk is in
 };
 

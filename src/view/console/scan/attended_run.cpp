@@ -5,6 +5,7 @@
 #include "core/form7.h"
 #include "view/console/scan/interrupt.h"
 #include "view/console/scan/progress_line.h"
+#include "view/console/scan/scan_progress.h"
 
 namespace quillvane {
 
@@ -20,9 +21,22 @@ void run_attended(ConsoleIo& io, VirtualLoop& loop, Program& program,
     if (!program.started()) return;
     Form7& form = program.main_window();
     if (interrupt.take()) form.cmd_cancel.click();
-    if (progress) progress->show(form.Text13.text());
+    if (progress) progress->show(scan_progress(form, form.Text13.text()));
   });
+  loop.set_reading_hook([&](const TreeProgress& reading) {
+    if (!program.started()) return true;
+    const Form7& form = program.main_window();
+    if (progress) progress->show(scan_progress(form, reading.folder));
+    // Nobody waits for the rest of a tree whose scan was cancelled.
+    return !interrupt.came() && form.cancelflag != 1;
+  });
+  program.on_warning = [&io](const std::string& warning) {
+    if (io.clear_line) io.clear_line();
+    io.err << "quillvane: " << warning << '\n';
+  };
   act();
+  program.on_warning = nullptr;
+  loop.set_reading_hook(nullptr);
   loop.set_served_hook(nullptr);
   io.clear_line = nullptr;
 }

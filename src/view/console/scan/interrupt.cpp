@@ -23,8 +23,10 @@ Interrupt::Interrupt() {
 
 Interrupt::~Interrupt() { std::signal(SIGINT, SIG_DFL); }
 
+bool Interrupt::came() const { return interrupted != 0; }
+
 bool Interrupt::take() {
-  if (interrupted == 0) return false;
+  if (!came()) return false;
   interrupted = 0;
   return true;
 }

@@ -12,7 +12,9 @@ class Interrupt {
   Interrupt(const Interrupt&) = delete;
   Interrupt& operator=(const Interrupt&) = delete;
 
-  // Whether Ctrl-C came since the last call.
+  // Whether Ctrl-C came since it was taken last.
+  [[nodiscard]] bool came() const;
+  // The same; the next one counts anew.
   [[nodiscard]] bool take();
 };
 

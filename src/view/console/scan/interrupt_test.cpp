@@ -11,9 +11,14 @@ TEST(Interrupt, IsTakenOnce) {
   Interrupt interrupt;
   EXPECT_FALSE(interrupt.take());
 
+  EXPECT_FALSE(interrupt.came());
+
   std::raise(SIGINT);
 
+  EXPECT_TRUE(interrupt.came());
+  EXPECT_TRUE(interrupt.came());
   EXPECT_TRUE(interrupt.take());
+  EXPECT_FALSE(interrupt.came());
   EXPECT_FALSE(interrupt.take());
 }
 

@@ -44,9 +44,11 @@ struct FolderEntry {
 
 enum class RemoveResult {
   kRemoved,
-  kMissing,  // nothing was there, or its path cannot be opened
-  kInUse,    // another process holds it open; a restart would free it
-  kDenied,   // read-only, or the rights are missing
+  kMissing,     // nothing was there: the disk says so, or the text is no path on one
+  kInUse,       // another process holds it open; a restart would free it
+  kDenied,      // read-only, or the rights are missing
+  kTooLong,     // its path has 260 characters or more and was not looked at; a listing may show it
+  kUnreadable,  // whether it is there cannot be told: the disk fails, or the way may not be gone
 };
 
 class FileSystem {

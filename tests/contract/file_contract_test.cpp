@@ -64,14 +64,23 @@ TEST_F(FileContract, AListingShowsTheAttributes) {
 
 TEST_F(FileContract, WhatIsMissingHasNothing) {
   for (const std::string& path :
-       {path_of("missing"), path_of("missing\\deeper"), std::string("1:\\a"), std::string(),
-        path_of(std::string(260, 'a'))}) {
+       {path_of("missing"), path_of("missing\\deeper"), std::string("1:\\a"), std::string()}) {
     EXPECT_FALSE(platform.files.attributes(path).has_value()) << path;
     EXPECT_FALSE(platform.files.set_attributes(path, kAttributeHidden)) << path;
     EXPECT_FALSE(platform.files.file_size(path).has_value()) << path;
     EXPECT_FALSE(platform.files.read_file(path).has_value()) << path;
     EXPECT_EQ(platform.files.remove_file(path), RemoveResult::kMissing) << path;
   }
+}
+
+TEST_F(FileContract, APathThatIsTooLongIsNotLookedAt) {
+  const std::string path = path_of(std::string(260 - path_of("").size(), 'a'));
+  EXPECT_FALSE(platform.files.attributes(path).has_value());
+  EXPECT_FALSE(platform.files.set_attributes(path, kAttributeHidden));
+  EXPECT_FALSE(platform.files.file_size(path).has_value());
+  EXPECT_FALSE(platform.files.read_file(path).has_value());
+  EXPECT_EQ(platform.files.remove_file(path), RemoveResult::kTooLong);
+  EXPECT_EQ(platform.files.remove_file(path.substr(0, 259)), RemoveResult::kMissing);
 }
 
 TEST_F(FileContract, AFolderHasNoSizeAndNoContent) {

@@ -16,7 +16,7 @@ TEST(InexactNames, TheFileWithoutTheEndingStaysAsItIs) {
   const std::string other = folder.add_file("b.txt", "b");
   Win32FileSystem files;
   for (const char* ending : {".", " ", "..", ". "}) {
-    EXPECT_EQ(files.remove_file(path + ending), RemoveResult::kMissing) << ending;
+    EXPECT_EQ(files.remove_file(path + ending), RemoveResult::kUnreadable) << ending;
     EXPECT_FALSE(files.rename_file(path + ending, folder.path_of("c.txt"))) << ending;
     EXPECT_FALSE(files.rename_file(path, folder.path_of("c.txt") + ending)) << ending;
     EXPECT_FALSE(files.copy_file(path + ending, folder.path_of("c.txt"))) << ending;

@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include "platform/watched_reading.h"
+#include "platform/win32/disk_error.h"
 #include "platform/win32/file_content.h"
 #include "platform/win32/folder_listing.h"
 #include "platform/win32/tree_reader.h"
@@ -59,6 +60,13 @@ std::optional<std::wstring> exact_path(const std::string& path) {
   return wide;
 }
 
+// What becomes of a removal whose path has no exact_path. A name that ends in a blank or a dot may
+// be there, made by a program that goes around these rules.
+RemoveResult not_opened(const std::string& path) {
+  if (!is_usable_path(path)) return RemoveResult::kMissing;
+  return openable_path(path) ? RemoveResult::kUnreadable : RemoveResult::kTooLong;
+}
+
 bool has_attribute(const std::wstring& path, DWORD attribute) {
   const DWORD attributes = GetFileAttributesW(path.c_str());
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & attribute) != 0;
@@ -67,9 +75,9 @@ bool has_attribute(const std::wstring& path, DWORD attribute) {
 // What a refused deletion means. A program that runs can be opened for deletion, but not deleted;
 // Windows calls that "access denied" although nothing but the program stands in the way.
 RemoveResult refused(const std::wstring& path) {
-  const DWORD attributes = GetFileAttributesW(path.c_str());
-  if (attributes == INVALID_FILE_ATTRIBUTES ||
-      (attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) {
+  const auto status = status_of(path);
+  if (!status) return RemoveResult::kUnreadable;
+  if ((status->attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_READONLY)) != 0) {
     return RemoveResult::kDenied;
   }
   const FileHandle file(
@@ -171,15 +179,14 @@ bool Win32FileSystem::make_folder(const std::string& path) {
 
 RemoveResult Win32FileSystem::remove_file(const std::string& path) {
   const auto wide = exact_path(path);
-  if (!wide) return RemoveResult::kMissing;
+  if (!wide) return not_opened(path);
   if (DeleteFileW(wide->c_str())) return RemoveResult::kRemoved;
-  switch (GetLastError()) {
+  const DWORD error = GetLastError();
+  if (error != ERROR_ACCESS_DENIED && cannot_be_told(error)) return RemoveResult::kUnreadable;
+  switch (error) {
     case ERROR_FILE_NOT_FOUND:
     case ERROR_PATH_NOT_FOUND:
     case ERROR_INVALID_NAME:
-    case ERROR_BAD_NETPATH:
-    case ERROR_BAD_NET_NAME:
-    case ERROR_NOT_READY:
       return RemoveResult::kMissing;
     case ERROR_SHARING_VIOLATION:
     case ERROR_LOCK_VIOLATION:

@@ -15,15 +15,15 @@ bool is_absolute(std::string_view path) {
   return has_drive && (path.size() == 2 || is_separator(path[2]));
 }
 
-// A zero would end the path early for Windows, so that another file would be meant.
-bool is_usable(std::string_view path) {
+}  // namespace
+
+bool is_usable_path(std::string_view path) {
+  // A zero would end the path early for Windows, so that another file would be meant.
   return is_absolute(path) && path.find('\0') == std::string_view::npos;
 }
 
-}  // namespace
-
 std::optional<std::wstring> openable_path(std::string_view path) {
-  if (!is_usable(path)) return std::nullopt;
+  if (!is_usable_path(path)) return std::nullopt;
   std::wstring wide = widen(path);
   if (wide.size() == 2) wide += L'\\';  // "C:" alone would be the folder the program stands in
   if (wide.size() >= kPathLimit) return std::nullopt;
@@ -31,7 +31,7 @@ std::optional<std::wstring> openable_path(std::string_view path) {
 }
 
 std::optional<std::wstring> folder_prefix(std::string_view folder) {
-  if (!is_usable(folder)) return std::nullopt;
+  if (!is_usable_path(folder)) return std::nullopt;
   std::wstring wide = widen(folder);
   if (wide.back() != L'\\' && wide.back() != L'/') wide += L'\\';
   return wide;

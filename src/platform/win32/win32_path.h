@@ -15,6 +15,9 @@ namespace quillvane {
 // terminator.
 inline constexpr std::size_t kPathLimit = 260;
 
+// Whether the text is absolute and can mean no other file than it says, whatever its length.
+[[nodiscard]] bool is_usable_path(std::string_view path);
+
 // The path as Windows takes it; nothing when it is too long or not absolute. A path without a
 // drive would mean the drive that the program happens to stand on.
 [[nodiscard]] std::optional<std::wstring> openable_path(std::string_view path);

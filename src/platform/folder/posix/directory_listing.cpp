@@ -82,6 +82,7 @@ void DirectoryListing::add_entries(int folder, std::size_t begin, std::size_t en
 std::optional<std::string> stored_name(int folder, const std::string& name) {
   HostStatus status;
   if (read_status(folder, name.c_str(), status)) return name;
+  const int error = errno;
   const Descriptor readable(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   DirectoryListing listing;
   if (!readable.is_open() || !listing.read(readable.number())) return std::nullopt;
@@ -90,6 +91,7 @@ std::optional<std::string> stored_name(int folder, const std::string& name) {
     const std::string_view stored = listing.name(entry);
     if (same_name(stored, name) && (!found || stored < *found)) found = stored;
   }
+  errno = error;
   return found;
 }
 

@@ -35,7 +35,8 @@ class DirectoryListing final : public NameListing {
 };
 
 // The name as stored, for a name in any case: itself when an entry is named exactly so, otherwise
-// the first in the order of the listing that differs only by case. Nothing when there is none.
+// the first in the order of the listing that differs only by case. Nothing when there is none or
+// when that cannot be told; errno has the reason.
 [[nodiscard]] std::optional<std::string> stored_name(int folder, const std::string& name);
 
 }  // namespace quillvane

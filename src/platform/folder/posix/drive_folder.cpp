@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <iterator>
 #include <memory>
 
@@ -32,7 +33,8 @@ Descriptor open_at_once(int folder, const std::string& path) {
 std::optional<std::string> read_link(int link) {
   std::array<char, PATH_MAX> target;
   const ssize_t length = readlinkat(link, "", target.data(), target.size());
-  if (length <= 0 || static_cast<std::size_t>(length) == target.size()) return std::nullopt;
+  if (length < 0) return std::nullopt;
+  if (length == 0 || static_cast<std::size_t>(length) == target.size()) return missing();
   return std::string(target.data(), static_cast<std::size_t>(length));
 }
 
@@ -87,9 +89,14 @@ class DriveFolder::Way {
   }
 
  private:
+  static bool leads_nowhere() {
+    errno = ENOENT;
+    return false;
+  }
+
   // Above the drive's folder a way leads nowhere.
   bool up() {
-    if (here_.path.empty() || !is_folder(here_.status)) return false;
+    if (here_.path.empty() || !is_folder(here_.status)) return leads_nowhere();
     const std::size_t slash = here_.path.rfind('/');
     return start_again(slash == std::string::npos ? "" : here_.path.substr(0, slash));
   }
@@ -102,7 +109,7 @@ class DriveFolder::Way {
   }
 
   bool down(const std::string& name) {
-    if (!is_folder(here_.status)) return false;
+    if (!is_folder(here_.status)) return leads_nowhere();
     auto stored = stored_name(here_.object.number(), name);
     if (!stored) return false;
     HostEntry entry{std::move(here_), std::move(*stored)};
@@ -114,14 +121,15 @@ class DriveFolder::Way {
 
   bool follow(int link) {
     const auto target = read_link(link);
-    if (!target || ++links_ > kMostLinks) return false;
+    if (!target) return false;
+    if (++links_ > kMostLinks) return leads_nowhere();
     if (!target->starts_with('/')) {
       push_names(*target, still_to_go_);
       return true;
     }
     auto below = part_below(*target, drive_.host_folder_);
     if (!below) below = part_below(*target, without_links(drive_.host_folder_));
-    if (!below) return false;
+    if (!below) return leads_nowhere();
     push_names(*below, still_to_go_);
     return start_again("");
   }
@@ -134,9 +142,14 @@ class DriveFolder::Way {
 
 DriveFolder::DriveFolder(const std::string& host_folder)
     : host_folder_(host_folder),
-      folder_(open(host_folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)) {}
+      folder_(open(host_folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)),
+      error_(folder_.is_open() ? 0 : errno) {}
 
 std::optional<HostPlace> DriveFolder::root() const {
+  if (!folder_.is_open()) {
+    errno = error_;
+    return std::nullopt;
+  }
   HostPlace place;
   place.object = Descriptor(fcntl(folder_.number(), F_DUPFD_CLOEXEC, 0));
   if (!place.object.is_open() || !read_status(place.object.number(), place.status)) {
@@ -178,16 +191,17 @@ std::optional<HostPlace> DriveFolder::find(std::span<const std::string> names) c
 }
 
 std::optional<HostEntry> DriveFolder::find_entry(std::span<const std::string> names) const {
-  if (names.empty()) return std::nullopt;
+  if (names.empty()) return missing();
   auto folder = find(names.first(names.size() - 1));
-  if (!folder || !is_folder(folder->status)) return std::nullopt;
+  if (!folder) return std::nullopt;
+  if (!is_folder(folder->status)) return missing();
   auto name = stored_name(folder->object.number(), names.back());
   if (!name) return std::nullopt;
   return HostEntry{std::move(*folder), std::move(*name)};
 }
 
 std::optional<HostEntry> DriveFolder::entry_of(const HostPlace& place) const {
-  if (place.path.empty()) return std::nullopt;
+  if (place.path.empty()) return missing();
   const std::size_t slash = place.path.rfind('/');
   const std::size_t name = slash == std::string::npos ? 0 : slash + 1;
   auto folder = find_stored(place.path.substr(0, name == 0 ? 0 : slash));

@@ -3,6 +3,8 @@
 // Every way is gone from one open folder to the next, never through a link of the host: links are
 // read and followed here. So a way cannot leave the drive's folder, whatever is exchanged on it
 // meanwhile. Only the drive's folder itself may be reached through links.
+//
+// Where nothing is found errno has the reason: one that means_missing, or why it cannot be told.
 #pragma once
 
 #include <optional>
@@ -58,6 +60,7 @@ class DriveFolder {
 
   std::string host_folder_;
   Descriptor folder_;
+  int error_;  // why it is not open
 };
 
 // What bears the name: a link itself and not where it leads. Nothing when it is gone.

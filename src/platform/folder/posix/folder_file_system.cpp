@@ -39,9 +39,17 @@ RemoveResult result_of(int error) {
     case EBUSY:
     case ETXTBSY:
       return RemoveResult::kInUse;
+    case EIO:
+      return RemoveResult::kUnreadable;
     default:
       return RemoveResult::kDenied;
   }
+}
+
+// What it means that a file was not found.
+RemoveResult not_found(const std::string& path, int error) {
+  if (!fits_path_limit(path)) return RemoveResult::kTooLong;
+  return means_missing(error) ? RemoveResult::kMissing : RemoveResult::kUnreadable;
 }
 
 RemoveResult remove_name(int folder, const std::string& name) {
@@ -91,9 +99,10 @@ struct FoundFile {
   NamedFile file;
 };
 
+// Nothing with errno as DriveFolder has it.
 std::optional<FoundFile> find_named(const MachinePaths& paths, const std::string& path) {
   const auto parsed = paths.parse(path);
-  if (!parsed) return std::nullopt;
+  if (!parsed) return missing();
   DriveFolder drive = paths.drive(parsed->drive);
   auto entry = drive.find_entry(parsed->names);
   auto file = entry ? open_named(drive, *entry) : std::nullopt;
@@ -289,7 +298,7 @@ RemoveResult FolderFileSystem::remove_seen(const std::string& path, SeenFile fil
 
 RemoveResult FolderFileSystem::remove_looking(const std::string& path) {
   const auto found = find_named(paths_, path);
-  if (!found) return RemoveResult::kMissing;
+  if (!found) return not_found(path, errno);
   const HostStatus& status = found->file.place().status;
   if (!is_file(status)) return RemoveResult::kDenied;
   if (paths_.is_in_use(HostIdentity::of(status))) return RemoveResult::kInUse;

@@ -91,16 +91,46 @@ TEST_F(FolderFileSystemTest, TellsWhyTheHostDidNotRemove) {
   const struct {
     int error;
     RemoveResult result;
-  } cases[] = {{ENOENT, RemoveResult::kMissing},
-               {EBUSY, RemoveResult::kInUse},
-               {ETXTBSY, RemoveResult::kInUse},
-               {EROFS, RemoveResult::kDenied},
-               {EPERM, RemoveResult::kDenied}};
+  } cases[] = {{ENOENT, RemoveResult::kMissing}, {EBUSY, RemoveResult::kInUse},
+               {ETXTBSY, RemoveResult::kInUse},  {EIO, RemoveResult::kUnreadable},
+               {EROFS, RemoveResult::kDenied},   {EPERM, RemoveResult::kDenied}};
   for (const auto& c : cases) {
     with_failing_calls({SYS_unlinkat}, c.error, [&] {
       EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), c.result) << c.error;
     });
   }
+}
+
+TEST_F(FolderFileSystemTest, AFileThatCannotBeLookedAtIsNotTakenForMissing) {
+  for (const int error : {EIO, EACCES, ESTALE}) {
+    with_failing_calls({SYS_openat2, SYS_openat, SYS_statx}, error, [&] {
+      EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), RemoveResult::kUnreadable) << error;
+    });
+  }
+  EXPECT_TRUE(host.has("drive_c/Temp/a.tmp"));
+}
+
+TEST_F(FolderFileSystemTest, ANameOfAnotherCaseInAFolderThatCannotBeListedIsNotTakenForMissing) {
+  const AsOrdinaryUser user;
+  const TempFolder own;
+  own.write("sub/a.tmp");
+  ASSERT_EQ(chmod(own.path_of("sub").c_str(), 0311), 0);
+  machine.drives[0].folder = own.path();
+  EXPECT_EQ(files.remove_file("C:\\sub\\A.TMP"), RemoveResult::kUnreadable);
+  EXPECT_TRUE(own.has("sub/a.tmp"));
+  EXPECT_EQ(files.remove_file("C:\\sub\\a.tmp"), RemoveResult::kRemoved);
+  ASSERT_EQ(chmod(own.path_of("sub").c_str(), 0755), 0);
+}
+
+TEST_F(FolderFileSystemTest, AFolderThatMayNotBeEnteredHidesWhetherAFileIsThere) {
+  const AsOrdinaryUser user;
+  const TempFolder own;
+  own.write("sub/a.tmp");
+  machine.drives[0].folder = own.path();
+  ASSERT_EQ(chmod(own.path_of("sub").c_str(), 0), 0);
+  EXPECT_EQ(files.remove_file("C:\\sub\\a.tmp"), RemoveResult::kUnreadable);
+  EXPECT_EQ(files.remove_file("C:\\sub\\b.tmp"), RemoveResult::kUnreadable);
+  ASSERT_EQ(chmod(own.path_of("sub").c_str(), 0755), 0);
 }
 
 TEST_F(FolderFileSystemTest, ReadsAFileInUseAndChangesNothingOfIt) {
@@ -201,7 +231,7 @@ TEST_F(FolderFileSystemTest, CannotOpenWhatIsListedBeyondThePathLimit) {
   EXPECT_EQ(files.file_size(folder + "\\" + long_name), std::nullopt);
   EXPECT_EQ(files.read_file(folder + "\\" + long_name), std::nullopt);
   EXPECT_FALSE(files.write_file(folder + "\\" + long_name, "y"));
-  EXPECT_EQ(files.remove_file(folder + "\\" + long_name), RemoveResult::kMissing);
+  EXPECT_EQ(files.remove_file(folder + "\\" + long_name), RemoveResult::kTooLong);
   EXPECT_TRUE(host.has("drive_c/" + name + "/" + name + "/" + long_name));
 }
 

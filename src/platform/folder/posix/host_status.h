@@ -4,7 +4,9 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include <cerrno>
 #include <cstdint>
+#include <optional>
 
 #include "platform/file_time.h"
 #include "platform/link_budget.h"
@@ -30,6 +32,29 @@ inline constexpr unsigned kStatusParts = STATX_TYPE | STATX_MODE | STATX_UID | S
 [[nodiscard]] inline bool is_file(const HostStatus& status) { return S_ISREG(status.stx_mode); }
 [[nodiscard]] inline bool is_folder(const HostStatus& status) { return S_ISDIR(status.stx_mode); }
 [[nodiscard]] inline bool is_link(const HostStatus& status) { return S_ISLNK(status.stx_mode); }
+
+// Whether an error of the host says that nothing bears the name, or nothing can: no name of the
+// host is so long or has such bytes, or the way there leads nowhere. After every other error that
+// cannot be told.
+[[nodiscard]] inline bool means_missing(int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+    case ELOOP:
+    case ENAMETOOLONG:
+    case EINVAL:
+    case EILSEQ:
+      return true;
+    default:
+      return false;
+  }
+}
+
+// Nothing, because it is not there.
+[[nodiscard]] inline std::nullopt_t missing() {
+  errno = ENOENT;
+  return std::nullopt;
+}
 
 // Tells two objects of the host apart, whatever names lead to them.
 struct HostIdentity {

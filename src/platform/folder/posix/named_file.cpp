@@ -21,7 +21,7 @@ std::optional<NamedFile> open_named(const DriveFolder& drive, const HostEntry& e
     if (!file.target) return std::nullopt;
   }
   const HostStatus& status = file.place().status;
-  if (!is_file(status) && !is_folder(status)) return std::nullopt;
+  if (!is_file(status) && !is_folder(status)) return missing();
   return file;
 }
 

@@ -19,7 +19,8 @@ struct NamedFile {
   [[nodiscard]] std::uint32_t attributes() const;
 };
 
-// Nothing for a name that is gone, a link that leads nowhere, and what is neither file nor folder.
+// Nothing for a name that is gone, a link that leads nowhere, and what is neither file nor folder;
+// errno has the reason as with DriveFolder.
 [[nodiscard]] std::optional<NamedFile> open_named(const DriveFolder& drive, const HostEntry& entry);
 
 }  // namespace quillvane

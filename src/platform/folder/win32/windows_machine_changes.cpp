@@ -7,6 +7,7 @@
 #include "platform/folder/win32/folder_entries.h"
 #include "platform/folder/win32/held_file.h"
 #include "platform/folder/win32/windows_machine_files.h"
+#include "platform/win32/disk_error.h"
 #include "platform/win32/long_path.h"
 #include "platform/win32/wide_text.h"
 
@@ -16,8 +17,16 @@ namespace {
 
 bool is_read_only(std::uint32_t attributes) { return (attributes & kAttributeReadOnly) != 0; }
 
+// Why a file was not found that is in no listing, as the system's last error has it. Looking
+// through a listing to its end is no error.
+RemoveResult not_found(const std::string& path, DWORD error) {
+  if (!fits_path_limit(path)) return RemoveResult::kTooLong;
+  return cannot_be_told(error) ? RemoveResult::kUnreadable : RemoveResult::kMissing;
+}
+
 // What stands in the way of a file that was refused for removal.
 RemoveResult refused(DWORD error) {
+  if (error != ERROR_ACCESS_DENIED && cannot_be_told(error)) return RemoveResult::kUnreadable;
   switch (error) {
     case ERROR_FILE_NOT_FOUND:
     case ERROR_PATH_NOT_FOUND:
@@ -94,8 +103,9 @@ bool WindowsMachineFiles::make_folder(const std::string& path) {
 }
 
 RemoveResult WindowsMachineFiles::remove_file(const std::string& path) {
+  SetLastError(ERROR_SUCCESS);
   const auto found = find_named(path);
-  if (!found) return RemoveResult::kMissing;
+  if (!found) return not_found(path, GetLastError());
   if (found->target.is_folder()) return RemoveResult::kDenied;
   if (is_in_use(found->target)) return RemoveResult::kInUse;
   if (!found->is_link() && is_read_only(found->target.status.dwFileAttributes)) {

@@ -13,8 +13,8 @@ struct FolderInWork {
   ListedFolder* folder = nullptr;
   Descriptor descriptor;             // not open: there is nothing to read
   const TreeRoute* route = nullptr;  // how the walk came here
-  bool is_read_again = false;        // the walk has read it before, by another way
   std::size_t path_units = 0;        // UTF-16 units of its Windows path and the backslash behind it
+  bool is_read_again = false;        // the walk has read it before, by another way
 };
 
 }  // namespace quillvane

@@ -98,8 +98,7 @@ std::optional<FolderInWork> FolderWalk::take_from_others(std::size_t thread) {
 
 FolderInWork FolderWalk::enter(const FolderInWork& parent, ListedFolder& folder) {
   const std::string name(folder.name());
-  FolderInWork entered{
-      &folder, {}, parent.route, false, parent.path_units + utf16_length(name) + 1};
+  FolderInWork entered{&folder, {}, parent.route, parent.path_units + utf16_length(name) + 1};
   if (state_.ended() || is_given_up() || !scope_.can_list(entered.path_units)) return entered;
   entered.descriptor = Descriptor(openat(parent.descriptor.number(), name.c_str(), kListFlags));
   const bool is_link = !entered.descriptor.is_open() && (errno == ELOOP || errno == ENOTDIR);

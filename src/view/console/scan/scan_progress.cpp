@@ -1,6 +1,7 @@
 #include "view/console/scan/scan_progress.h"
 
 #include "core/form7.h"
+#include "support/text.h"
 #include "view/console/readable.h"
 
 namespace quillvane {

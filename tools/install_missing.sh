@@ -51,6 +51,7 @@ test_packages=(
   make patch tcl xz-utils                             # SQLite for Windows programs
   librsvg2-bin icoutils imagemagick                   # pictures of the Windows program
   xvfb xdotool                                        # its window on a screen for the tests
+  ntfs-3g                                             # a mounted disk of Windows for the tests
 )
 # Not every mirror serves another architecture's packages in the versions of this machine's.
 wine32_packages=(wine32:i386)                         # its test

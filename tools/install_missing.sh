@@ -28,6 +28,7 @@ install_missing() {
     as_root=(sudo)
   fi
   echo "Installing what is missing: ${missing[*]}"
+  local added=()
   local architecture
   for package in "${missing[@]}"; do
     architecture=${package##*:}
@@ -35,11 +36,20 @@ install_missing() {
     if ! dpkg --print-foreign-architectures | grep -qx "$architecture"; then
       echo "Telling dpkg that packages of $architecture may be installed here too"
       "${as_root[@]}" dpkg --add-architecture "$architecture" || return 1
+      added+=("$architecture")
     fi
   done
-  "${as_root[@]}" apt-get update -qq || true # one list of many that fails may not be needed
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
-    apt-get install -qq -y --no-install-recommends --no-remove "${missing[@]}" >/dev/null
+  # A list that cannot be fetched may be one that is not needed.
+  "${as_root[@]}" apt-get update -qq || true
+  if "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y \
+    --no-install-recommends --no-remove "${missing[@]}" >/dev/null; then
+    return 0
+  fi
+  for architecture in "${added[@]}"; do
+    echo "Taking back: packages of $architecture"
+    "${as_root[@]}" dpkg --remove-architecture "$architecture"
+  done
+  return 1
 }
 
 program_packages=(g++ cmake ninja-build ccache libcli11-dev nlohmann-json3-dev libsqlite3-dev)

@@ -62,7 +62,8 @@ EOF
 )
 
 statics="$deluxe\\statics\\junkfiles"
-expect StatisticsAreInItsHalf yes "$([ -n "$(text_of "$own\\$statics" count)" ] && echo yes)"
+expect StatisticsAddUpInItsHalf "2 30" \
+  "$(text_of "$own\\$statics" count) $(text_of "$own\\$statics" size)"
 expect StatisticsOfTheOtherHalfStay "700 9000" \
   "$(text_of "$other\\$statics" count) $(text_of "$other\\$statics" size)"
 expect BackupsAreNumberedOnFromItsHalf 2 "$(text_of "$own\\$deluxe\\junkscan" cnt)"

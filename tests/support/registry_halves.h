@@ -1,5 +1,6 @@
-// The registry of 64-bit Windows as a 32-bit program sees it, held in memory: what is asked for with
-// the right 0x100 comes from the 64-bit half, all else and every write from and to the 32-bit one.
+// The registry of 64-bit Windows as a 32-bit program sees it, held in memory: what is asked for
+// with the right 0x100 comes from the 64-bit half, all else and every write from and to the 32-bit
+// one.
 #pragma once
 
 #include "tests/support/memory_registry.h"

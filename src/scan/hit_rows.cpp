@@ -6,9 +6,7 @@
 
 namespace quillvane {
 
-int category_icon(int category) {
-  return category > kBrowsersNode ? category - 2 : category - 1;
-}
+int category_icon(int category) { return category > kBrowsersNode ? category - 2 : category - 1; }
 
 std::string HitRows::text(std::size_t index, int column) const {
   switch (column) {

@@ -29,7 +29,7 @@ std::string GetFileName(const std::string& path) { return path.substr(path.rfind
 // number that could not be read is not begun anew: then nothing is written.
 RegistryWrite write_history(Registry& registry, const std::string& stamp) {
   const std::string key = kHistoryKey;
-  const RegistryText before = ReadRegistryString(registry, Hive::kLocalMachine, key, "cnt");
+  const RegistryText before = ReadRegistryString32(registry, Hive::kLocalMachine, key, "cnt");
   if (!before.problem.empty()) return RegistryWrite::failure(before.problem);
   const std::string count = number_text(Val(before.text) + 1);
   RegistryWrite result;

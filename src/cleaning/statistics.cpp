@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kKey = "software\\Quillvane\\Tidewrack Deluxe\\statics\\junkfiles";
 
 RegistryText read(const Registry& registry, const std::string& name) {
-  return ReadRegistryString(registry, Hive::kLocalMachine, kKey, name);
+  return ReadRegistryString32(registry, Hive::kLocalMachine, kKey, name);
 }
 
 RegistryWrite write_sum(Registry& registry, const std::string& name, const RegistryText& before,

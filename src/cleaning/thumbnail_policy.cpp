@@ -61,7 +61,7 @@ void ThumbnailPolicy::enablethumbcache() {
 }
 
 void ThumbnailPolicy::put_back() {
-  if (ReadRegistryString(platform_.registry, kMarkHive, kMarkKey, kMark).text != kSet) return;
+  if (ReadRegistryString32(platform_.registry, kMarkHive, kMarkKey, kMark).text != kSet) return;
   const Instances::Hold alone = platform_.instances.hold_off_cleaning();
   if (alone != nullptr) quillvane::enablethumbcache(platform_.registry);
 }

@@ -80,12 +80,12 @@ void Form7::fill_drive_list() {
 void Form7::restore_ticked_drives() {
   const Registry& registry = platform().registry;
   const RegistryText count =
-      ReadRegistryString(registry, Hive::kLocalMachine, kTimerKey, "alldrive");
+      ReadRegistryString32(registry, Hive::kLocalMachine, kTimerKey, "alldrive");
   const double stored = Val(count.text);
   if (stored >= 1) anydrivechecked = 1;
   // The values that are there are gone through, not the numbers up to the count: any count can have
   // been stored.
-  const auto values = registry.values(Hive::kLocalMachine, kTimerKey, KeyAccess::kSystemSettings);
+  const auto values = registry.values(Hive::kLocalMachine, kTimerKey, KeyAccess::kSettings);
   drives_problem_ = count.problem.empty() ? values.problem() : count.problem;
   if (!values) return;
   for (const NamedRegistryValue& value : *values) {
@@ -93,7 +93,7 @@ void Form7::restore_ticked_drives() {
     // The first is read even when none is stored: meant so.
     if (!number || (*number > stored && *number != 1)) continue;
     const RegistryText drive =
-        ReadRegistryString(registry, Hive::kLocalMachine, kTimerKey, value.name);
+        ReadRegistryString32(registry, Hive::kLocalMachine, kTimerKey, value.name);
     if (drives_problem_.empty()) drives_problem_ = drive.problem;
     const std::string pattern = folded(drive.text);
     for (int row = 1; row <= View2.count(); ++row) {

@@ -29,7 +29,7 @@ std::optional<std::uint32_t> color_of(std::string_view text) {
 
 std::uint32_t suite_color(const Platform& platform) {
   const auto value =
-      platform.registry.value(Hive::kLocalMachine, kSuiteKey, "color", KeyAccess::kRead64);
+      platform.registry.value(Hive::kLocalMachine, kSuiteKey, "color", KeyAccess::kRead);
   if (!value) return kSuiteColor;
   if (value->type != RegistryType::kSz && value->type != RegistryType::kExpandSz) {
     return kSuiteColor;

@@ -29,6 +29,10 @@ void Program::start(std::string_view command_line) {
   form7_->activate();
 }
 
+void Program::warn(const std::string& what_and_why) {
+  if (warnings_.insert(what_and_why).second && on_warning) on_warning(what_and_why);
+}
+
 void Program::PumpWait(std::chrono::milliseconds time) {
   if (!ended_) platform.loop.wait(time);
 }

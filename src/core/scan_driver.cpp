@@ -32,6 +32,8 @@ void Form7::autosearch() {
   txtfilecont.set_text("0");
   txtfilesize.set_text("0");
   cancelflag = 0;
+  totals.listedfiles = 0;
+  totals.listedsize = 0;
   Text13.show();
   Shape1.set_back_color(Shape2.back_color());
   Toolbar1.refresh();

@@ -50,7 +50,17 @@ PathLineView::PathLineView(ViewHost& host, TextBox& box, const ControlPlace& pla
 }
 
 void PathLineView::show_changes(const Changes& changes) {
-  if (changes.has(Change::kText)) show_text(box_.text());
+  if (changes.has(Change::kText)) {
+    folder_.clear();
+    show_text(box_.text());
+  }
+  InvalidateRect(window(), nullptr, FALSE);
+}
+
+void PathLineView::show_reading(const std::wstring& folder) {
+  if (folder == folder_) return;
+  folder_ = folder;
+  SetWindowTextW(window(), folder_.c_str());
   InvalidateRect(window(), nullptr, FALSE);
 }
 
@@ -71,7 +81,8 @@ void PathLineView::paint() {
   const Selected font(paint.dc(), host().font());
   SetBkMode(paint.dc(), TRANSPARENT);
   SetTextColor(paint.dc(), theme.high_contrast ? theme.text : readable_on(back));
-  DrawTextW(paint.dc(), widen(box_.text()).c_str(), -1, &area,
+  const std::wstring text = folder_.empty() ? widen(box_.text()) : folder_;
+  DrawTextW(paint.dc(), text.c_str(), -1, &area,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_PATH_ELLIPSIS);
 }
 

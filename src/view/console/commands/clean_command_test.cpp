@@ -186,6 +186,19 @@ TEST(CleanCommand, AFileThatCannotBeLookedAtIsNeverCountedAsGone) {
   }
 }
 
+// The restart could not remove it either.
+TEST(CleanCommand, AFileOnADiskForReadingAloneIsNotQueued) {
+  Stage stage;
+  stage.answer_removals(RemoveResult::kWriteProtected);
+
+  EXPECT_EQ(stage.run({"clean", "--yes"}), 1);
+
+  EXPECT_NE(stage.out.str().find("failed: C:\\Windows\\Temp\\c.tmp: its disk is for reading alone\n"
+                                 "Removed: 0, queued for the next restart: 0, failed: 3\n"),
+            std::string::npos)
+      << stage.out.str();
+}
+
 TEST(CleanCommand, CtrlCInTheScanRemovesNothing) {
   Stage stage;
   stage.interrupt_scan();

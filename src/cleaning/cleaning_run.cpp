@@ -5,10 +5,8 @@
 
 #include "categories/url_cache_rows.h"
 #include "cleaning/deletion.h"
-#include "cleaning/pending_queue.h"
 #include "cleaning/permission.h"
 #include "cleaning/statistics.h"
-#include "cleaning/thumbnail_policy.h"
 #include "platform/unicode_case.h"
 #include "scan/junk_page.h"
 #include "support/program_name.h"
@@ -56,16 +54,16 @@ void expect_removals(const JunkPage& page, int first_row) {
   if (!paths.empty()) page.platform().files.expect_removals(paths);
 }
 
-// Each handled row leaves the list, whatever came of it. True when one was queued.
-bool remove_all_rows(JunkPage& page, PendingQueue& pending) {
-  bool queued = false;
+// Each handled row leaves the list, whatever came of it. Answers how many were queued.
+int remove_all_rows(JunkPage& page, PendingQueue& pending) {
+  int queued = 0;
   const int total = page.view1.count();
   page.bar3.set_range(0, total + 2);
   page.bar3.show();
   for (int progress = 0; progress < total && page.view1.count() > 0; ++progress) {
     if (progress % kRowsTold == 0) expect_removals(page, progress == 0 ? 1 : 1 + kRowsTold);
     const std::string path = page.view1.text(1);
-    if (remove_row(page, pending, path)) queued = true;
+    if (remove_row(page, pending, path)) ++queued;
     page.Text13.set_text("Removing : " + path);
     page.Text13.set_text(path);
     page.view1.remove(1);
@@ -76,20 +74,24 @@ bool remove_all_rows(JunkPage& page, PendingQueue& pending) {
   return queued;
 }
 
-// The queue is written only after the user has closed the box.
-void promise_restart(const JunkPage& page, PendingQueue& pending) {
+// The queue is written only after the user has closed the box, which promises it in any case.
+void promise_restart(JunkPage& page, CleaningState& state) {
   if (!page.session.cleaning_ended()) {
     page.platform().dialogs.message_box(kQueuedMessage, std::string(kProgramName),
                                         kBoxIconInformation);
   }
-  pending.savepending();
+  const RegistryWrite written = state.pending.savepending();
+  state.last_cleaning.queue_written = written;
+  state.last_cleaning.queue_problem = written.problem();
+  if (!written) {
+    page.session.tell_problem("queue of the next restart", "not written: " + written.problem());
+  }
 }
 
 // What follows when every row was handled.
 void finish_cleaning(JunkPage& page) {
   deleteiecach(page);
-  // The totals of the scan, whatever was really removed.
-  add_to_statistics(page.platform().registry, page.txtfilecont.text(), page.txtfilesize.text());
+  count_in_statistics(page);
   page.txtfilecont.set_text("0");
   page.txtfilesize.set_text("0");
   page.build_tree();
@@ -104,24 +106,31 @@ bool confirm_cleaning(const JunkPage& page) {
                                              kBoxYesNo | kBoxIconInformation) == Answer::kYes;
 }
 
-void run_cleaning(JunkPage& page, PendingQueue& pending) {
-  if (page.view1.count() < 1 || page.session.cleaning_ended()) return;
+void run_cleaning(JunkPage& page, CleaningState& state) {
+  const Session& session = page.session;
+  state.last_cleaning = {};
+  if (page.view1.count() < 1 || session.cleaning_ended()) return;
   page.Gif89a2.show();
-  pending.loadpending();
+  state.pending.loadpending();
   page.Label11.set_caption("Removing selected files please wait..");
-  disablethumbcache(page.platform().registry);
+  state.thumbnails.disablethumbcache();
   page.Text3.show();
   pndtxt(page);
-  const bool queued = remove_all_rows(page, pending);
-  if (queued && page.session.forceclean == 0 && page.session.suitemode == 0) {
-    promise_restart(page, pending);
-  }
+  const int queued = remove_all_rows(page, state.pending);
+  state.last_cleaning.queued = queued;
+  if (queued > 0 && session.forceclean == 0 && session.suitemode == 0) promise_restart(page, state);
   page.bar3.hide();
-  enablethumbcache(page.platform().registry);
+  state.thumbnails.enablethumbcache();
   page.Text3.hide();
-  if (!page.session.cleaning_ended()) finish_cleaning(page);
+  if (!session.cleaning_ended()) finish_cleaning(page);
   page.Gif89a2.hide();
-  if (page.session.forceclean == 1) page.session.end();
+  if (session.forceclean == 1) page.session.end();
+}
+
+void count_in_statistics(const JunkPage& page) {
+  const RegistryWrite counted =
+      add_to_statistics(page.platform().registry, page.txtfilecont.text(), page.txtfilesize.text());
+  if (!counted) page.session.tell_problem("statistics", "not counted: " + counted.problem());
 }
 
 }  // namespace quillvane

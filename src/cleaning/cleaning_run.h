@@ -2,10 +2,22 @@
 // for the next restart.
 #pragma once
 
+#include "cleaning/pending_queue.h"
+#include "cleaning/restart_queue_result.h"
+#include "cleaning/thumbnail_policy.h"
+
 namespace quillvane {
 
 class JunkPage;
-class PendingQueue;
+
+// What a cleaning keeps from one run to the next.
+struct CleaningState {
+  explicit CleaningState(const Platform& platform) : pending(platform), thumbnails(platform) {}
+
+  PendingQueue pending;              // mirror of the queue of the next restart
+  ThumbnailPolicy thumbnails;        // off while files are removed
+  RestartQueueResult last_cleaning;  // of the last run behind orvbutton2
+};
 
 // The title of the question before a run, by which a view that answers in advance knows it.
 inline constexpr const char* kRemoveFilesTitle = "Please Confirm";
@@ -13,8 +25,10 @@ inline constexpr const char* kRemoveFilesTitle = "Please Confirm";
 // Asks whether the files shall go. Nobody is asked in a run of the suite that cleans.
 [[nodiscard]] bool confirm_cleaning(const JunkPage& page);
 
-// Removes every row of view1. `pending` is the mirror of the queue, which goes on from the run
-// before.
-void run_cleaning(JunkPage& page, PendingQueue& pending);
+// Removes every row of view1.
+void run_cleaning(JunkPage& page, CleaningState& state);
+
+// Adds the totals of the scan to the statistics, whatever was really removed.
+void count_in_statistics(const JunkPage& page);
 
 }  // namespace quillvane

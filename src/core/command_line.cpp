@@ -55,7 +55,9 @@ void Form7::initialize(std::string_view command_line) {
       return;
     }
     apply_run_switch(session, halves[0], part(halves, 1));
-    session.known_second_half = halves.size() == 1 || session.cleanmode != 0;
+    if (session.silentmode == 1) {
+      session.known_second_half = halves.size() == 1 || session.cleanmode != 0;
+    }
   }
   if (session.cmdline == "g") {
     session.silentmode = 2;

@@ -2,14 +2,14 @@
 // frames and the commands put together.
 #pragma once
 
-#include "cleaning/pending_queue.h"
+#include "cleaning/cleaning_run.h"
 #include "core/junk_commands.h"
 #include "scan/junk_page.h"
 #include "scan/page_frames.h"
 
 namespace quillvane {
 
-class JunkScan : public JunkPage, public PageFrames, public JunkCommands {
+class JunkScan : public JunkPage, public PageFrames, public JunkCommands, public CleaningState {
  public:
   JunkScan(Window& window, Session& session);
 
@@ -38,8 +38,6 @@ class JunkScan : public JunkPage, public PageFrames, public JunkCommands {
   void scan_node_again(int node);
   void delete_rows(int node);
   void delete_row(int node, const std::string& path);
-
-  PendingQueue pending_{session.platform};  // mirror of the queue of the next restart
 };
 
 }  // namespace quillvane

@@ -24,9 +24,10 @@ JunkScan::JunkScan(Window& owner, Session& shared)
     : Page(owner, shared),
       JunkPage(owner, shared),
       PageFrames(owner, shared),
-      JunkCommands(owner, shared, *this) {
+      JunkCommands(owner, shared, *this),
+      CleaningState(shared.platform) {
   scan_all = [this] { autosearch(); };
-  clean_all = [this] { run_cleaning(*this, pending_); };
+  clean_all = [this] { run_cleaning(*this, *this); };
   rescan_node = [this] { scan_clicked_node(); };
   clean_node = [this] { clean_clicked_node(); };
 }
@@ -37,6 +38,8 @@ void JunkScan::autosearch() {
   txtfilecont.set_text("0");
   txtfilesize.set_text("0");
   cancelflag = 0;
+  totals.listedfiles = 0;
+  totals.listedsize = 0;
   Text13.show();
   Shape1.set_back_color(Shape2.back_color());
   Toolbar1.refresh();

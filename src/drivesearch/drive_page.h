@@ -1,6 +1,8 @@
 // The page of the drives: which of them are searched, and the memory of the ticks.
 #pragma once
 
+#include <string>
+
 #include "forms/buttons.h"
 #include "forms/field.h"
 #include "forms/list_box.h"
@@ -29,6 +31,8 @@ class DrivePage : public virtual Page {
 
  private:
   void drive_ticked();
+
+  std::string drives_problem_;  // why the stored drives could not be read
 };
 
 }  // namespace quillvane

@@ -18,6 +18,11 @@ struct ScanTotals {
   Field<double> custsize{window, "custsize"};      // bytes of the custom group
   Field<double> totalfiles{window, "totalfiles"};  // files of the whole scan
   Field<double> totalsize{window, "totalsize"};    // bytes of the whole scan
+
+  // Every row that the walker has added since the whole scan began: what a look at a scan in the
+  // middle is told, where the others stand between two sums.
+  double listedfiles = 0;
+  double listedsize = 0;
 };
 
 // Count and bytes that one node of the tree put into the totals.

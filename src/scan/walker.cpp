@@ -1,6 +1,7 @@
 // The walker: which files of a folder tree become rows of the hit list.
 #include "scan/hit_rows.h"
 #include "scan/junk_page.h"
+#include "scan/reading_watch.h"
 #include "scan/walk.h"
 #include "support/text.h"
 
@@ -10,8 +11,10 @@ Walk::Walk(JunkPage& page, int category, Keep keep)
     : page_(page), category_(category), keep_(keep), tests_(page.pending_filter, page.ignorelist) {}
 
 void Walk::run(const std::string& path, const std::string& pattern) {
-  Search search(page_.platform().files, page_.session.trail);
+  ReadingWatch watch(page_.session);
+  Search search(page_.platform().files, page_.session.trail, &watch);
   search.SearchFiles(path, pattern, true);
+  watch.settle(path, search.tree().get());
   judge(search.Files());
 }
 
@@ -42,17 +45,20 @@ bool Walk::judge_folder(const FolderRun& run) {
     const std::optional<double> size = FileSizeToDouble(file.size_high, file.size_low);
     // The folder of a file whose size overflowed was never set: it is in no list.
     const bool ignored = size && tests_.ignored();
-    if (ignored || !passes(file.name, size.value_or(0))) continue;
+    if (ignored || !passes(file.name, size)) continue;
     page_.totals.catfiles += 1;
     page_.totals.catsize += size.value_or(0);
+    page_.totals.listedfiles += 1;
+    page_.totals.listedsize += size.value_or(0);
     add_row(run.begin + i);
   }
   return true;
 }
 
-bool Walk::passes(std::string_view name, double size) {
+bool Walk::passes(std::string_view name, std::optional<double> size) {
   if (keep_ == Keep::kEmptyFiles) {
-    if (Trim(name).empty() || size != 0) return false;
+    // A size that overflowed was never set, but the file is anything but empty.
+    if (Trim(name).empty() || size != 0.0) return false;
   } else if (tests_.desktop_ini() || holds_desktop_ini(name)) {
     return false;
   }

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -37,6 +39,16 @@ class Session {
   void end_cleaning() { cleaning_ended_ = true; }
   [[nodiscard]] bool cleaning_ended() const { return cleaning_ended_ || ended_; }
 
+  // Tells what a user should know of a scan, "WHAT: WHY", though no window shows it; each text
+  // once. The windows pass it over.
+  void warn(const std::string& what_and_why);
+  std::function<void(const std::string& what_and_why)> on_warning;
+
+  // Tells of something that the program could not do and that nobody is asked about: `what`, and
+  // why. To on_problem where a view has set it, otherwise to the system's log.
+  void tell_problem(std::string_view what, std::string_view why);
+  std::function<void(std::string_view what, std::string_view why)> on_problem;
+
   // Lets the message loop run once.
   void do_events() {
     if (!ended_) platform.loop.do_events();
@@ -65,6 +77,7 @@ class Session {
   int page_value = 0;    // page that the suite's windows go by; 7 for the about window
 
  private:
+  std::set<std::string> warnings_;  // told already
   bool ended_ = false;
   bool stopped_ = false;
   bool cleaning_ended_ = false;

@@ -86,7 +86,7 @@ TEST(OwnSettings, TheSuitesColourIsOfOneHalf) {
 TEST(OwnSettings, TheOptionOfTheTemporaryFolderIsOfOneHalf) {
   HalvedRegistry machine;
   machine.put(kProgramKey + "option\\systemp", "access", "narrow", "wide");
-  EXPECT_EQ(machine.start().systempaccess, "narrow");
+  EXPECT_EQ(machine.start().systempaccess.value(), "narrow");
 }
 
 }  // namespace

@@ -72,7 +72,7 @@ TEST(SuiteRun, AResultFileThatCannotBeWrittenLeavesTheListBesideIt) {
 TEST(SuiteCommand, AnUnknownSecondHalfBelongsToARunSwitchAlone) {
   JunkEverywhere fixture;
   Form7& form = fixture.start("other-x");
-  EXPECT_TRUE(form.known_second_half);
+  EXPECT_TRUE(form.session.known_second_half);
   form.Text9.set_text("1");  // runs as a first half alone does
   EXPECT_FALSE(fixture.machine.has_file(fixture.junk[0]));
 }

@@ -13,8 +13,6 @@
 #include <iterator>
 #include <memory>
 
-#include "platform/folder/posix/directory_listing.h"
-
 namespace quillvane {
 
 namespace {
@@ -46,15 +44,6 @@ void push_names(std::string_view path, std::vector<std::string>& still_to_go) {
     if (begin < path.size()) still_to_go.emplace_back(path.substr(begin));
     path = path.substr(0, begin == 0 ? 0 : slash);
   }
-}
-
-std::string joined(std::span<const std::string> names) {
-  std::string path;
-  for (const std::string& name : names) {
-    if (!path.empty()) path += '/';
-    path += name;
-  }
-  return path;
 }
 
 std::string without_links(const std::string& host_folder) {
@@ -110,7 +99,7 @@ class DriveFolder::Way {
 
   bool down(const std::string& name) {
     if (!is_folder(here_.status)) return leads_nowhere();
-    auto stored = stored_name(here_.object.number(), name);
+    auto stored = stored_name(here_.object.number(), name, *drive_.names_);
     if (!stored) return false;
     HostEntry entry{std::move(here_), std::move(*stored)};
     auto next = open_entry(entry);
@@ -140,10 +129,11 @@ class DriveFolder::Way {
   int links_ = 0;
 };
 
-DriveFolder::DriveFolder(const std::string& host_folder)
+DriveFolder::DriveFolder(const std::string& host_folder, std::shared_ptr<NameIndex> names)
     : host_folder_(host_folder),
       folder_(open(host_folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)),
-      error_(folder_.is_open() ? 0 : errno) {}
+      error_(folder_.is_open() ? 0 : errno),
+      names_(std::move(names)) {}
 
 std::optional<HostPlace> DriveFolder::root() const {
   if (!folder_.is_open()) {
@@ -171,8 +161,8 @@ std::optional<HostPlace> DriveFolder::find_stored(const std::string& path) const
   return place;
 }
 
-std::optional<HostPlace> DriveFolder::find_as_spelt(std::span<const std::string> names) const {
-  const std::string path = joined(names);
+std::optional<HostPlace> DriveFolder::find_as_stored(const std::string& path) const {
+  if (path.empty()) return root();
   HostPlace place{path, open_at_once(folder_.number(), path), {}};
   if (!place.object.is_open() || !read_status(place.object.number(), place.status) ||
       is_link(place.status)) {
@@ -183,7 +173,8 @@ std::optional<HostPlace> DriveFolder::find_as_spelt(std::span<const std::string>
 
 std::optional<HostPlace> DriveFolder::find(std::span<const std::string> names) const {
   if (names.empty()) return root();
-  if (auto place = find_as_spelt(names)) return place;
+  // Most paths are spelt as stored.
+  if (auto place = find_as_stored(joined_names(names))) return place;
   // What is missing or spelt otherwise mostly is so in its last name only.
   auto folder = find(names.first(names.size() - 1));
   if (!folder) return std::nullopt;
@@ -195,7 +186,7 @@ std::optional<HostEntry> DriveFolder::find_entry(std::span<const std::string> na
   auto folder = find(names.first(names.size() - 1));
   if (!folder) return std::nullopt;
   if (!is_folder(folder->status)) return missing();
-  auto name = stored_name(folder->object.number(), names.back());
+  auto name = stored_name(folder->object.number(), names.back(), *names_);
   if (!name) return std::nullopt;
   return HostEntry{std::move(*folder), std::move(*name)};
 }
@@ -214,6 +205,15 @@ std::optional<HostPlace> DriveFolder::follow(const std::string& path,
   auto start = find_stored(path);
   if (!start) return std::nullopt;
   return Way(*this, std::move(*start)).go({name});
+}
+
+std::string joined_names(std::span<const std::string> names) {
+  std::string path;
+  for (const std::string& name : names) {
+    if (!path.empty()) path += '/';
+    path += name;
+  }
+  return path;
 }
 
 std::optional<HostPlace> open_entry(const HostEntry& entry) {

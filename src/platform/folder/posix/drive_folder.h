@@ -7,6 +7,7 @@
 // Where nothing is found errno has the reason: one that means_missing, or why it cannot be told.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -15,6 +16,7 @@
 
 #include "platform/folder/posix/descriptor.h"
 #include "platform/folder/posix/host_status.h"
+#include "platform/folder/posix/name_index.h"
 
 namespace quillvane {
 
@@ -33,8 +35,10 @@ struct HostEntry {
 
 class DriveFolder {
  public:
-  // A folder that cannot be opened is a drive on which nothing is found.
-  explicit DriveFolder(const std::string& host_folder);
+  // A folder that cannot be opened is a drive on which nothing is found. Drives may share the index
+  // by which names of another case are found; without one it has its own.
+  explicit DriveFolder(const std::string& host_folder,
+                       std::shared_ptr<NameIndex> names = std::make_shared<NameIndex>());
 
   // Goes down the names without regard to case and follows links, the last one too.
   [[nodiscard]] std::optional<HostPlace> find(std::span<const std::string> names) const;
@@ -44,6 +48,10 @@ class DriveFolder {
 
   // The entry by which a place is stored. Nothing for the drive itself.
   [[nodiscard]] std::optional<HostEntry> entry_of(const HostPlace& place) const;
+
+  // What lies at a path spelt as HostPlace::path has it, no link and reached through none, in one
+  // step; "" is the drive. Nothing also means: look closer.
+  [[nodiscard]] std::optional<HostPlace> find_as_stored(const std::string& path) const;
 
   // Where the stored name `name` of the folder at `path` leads, a path as HostPlace has it.
   [[nodiscard]] std::optional<HostPlace> follow(const std::string& path,
@@ -55,13 +63,15 @@ class DriveFolder {
   [[nodiscard]] std::optional<HostPlace> root() const;
   // Goes straight down stored names, none of them a link.
   [[nodiscard]] std::optional<HostPlace> find_stored(const std::string& path) const;
-  // The same in one step; most paths are spelt as stored. Nothing also means: look closer.
-  [[nodiscard]] std::optional<HostPlace> find_as_spelt(std::span<const std::string> names) const;
 
   std::string host_folder_;
   Descriptor folder_;
   int error_;  // why it is not open
+  std::shared_ptr<NameIndex> names_;
 };
+
+// The names as a path below the drive.
+[[nodiscard]] std::string joined_names(std::span<const std::string> names);
 
 // What bears the name: a link itself and not where it leads. Nothing when it is gone.
 [[nodiscard]] std::optional<HostPlace> open_entry(const HostEntry& entry);

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <compare>
 #include <cstdint>
 #include <optional>
 
@@ -64,7 +65,7 @@ struct HostIdentity {
   static HostIdentity of(const HostStatus& status) {
     return {status.stx_dev_major, status.stx_dev_minor, status.stx_ino};
   }
-  friend bool operator==(const HostIdentity&, const HostIdentity&) = default;
+  friend auto operator<=>(const HostIdentity&, const HostIdentity&) = default;
 };
 
 [[nodiscard]] inline FileTime file_time(const statx_timestamp& time) {

@@ -273,7 +273,6 @@ class Form7 final : public Window {
   [[nodiscard]] bool remove_all_rows();
   void promise_restart();
   void finish_cleaning();  // what follows when every row was handled
-  void expect_removals(int first_row);
 
   // window_commands.cpp
   [[nodiscard]] int row_in_hand() const;

@@ -16,6 +16,9 @@ class FolderConsoleMachine final : public ConsoleMachine {
   [[nodiscard]] VirtualLoop& loop() override { return machine_->loop(); }
   [[nodiscard]] QueuedDialogs& dialogs() override { return dialogs_; }
   [[nodiscard]] EffectLog& effects() override { return machine_->effects(); }
+  [[nodiscard]] std::unique_ptr<Registry> another_registry() override {
+    return machine_->another_registry();
+  }
 
   [[nodiscard]] Problem set_environment(const std::string& name, const std::string& value) override;
   [[nodiscard]] Problem add_process(std::uint32_t id, const std::string& name) override;

@@ -129,8 +129,9 @@ TEST_F(MachineFolderHost, CreatesOnlyInAnEmptyFolder) {
 }
 
 TEST_F(MachineFolderHost, DescribesDrivesEnvironmentAndProcesses) {
+  folder_.make_folder("m/disk");
   folder_.write("m/machine.json", R"({"drives": [{"letter": "D", "type": "removable",
-      "folder": "/mnt", "total": 2048, "free": 1024}, {"letter": "E", "type": "cdrom"}],
+      "folder": "disk", "total": 2048, "free": 1024}, {"letter": "E", "type": "cdrom"}],
       "environment": {"windir": "D:\\Win"}, "processes": [{"id": 4, "name": "System"}]})");
 
   const auto described = host_->describe(folder_.path_of("m"));
@@ -140,7 +141,7 @@ TEST_F(MachineFolderHost, DescribesDrivesEnvironmentAndProcesses) {
   ASSERT_EQ(machine.drives.size(), 2U);
   EXPECT_EQ(machine.drives[0].letter, "D");
   EXPECT_EQ(machine.drives[0].type, "removable");
-  EXPECT_EQ(machine.drives[0].folder, "/mnt");
+  EXPECT_EQ(machine.drives[0].folder, folder_.path_of("m/disk"));
   EXPECT_EQ(machine.drives[0].total_bytes, 2048U);
   EXPECT_EQ(machine.drives[0].free_bytes, 1024U);
   EXPECT_EQ(machine.drives[1].type, "cdrom");
@@ -154,8 +155,8 @@ TEST_F(MachineFolderHost, DescribesDrivesEnvironmentAndProcesses) {
 }
 
 TEST_F(MachineFolderHost, TheRegistryGoesOutAndIntoAnotherMachine) {
-  folder_.make_folder("from");
-  folder_.make_folder("to");
+  folder_.make_folder("from/drive_c");
+  folder_.make_folder("to/drive_c");
   const std::string text =
       "Windows Registry Editor Version 5.00\r\n\r\n"
       "[HKEY_CURRENT_USER\\Software\\Test]\r\n\"name\"=\"a text\"\r\n";
@@ -173,7 +174,7 @@ TEST_F(MachineFolderHost, TheRegistryGoesOutAndIntoAnotherMachine) {
 }
 
 TEST_F(MachineFolderHost, AFileThatIsNoRegistryChangesNothing) {
-  folder_.make_folder("m");
+  folder_.make_folder("m/drive_c");
   const auto problem = host_->import_registry(folder_.path_of("m"), "nonsense");
   ASSERT_TRUE(problem);
   EXPECT_TRUE(problem->text.starts_with("line 1: ")) << problem->text;

@@ -1,13 +1,17 @@
 // Without another machine named, the console on Windows works on this PC.
 
 #include <cstdlib>
+#include <memory>
+#include <optional>
 #include <string>
 
 #include "app/folder_host.h"
 #include "app/make_machine_host.h"
+#include "platform/unicode_case.h"
 #include "platform/win32/win32_environment.h"
 #include "platform/win32/win32_loop.h"
 #include "platform/win32/win32_machine.h"
+#include "platform/win32/win32_registry.h"
 
 namespace quillvane {
 
@@ -21,6 +25,9 @@ class Win32ConsoleMachine final : public ConsoleMachine {
   [[nodiscard]] VirtualLoop& loop() override { return loop_; }
   [[nodiscard]] QueuedDialogs& dialogs() override { return dialogs_; }
   [[nodiscard]] EffectLog& effects() override { return effects_; }
+  [[nodiscard]] std::unique_ptr<Registry> another_registry() override {
+    return std::make_unique<Win32Registry>();
+  }
 
   [[nodiscard]] Problem set_environment(const std::string& name,
                                         const std::string& value) override {
@@ -51,13 +58,22 @@ class Win32ConsoleMachine final : public ConsoleMachine {
   VirtualLoop loop_;
 };
 
+std::optional<std::string> host_variable(const std::string& name) {
+  for (const auto& [other, value] : Win32Environment().all()) {
+    if (same_name(other, name)) return value;
+  }
+  return std::nullopt;
+}
+
 class Win32Host final : public FolderHost {
  public:
   [[nodiscard]] std::variant<std::unique_ptr<ConsoleMachine>, HostProblem> open(
       const std::optional<std::string>& dir, std::ostream& /*notices*/) override {
     if (dir) return open_folder(*dir);
-    const std::string named = Win32Environment().get("QUILLVANE_MACHINE");
-    if (!named.empty()) return open_folder(named);
+    // A script's empty variable is no wish for the real PC.
+    const auto named = host_variable("QUILLVANE_MACHINE");
+    if (named && named->empty()) return HostProblem{"QUILLVANE_MACHINE: is set and empty"};
+    if (named) return open_folder(*named);
     return std::make_unique<Win32ConsoleMachine>();
   }
 };

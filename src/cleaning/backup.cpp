@@ -33,7 +33,7 @@ void write_history(Registry& registry, const std::string& stamp) {
     static_cast<void>(  // a history that cannot be written is lost
         WriteRegistryString(registry, Hive::kLocalMachine, sub_key, name, text));
   };
-  const double before = Val(ReadRegistryString(registry, Hive::kLocalMachine, key, "cnt").text);
+  const double before = Val(ReadRegistryString32(registry, Hive::kLocalMachine, key, "cnt").text);
   const std::string count = number_text(before + 1);
   write(key, "cnt", count);
   write(key + "\\dates", count, stamp);

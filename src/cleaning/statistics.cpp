@@ -13,7 +13,7 @@ namespace {
 constexpr const char* kKey = "software\\Quillvane\\Tidewrack Deluxe\\statics\\junkfiles";
 
 void add(Registry& registry, const std::string& name, std::string_view number) {
-  const double before = Val(ReadRegistryString(registry, Hive::kLocalMachine, kKey, name).text);
+  const double before = Val(ReadRegistryString32(registry, Hive::kLocalMachine, kKey, name).text);
   // A sum that cannot be written is lost.
   static_cast<void>(WriteRegistryString(registry, Hive::kLocalMachine, kKey, name,
                                         number_text(before + Val(number))));

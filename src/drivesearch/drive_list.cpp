@@ -70,7 +70,7 @@ void Form7::fill_drive_list() {
 
 void Form7::restore_ticked_drives() {
   const auto read = [&](const std::string& name) {
-    return ReadRegistryString(platform().registry, Hive::kLocalMachine, kTimerKey, name).text;
+    return ReadRegistryString32(platform().registry, Hive::kLocalMachine, kTimerKey, name).text;
   };
   const double stored = Val(read("alldrive"));
   if (stored >= 1) anydrivechecked = 1;

@@ -51,7 +51,6 @@ struct NamedRegistryValue {
 enum class KeyAccess : std::uint32_t {
   kQueryValues = 0x1,
   kRead = 0x20019,
-  kRead64 = 0x20119,
   kAll64 = 0x13F,             // all but changing the rights themselves
   kSettings = 0x2003F,        // the program's own settings
   kSystemSettings = 0x2013F,  // settings of the system

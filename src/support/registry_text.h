@@ -21,7 +21,8 @@ struct RegistryText {
 [[nodiscard]] RegistryText ReadRegistryString(const Registry& registry, Hive hive,
                                               const std::string& key, const std::string& name);
 
-// The same of the half that a program of this width sees.
+// The same of the half that a program of this width sees, which WriteRegistryString writes to: for
+// the program's own settings.
 [[nodiscard]] RegistryText ReadRegistryString32(const Registry& registry, Hive hive,
                                                 const std::string& key, const std::string& name);
 

@@ -15,7 +15,7 @@ constexpr const char* kSuiteKey = "SOFTWARE\\Quillvane\\Tidewrack";
 
 std::uint32_t suite_color(const Platform& platform) {
   const auto value =
-      platform.registry.value(Hive::kLocalMachine, kSuiteKey, "color", KeyAccess::kRead64);
+      platform.registry.value(Hive::kLocalMachine, kSuiteKey, "color", KeyAccess::kRead);
   if (!value) return kSuiteColor;
   if (value->type != RegistryType::kSz && value->type != RegistryType::kExpandSz) {
     return kSuiteColor;

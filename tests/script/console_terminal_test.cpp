@@ -17,14 +17,15 @@ const std::string kQuestion =
     "Google chrome is running. would you like to close it? otherwise tracks can't be cleaned. "
     "[y/N] ";
 
+constexpr const char* kCached =
+    "machine/drive_c/Users/User/AppData/Local/Google/Chrome/User Data/Default/Cache/a";
+
 // A machine on which Chrome runs and has one file.
 class ConsoleTerminal : public testing::Test {
  protected:
   ConsoleTerminal() {
     folder_.write("machine/machine.json", R"({"processes": [{"id": 7, "name": "chrome.exe"}]})");
-    folder_.write(
-        "machine/drive_c/Users/User/AppData/Local/Google/Chrome/User Data/Default/Cache/a",
-        "12345");
+    folder_.write(kCached, "12345");
     folder_.write("script.qvs",
                   "setreg HKCU \"Software\\Google\\Chrome\\PreferenceMACs\\Default\"\n");
     EXPECT_EQ(run({"script", folder_.path_of("script.qvs")}, ""), 0) << shown;
@@ -46,6 +47,7 @@ class ConsoleTerminal : public testing::Test {
   }
 
   TempFolder folder_;
+  std::string question = kQuestion;  // at which is typed
   std::string shown;
 
  private:
@@ -66,7 +68,7 @@ class ConsoleTerminal : public testing::Test {
       const ssize_t size = read(terminal, buffer.data(), buffer.size());
       if (size <= 0) return;
       shown.append(buffer.data(), static_cast<std::size_t>(size));
-      if (answered || shown.find(kQuestion) == std::string::npos) continue;
+      if (answered || shown.find(question) == std::string::npos) continue;
       answered = true;
       EXPECT_EQ(write(terminal, typed.data(), typed.size()), static_cast<ssize_t>(typed.size()));
     }
@@ -88,6 +90,40 @@ TEST_F(ConsoleTerminal, AnEmptyLineIsANo) {
   EXPECT_NE(shown.find("quillvane: Google Chrome Cache: left out, since the browser is running"),
             std::string::npos)
       << shown;
+}
+
+TEST_F(ConsoleTerminal, CtrlCAtTheQuestionIsANoWhateverIsTypedBehindIt) {
+  folder_.write("machine/machine.json", "{}");  // no browser runs
+  question = "Are You sure you want to delete the selected file(s) [y/N] ";
+  EXPECT_EQ(run({"clean"}, "\x03y\n"), 0);
+  EXPECT_NE(shown.find(question), std::string::npos) << shown;
+  EXPECT_NE(shown.find("Removed: 0, queued for the next restart: 0, failed: 0"), std::string::npos)
+      << shown;
+  EXPECT_TRUE(folder_.has(kCached));
+}
+
+TEST_F(ConsoleTerminal, AYesCleans) {
+  folder_.write("machine/machine.json", "{}");
+  question = "Are You sure you want to delete the selected file(s) [y/N] ";
+  EXPECT_EQ(run({"clean"}, "y\n"), 0);
+  EXPECT_NE(shown.find("Removed: 1, queued for the next restart: 0, failed: 0"), std::string::npos)
+      << shown;
+  EXPECT_FALSE(folder_.has(kCached));
+}
+
+TEST_F(ConsoleTerminal, CtrlCAtAQuestionOfTheScanEndsTheScan) {
+  EXPECT_EQ(run({"clean", "--yes"}, "\x03"), 1);
+  EXPECT_NE(shown.find("quillvane: clean: cancelled, nothing was removed"), std::string::npos)
+      << shown;
+  EXPECT_TRUE(folder_.has(kCached));
+}
+
+TEST_F(ConsoleTerminal, ANameCannotSpeakToTheTerminal) {
+  folder_.write("machine/machine.json", "{}");
+  folder_.write("machine/drive_c/Windows/Temp/a\x1b[2J\xE2\x80\xAE\xFF.tmp");
+  EXPECT_EQ(run({"scan", "--list"}, ""), 0);
+  EXPECT_NE(shown.find("C:\\Windows\\Temp\\a<1B>[2J<U+202E><FF>.tmp"), std::string::npos) << shown;
+  EXPECT_EQ(shown.find("\x1b[2J"), std::string::npos);
 }
 
 TEST_F(ConsoleTerminal, AnOptionAnswersForTheUser) {

@@ -1,6 +1,7 @@
 // A temporary machine folder as the console's machine. Copies share the folder.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "tests/support/temp_machine.h"
@@ -12,10 +13,18 @@ class TempConsoleMachine final : public ConsoleMachine {
  public:
   [[nodiscard]] TempMachine& temp() { return *temp_; }
 
-  [[nodiscard]] Platform platform() override { return temp_->platform(); }
+  // What stands between the program and the machine; nothing without it.
+  std::function<Platform(const Platform& machine)> wrap;
+
+  [[nodiscard]] Platform platform() override {
+    return wrap ? wrap(temp_->platform()) : temp_->platform();
+  }
   [[nodiscard]] VirtualLoop& loop() override { return temp_->loop(); }
   [[nodiscard]] QueuedDialogs& dialogs() override { return temp_->dialogs(); }
   [[nodiscard]] EffectLog& effects() override { return temp_->effects(); }
+  [[nodiscard]] std::unique_ptr<Registry> another_registry() override {
+    return temp_->machine().another_registry();
+  }
 
   [[nodiscard]] Problem set_environment(const std::string& name,
                                         const std::string& value) override {

@@ -35,7 +35,11 @@ void need(bool done, const std::string& what) {
 }  // namespace
 
 TempMachine::TempMachine(std::string_view machine_json) {
-  if (!machine_json.empty()) folder_.write("machine.json", machine_json);
+  if (machine_json.empty()) {
+    folder_.make_folder("drive_c");
+  } else {
+    folder_.write("machine.json", machine_json);
+  }
   auto opened = FolderMachine::open(folder_.path());
   if (const auto* error = std::get_if<std::string>(&opened)) give_up(*error);
   machine_ = std::get<std::unique_ptr<FolderMachine>>(std::move(opened));

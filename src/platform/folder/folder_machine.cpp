@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 
+#include "platform/folder/drive_words.h"
 #include "platform/folder/host_path.h"
 #include "platform/folder/machine_clock.h"
 #include "platform/folder/machine_drives.h"
@@ -27,6 +28,18 @@ void empty_recycle_bins(const MachineState& state, MachineFiles& files) {
   for (const MachineDrive& drive : state.drives) {
     files.remove_contents(std::string(1, drive.letter) + ":\\$Recycle.Bin");
   }
+}
+
+// A folder without any of these is another folder than its user thinks, not a clean machine.
+bool holds_machine(const std::string& dir) {
+  const std::filesystem::path folder = host_path(dir);
+  std::error_code failed;
+  if (std::filesystem::exists(folder / "machine.json", failed) || failed) return true;
+  for (char letter = 'A'; letter <= 'Z'; ++letter) {
+    const auto drive = folder / host_path(default_drive_folder(letter));
+    if (std::filesystem::is_directory(drive, failed)) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -63,6 +76,9 @@ std::variant<std::unique_ptr<FolderMachine>, std::string> FolderMachine::open(
   if (!std::filesystem::is_directory(host_path(dir), failed)) {
     return dir + ": " + (failed ? failed.message() : "is no folder");
   }
+  if (!holds_machine(dir)) {
+    return dir + ": is no machine folder (it has neither machine.json nor a drive_c)";
+  }
   auto state = load_machine_json(dir);
   if (const auto* error = std::get_if<std::string>(&state)) return dir + "/" + *error;
 
@@ -98,6 +114,12 @@ Platform FolderMachine::platform(Dialogs& dialogs) {
           .tray = parts_->tray,
           .loop = loop_,
           .dialogs = dialogs};
+}
+
+std::unique_ptr<Registry> FolderMachine::another_registry() {
+  auto opened = FolderRegistry::open(dir_ + "/registry.db", unseen_effects_);
+  if (std::holds_alternative<std::string>(opened)) return nullptr;
+  return std::get<std::unique_ptr<FolderRegistry>>(std::move(opened));
 }
 
 void FolderMachine::save() const {

@@ -21,9 +21,9 @@ class FolderRegistry;
 
 class FolderMachine {
  public:
-  // Opens the machine of folder `dir`; the text is what could not be read and why. A folder without
-  // machine.json, registry or drives is a machine with all defaults and nothing on it. The clock
-  // shows the host's time in the machine's time zone.
+  // Opens the machine of folder `dir`; the text is what could not be read and why. One of
+  // machine.json and the folder of a drive must be there; all else that is missing is as the
+  // defaults have it. The clock shows the host's time in the machine's time zone.
   [[nodiscard]] static std::variant<std::unique_ptr<FolderMachine>, std::string> open(
       const std::string& dir);
 
@@ -40,6 +40,10 @@ class FolderMachine {
   [[nodiscard]] VirtualLoop& loop() { return loop_; }
   [[nodiscard]] MachineFiles& files() { return *files_; }
   [[nodiscard]] FolderRegistry& registry() { return *registry_; }
+
+  // The registry once more, for a thread beside the one that works on the machine; null when it
+  // cannot be opened. Its effects are not noted. The machine must outlive it.
+  [[nodiscard]] std::unique_ptr<Registry> another_registry();
 
   // What a script sets up. It holds as long as this object; machine.json stays as it is.
   void set_environment(const std::string& name, const std::string& value);
@@ -60,6 +64,7 @@ class FolderMachine {
   std::string dir_;
   MachineState state_;
   EffectLog effects_;
+  EffectLog unseen_effects_;
   VirtualLoop loop_;
   std::unique_ptr<MachineFiles> files_;
   std::unique_ptr<FolderRegistry> registry_;

@@ -20,6 +20,7 @@ namespace {
 class FolderMachineTest : public testing::Test {
  protected:
   FolderMachine& open() {
+    folder_.make_folder("drive_c");
     auto opened = FolderMachine::open(folder_.path());
     if (const auto* problem = std::get_if<std::string>(&opened)) ADD_FAILURE() << *problem;
     machine_ = std::get<std::unique_ptr<FolderMachine>>(std::move(opened));
@@ -36,7 +37,7 @@ class FolderMachineTest : public testing::Test {
   std::unique_ptr<FolderMachine> machine_;
 };
 
-TEST_F(FolderMachineTest, AnEmptyFolderIsAMachineOfDefaultsAndStaysEmpty) {
+TEST_F(FolderMachineTest, AFolderOfADriveIsAMachineOfDefaultsAndGetsNothingByItself) {
   FolderMachine& machine = open();
   QueuedDialogs dialogs(machine.effects());
   const Platform platform = machine.platform(dialogs);
@@ -51,7 +52,25 @@ TEST_F(FolderMachineTest, AnEmptyFolderIsAMachineOfDefaultsAndStaysEmpty) {
   EXPECT_EQ(platform.url_cache.find_first(), std::nullopt);
   EXPECT_FALSE(folder_.has("machine.json"));
   EXPECT_FALSE(folder_.has("registry.db"));
-  EXPECT_FALSE(folder_.has("drive_c"));
+}
+
+TEST_F(FolderMachineTest, AFolderWithoutDrivesAndDescriptionIsNoMachine) {
+  const std::string problem =
+      folder_.path() + ": is no machine folder (it has neither machine.json nor a drive_c)";
+  EXPECT_EQ(open_failure(folder_.path()), problem);
+  folder_.make_folder("drive_");
+  folder_.make_folder("drive_cc");
+  folder_.write("drive_d");
+  folder_.write("registry.db");
+  EXPECT_EQ(open_failure(folder_.path()), problem);
+
+  folder_.make_folder("drive_x");
+  EXPECT_EQ(open_failure(folder_.path()), "opened");
+}
+
+TEST_F(FolderMachineTest, ADescriptionAloneIsAMachine) {
+  folder_.write("machine.json", "{}");
+  EXPECT_EQ(open_failure(folder_.path()), "opened");
 }
 
 TEST_F(FolderMachineTest, AllThatIsSetUpIsSeenThroughThePlatform) {
@@ -129,6 +148,7 @@ TEST_F(FolderMachineTest, WhatCannotBeReadIsToldInOneLine) {
   EXPECT_EQ(
       open_failure(folder_.path_of("one")),
       folder_.path_of("one") + "/machine.json: codePage: must be a whole number from 1 to 65535");
+  folder_.make_folder("two/drive_c");
   folder_.write("two/registry.db", "no store, but long enough to look like a damaged one");
   EXPECT_EQ(open_failure(folder_.path_of("two")),
             folder_.path_of("two") + "/registry.db: cannot be read: file is not a database");

@@ -19,6 +19,14 @@ const JsonFields::Json* JsonFields::find(const Json& object, const char* key) {
   return found == object.end() ? nullptr : &*found;
 }
 
+void JsonFields::known_keys(const Json& object, const std::string& prefix,
+                            std::span<const char* const> keys) {
+  for (const auto& field : object.items()) {
+    const auto known = std::find(keys.begin(), keys.end(), field.key());
+    if (known == keys.end()) return fail(prefix + field.key(), "there is no such key");
+  }
+}
+
 void JsonFields::take_text(const Json& value, const std::string& where, std::string& out) {
   if (!value.is_string()) return fail(where, "must be a text");
   const auto& text = value.get_ref<const std::string&>();

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,9 @@ class JsonFields {
 
   // Null when the field is absent.
   [[nodiscard]] static const Json* find(const Json& object, const char* key);
+
+  // Fails at a field of the object that is none of these.
+  void known_keys(const Json& object, const std::string& prefix, std::span<const char* const> keys);
 
   void text(const Json& object, const std::string& prefix, const char* key, std::string& out);
   void needed_text(const Json& object, const std::string& prefix, const char* key,

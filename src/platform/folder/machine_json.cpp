@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <limits>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -13,6 +14,7 @@
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_file.h"
 #include "platform/folder/host_path.h"
+#include "platform/folder/json_document.h"
 #include "platform/folder/json_fields.h"
 #include "platform/folder/machine_environment.h"
 #include "platform/unicode_case.h"
@@ -22,6 +24,15 @@ namespace quillvane {
 namespace {
 
 using Json = nlohmann::json;
+
+// A key that is none of these is a slip that would be passed over in silence: a drive that is not
+// there, a process that does not run.
+constexpr const char* kKeys[] = {"drives",   "environment", "programFolder",   "is64Bit",
+                                 "codePage", "processes",   "inUse",           "denied",
+                                 "urlCache", "windows",     "utcOffsetMinutes"};
+constexpr const char* kDriveKeys[] = {"letter", "type", "folder", "total", "free"};
+constexpr const char* kProcessKeys[] = {"id", "name"};
+constexpr const char* kCacheKeys[] = {"url", "file", "size", "lastAccess"};
 
 // Reads one document into a state.
 class Reader {
@@ -35,6 +46,7 @@ class Reader {
   std::variant<MachineState, std::string> read(const Json& document) {
     if (!document.is_object()) return std::string("machine.json: must be an object");
     MachineState state;
+    fields_.known_keys(document, "", kKeys);
     read_drives(document, state.drives);
     read_environment(document, state.environment);
     fields_.text(document, "", "programFolder", state.program_folder);
@@ -65,6 +77,7 @@ class Reader {
       drives.push_back(std::move(drive));
     }
     fields_.objects(document, "drives", [&](const Json& object, const std::string& prefix) {
+      fields_.known_keys(object, prefix, kDriveKeys);
       MachineDrive drive;
       drive.letter = read_letter(object, prefix);
       const bool taken = std::any_of(drives.begin(), drives.end(), [&](const MachineDrive& other) {
@@ -93,6 +106,7 @@ class Reader {
     if (!type) return fields_.fail(prefix + "type", "must be one of " + drive_type_words());
     drive.type = *type;
 
+    drive.folder_named = JsonFields::find(object, "folder") != nullptr;
     std::string folder = default_drive_folder(drive.letter);
     fields_.text(object, prefix, "folder", folder);
     if (folder.empty()) return fields_.fail(prefix + "folder", "must name a folder");
@@ -106,8 +120,10 @@ class Reader {
     const Json* given = JsonFields::find(document, "environment");
     if (given == nullptr) return;
     if (!given->is_object()) return fields_.fail("environment", "must be an object");
+    std::set<std::string> names;
     for (const auto& [name, value] : given->items()) {
       const std::string where = "environment." + name;
+      if (!names.insert(upper_case(name)).second) return fields_.fail(where, "is there twice");
       if (name.empty() || name.find_first_of(std::string_view("=\0", 2)) != std::string::npos) {
         return fields_.fail(where, "is no name of a variable");
       }
@@ -120,6 +136,7 @@ class Reader {
   void read_processes(const Json& document, std::vector<MachineProcess>& processes) {
     constexpr std::int64_t kGreatest = std::numeric_limits<std::uint32_t>::max();
     fields_.objects(document, "processes", [&](const Json& object, const std::string& prefix) {
+      fields_.known_keys(object, prefix, kProcessKeys);
       if (JsonFields::find(object, "id") == nullptr) fields_.fail(prefix + "id", "is missing");
       MachineProcess& process = processes.emplace_back();
       const auto id = fields_.number(object, prefix, "id", 0, kGreatest);
@@ -130,6 +147,7 @@ class Reader {
 
   void read_url_cache(const Json& document, std::vector<MachineCacheEntry>& entries) {
     fields_.objects(document, "urlCache", [&](const Json& object, const std::string& prefix) {
+      fields_.known_keys(object, prefix, kCacheKeys);
       MachineCacheEntry& entry = entries.emplace_back();
       fields_.needed_text(object, prefix, "url", entry.url);
       fields_.needed_text(object, prefix, "file", entry.file);
@@ -146,35 +164,41 @@ class Reader {
   JsonFields fields_;
 };
 
-// The library's reason without its own number in front, short enough for one line.
-std::string parse_failure(std::string_view what) {
-  constexpr std::size_t kLongest = 160;
-  const std::size_t number = what.find("] ");
-  if (number != std::string_view::npos) what.remove_prefix(number + 2);
-  std::string text = "machine.json: is no JSON: ";
-  text += what.substr(0, kLongest);
-  if (what.size() > kLongest) text += "...";
-  return text;
+// A drive whose folder was named and is not there would pass for an empty one.
+std::optional<std::string> missing_drive_folder(const MachineState& state) {
+  for (std::size_t i = 0; i < state.drives.size(); ++i) {
+    const MachineDrive& drive = state.drives[i];
+    std::error_code failed;
+    if (!drive.folder_named || std::filesystem::is_directory(host_path(drive.folder), failed)) {
+      continue;
+    }
+    return "machine.json: drives[" + std::to_string(i) + "].folder: " + drive.folder + ": " +
+           (failed ? failed.message() : "is no folder");
+  }
+  return std::nullopt;
 }
 
 }  // namespace
 
 std::variant<MachineState, std::string> parse_machine_json(std::string_view text,
                                                            const std::string& dir) {
-  try {
-    return Reader(dir).read(Json::parse(text));
-  } catch (const Json::exception& problem) {
-    return parse_failure(problem.what());
-  }
+  const auto document = read_json(text);
+  if (const auto* problem = std::get_if<std::string>(&document)) return "machine.json: " + *problem;
+  return Reader(dir).read(std::get<Json>(document));
 }
 
 std::variant<MachineState, std::string> load_machine_json(const std::string& dir) {
-  const auto file = read_host_file(dir + "/machine.json");
+  const auto file = read_host_file(dir + "/machine.json", kMostMachineJson);
   if (const auto* error = std::get_if<std::error_code>(&file)) {
     if (*error == std::errc::no_such_file_or_directory) return parse_machine_json("{}", dir);
+    if (*error == std::errc::no_such_device) return "machine.json: cannot be read: is no file";
     return "machine.json: cannot be read: " + error->message();
   }
-  return parse_machine_json(std::get<std::string>(file), dir);
+  auto state = parse_machine_json(std::get<std::string>(file), dir);
+  if (const auto* parsed = std::get_if<MachineState>(&state)) {
+    if (auto problem = missing_drive_folder(*parsed)) return *std::move(problem);
+  }
+  return state;
 }
 
 }  // namespace quillvane

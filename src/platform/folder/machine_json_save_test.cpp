@@ -58,22 +58,19 @@ TEST_F(MachineJsonSave, DefaultsAloneMakeNoFile) {
   EXPECT_FALSE(folder_.has("machine.json"));
 }
 
-TEST_F(MachineJsonSave, OnlyWhatChangedIsWrittenAndUnknownKeysStay) {
+TEST_F(MachineJsonSave, OnlyWhatChangedIsWrittenAndTheRestStaysInItsOrder) {
   folder_.write("machine.json",
-                R"({"note": [1, {"b": null, "a": 2}],
+                R"({"environment": {"b": "1", "a": "2"},
                     "processes": [{"id": 7, "name": "a.exe"}, {"id": 9, "name": "b.exe"}],
                     "windows": ["Tidewrack"]})");
   MachineState state = load();
   state.processes.erase(state.processes.begin());
   EXPECT_EQ(save_machine_json(folder_.path(), state), std::nullopt);
   EXPECT_EQ(folder_.read("machine.json"), R"({
-  "note": [
-    1,
-    {
-      "b": null,
-      "a": 2
-    }
-  ],
+  "environment": {
+    "b": "1",
+    "a": "2"
+  },
   "processes": [
     {
       "id": 9,
@@ -89,6 +86,7 @@ TEST_F(MachineJsonSave, OnlyWhatChangedIsWrittenAndUnknownKeysStay) {
 
 TEST_F(MachineJsonSave, EverythingReadsBackAsItWasSaved) {
   MachineState state = load();
+  folder_.make_folder("share");
   state.drives.push_back({'D', DriveType::kRemovable, folder_.path_of("drive_d"), 5000, 40});
   state.drives.push_back(
       {'E', DriveType::kRemote, folder_.path_of("share"), std::nullopt, std::nullopt});

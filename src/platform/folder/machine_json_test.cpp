@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "platform/folder/host_path.h"
+#include "tests/support/temp_folder.h"
 
 namespace quillvane {
 namespace {
@@ -147,16 +148,11 @@ TEST(MachineJson, AnEmptyListOfDrivesIsAMachineWithoutDrives) {
 }
 
 TEST(MachineJson, GivenVariablesAreAddedToTheDefaultsWithoutRegardToCase) {
-  const MachineState state =
-      parsed(R"({"environment": {"temp": "D:\\T", "Kürzel": "ä", "KÜRZEL": "ö"}})");
+  const MachineState state = parsed(R"({"environment": {"temp": "D:\\T", "Kürzel": "ä"}})");
   EXPECT_EQ(variable(state, "TEMP"), "D:\\T");
   EXPECT_EQ(variable(state, "temp"), "(none)");
   EXPECT_EQ(variable(state, "TMP"), "C:\\Users\\User\\AppData\\Local\\Temp");
   EXPECT_EQ(state.environment.size(), 16U);
-}
-
-TEST(MachineJson, UnknownKeysAreLeftAlone) {
-  EXPECT_EQ(parsed(R"({"comment": {"by": ["me"]}, "codePage": 1251})").code_page, 1251);
 }
 
 struct Refused {
@@ -179,6 +175,11 @@ constexpr Refused kRefused[] = {
      "machine.json: drives[0].letter: must be a letter from A to Z"},
     {R"({"drives": [{"letter": "C"}, {"letter": "c"}]})",
      "machine.json: drives[1].letter: C is there twice"},
+    {R"({"codePage": 1252, "codePage": 1251})", "machine.json: codePage: is there twice"},
+    {R"({"environment": {"PATH": "a", "Path": "b"}})",
+     "machine.json: environment.Path: is there twice"},
+    {R"({"environment": {"KÜRZEL": "a", "Kürzel": "b"}})",
+     "machine.json: environment.Kürzel: is there twice"},
     {R"({"drives": [{"letter": "C"}, {"letter": "D", "type": "floppy"}]})",
      "machine.json: drives[1].type: must be one of fixed, removable, remote, cdrom, ramdisk"},
     {R"({"drives": [{"letter": "C", "folder": ""}]})",
@@ -224,6 +225,16 @@ constexpr Refused kRefused[] = {
      "machine.json: utcOffsetMinutes: must be a whole number from -1440 to 1440"},
     {R"({"utcOffsetMinutes": -1441})",
      "machine.json: utcOffsetMinutes: must be a whole number from -1440 to 1440"},
+    {R"({"comment": {"by": ["me"]}, "codePage": 1251})",
+     "machine.json: comment: there is no such key"},
+    {R"({"Drives": []})", "machine.json: Drives: there is no such key"},
+    {R"({"in\nuse": []})", "machine.json: in?use: there is no such key"},
+    {R"({"drives": [{"letter": "C", "foldr": "disk"}]})",
+     "machine.json: drives[0].foldr: there is no such key"},
+    {R"({"processes": [{"id": 1, "nome": "a.exe"}]})",
+     "machine.json: processes[0].nome: there is no such key"},
+    {R"({"urlCache": [{"url": "u", "file": "f", "Size": 1}]})",
+     "machine.json: urlCache[0].Size: there is no such key"},
     // Of several mistakes the first one is told.
     {R"({"denied": 1, "drives": 2})", "machine.json: drives: must be a list"},
 };
@@ -252,10 +263,42 @@ TEST(MachineJson, ALongMistakeStaysAShortLine) {
 
 TEST(MachineJson, DeepNestingIsNoDanger) {
   const std::string open(100'000, '[');
-  EXPECT_NE(refusal(open), "accepted");
-  const std::string deep = R"({"other": )" + std::string(50'000, '[') + std::string(50'000, ']') +
+  EXPECT_EQ(refusal(open), "machine.json: is nested too deeply");
+  const std::string deep = R"({"other": )" + std::string(20'000, '[') + std::string(20'000, ']') +
                            R"(, "codePage": 1251})";
-  EXPECT_EQ(parsed(deep).code_page, 1251);
+  EXPECT_EQ(refusal(deep), "machine.json: is nested too deeply");
+}
+
+TEST(MachineJson, APipeOrADeviceIsNoDescription) {
+  const TempFolder folder;
+  folder.make_link("machine.json", "/dev/zero");
+  const auto result = load_machine_json(folder.path());
+  const auto* error = std::get_if<std::string>(&result);
+  ASSERT_NE(error, nullptr);
+  EXPECT_EQ(*error, "machine.json: cannot be read: is no file");
+}
+
+TEST(MachineJson, ADriveWhoseNamedFolderIsNotThereIsAMistake) {
+  TempFolder folder;
+  const auto refusal_of = [&folder](const char* drives) {
+    folder.write("machine.json", drives);
+    const auto loaded = load_machine_json(folder.path());
+    const auto* error = std::get_if<std::string>(&loaded);
+    return error == nullptr ? "accepted" : *error;
+  };
+  folder.write("file");
+  folder.make_folder("disk");
+  // A drive without a medium has no folder and names none.
+  EXPECT_EQ(refusal_of(R"({"drives": [{"letter": "C"}, {"letter": "E", "type": "cdrom"}]})"),
+            "accepted");
+  EXPECT_EQ(refusal_of(R"({"drives": [{"letter": "D", "folder": "disk"}]})"), "accepted");
+  const std::string begin = "machine.json: drives[1].folder: ";
+  const std::string missing =
+      refusal_of(R"({"drives": [{"letter": "C"}, {"letter": "D", "folder": "disc"}]})");
+  EXPECT_TRUE(missing.starts_with(begin + host_text(host_path(folder.path_of("disc"))) + ": "))
+      << missing;
+  EXPECT_EQ(refusal_of(R"({"drives": [{"letter": "C"}, {"letter": "D", "folder": "file"}]})"),
+            begin + host_text(host_path(folder.path_of("file"))) + ": is no folder");
 }
 
 }  // namespace

@@ -17,6 +17,7 @@ struct MachineDrive {
   std::string folder;  // host path of the drive's files, absolute
   std::optional<std::uint64_t> total_bytes;
   std::optional<std::uint64_t> free_bytes;
+  bool folder_named = false;  // by machine.json; else it is the usual one, drive_c
 };
 
 struct MachineProcess {

@@ -1,8 +1,10 @@
 #include "view/console/console.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <utility>
 
+#include "view/console/command_words.h"
 #include "view/console/console_command.h"
 
 namespace quillvane {
@@ -42,24 +44,17 @@ std::vector<PreparedCommand> add_commands(CLI::App& app, ConsoleSession& session
   std::vector<PreparedCommand> prepared;
   for (const ConsoleCommand& command : console_commands()) {
     CLI::App* added = group_of(app, command).add_subcommand(command.name, command.description);
+    // A command may have more to tell.
     added->footer("quillvane --help tells the options that all commands share.");
     prepared.push_back({added, command.prepare(*added, session)});
   }
   return prepared;
 }
 
-// What is wrong with the words, in one line.
-std::string reason_of(const CLI::App& app, const CLI::ParseError& error) {
+// What the check of the words let pass and the library does not, in one line.
+std::string reason_of(const CLI::ParseError& error) {
   std::string reason = error.what();
-  const bool command_missing =
-      error.get_exit_code() == static_cast<int>(CLI::ExitCodes::RequiredError) &&
-      reason.find("subcommand") != std::string::npos;
-  const std::vector<std::string> unknown = app.remaining(true);
-  if (command_missing && !unknown.empty()) return unknown.front() + ": there is no such command";
-  if (command_missing) return "a command is missing (quillvane --help lists them)";
-  for (char& c : reason) {
-    if (c == '\n') c = ' ';
-  }
+  std::replace(reason.begin(), reason.end(), '\n', ' ');
   return reason;
 }
 
@@ -70,13 +65,17 @@ int run_words(const std::vector<std::string>& words, ConsoleIo& io, ConsoleSessi
   app.require_subcommand(1);
   add_common_options(app, session);
   const std::vector<PreparedCommand> commands = add_commands(app, session);
+  if (const auto wrong = wrong_words(app, words)) {
+    session.problem(*wrong);
+    return kWrongWords;
+  }
   try {
     app.parse(std::vector<std::string>(words.rbegin(), words.rend()));  // it wants the last first
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
       return app.exit(error, io.out, io.err);  // help or version
     }
-    session.problem("command line: " + reason_of(app, error));
+    session.problem("command line: " + reason_of(error));
     return kWrongWords;
   }
   for (const PreparedCommand& command : commands) {
@@ -88,10 +87,12 @@ int run_words(const std::vector<std::string>& words, ConsoleIo& io, ConsoleSessi
 }  // namespace
 
 int run_console(const std::vector<std::string>& words, ConsoleIo& io, MachineHost& host) {
-  ConsoleSession session{io, host, "", false, false};
+  ConsoleSession session{io, host, std::nullopt, false, false};
   const int status = run_words(words, io, session);
   io.out.flush();
-  if (!io.out) {
+  const bool reader_gone = io.reader_gone && io.reader_gone();
+  // One that has seen enough, as `head` has, is no problem.
+  if (!io.out && !reader_gone) {
     io.err << "quillvane: standard output: cannot be written\n";
     return kNotDone;
   }

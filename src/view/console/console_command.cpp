@@ -1,8 +1,11 @@
 #include "view/console/console_command.h"
 
 #include <array>
-#include <optional>
+#include <sstream>
+#include <string>
 #include <variant>
+
+#include "view/console/readable.h"
 
 namespace quillvane {
 
@@ -23,20 +26,28 @@ constexpr std::array kCommands = {
     ConsoleCommand{"", "shortcuts", "", prepare_unavailable},
 };
 
+// Each a line.
+void print_notices(const ConsoleIo& io, const std::string& notices) {
+  std::istringstream lines(notices);
+  for (std::string line; std::getline(lines, line);) {
+    io.err << shown(line, io.err_is_terminal) << '\n';
+  }
+}
+
 }  // namespace
 
 std::span<const ConsoleCommand> console_commands() { return kCommands; }
 
 int ConsoleSession::problem(std::string_view what_and_why) const {
   io.out.flush();  // what was printed before stands before
-  io.err << "quillvane: " << what_and_why << '\n';
+  io.err << "quillvane: " << shown(what_and_why, io.err_is_terminal) << '\n';
   return kNotDone;
 }
 
 std::unique_ptr<ConsoleMachine> ConsoleSession::open_machine() const {
-  const auto dir =
-      machine_folder.empty() ? std::nullopt : std::optional<std::string>(machine_folder);
-  auto opened = host.open(dir, io.err);
+  std::ostringstream notices;
+  auto opened = host.open(machine_folder, notices);
+  print_notices(io, notices.str());
   if (const auto* why = std::get_if<HostProblem>(&opened)) {
     problem(why->text);
     return nullptr;

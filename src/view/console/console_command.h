@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -19,7 +20,7 @@ namespace quillvane {
 struct ConsoleSession {
   ConsoleIo& io;
   MachineHost& host;
-  std::string machine_folder;  // --machine; empty without it
+  std::optional<std::string> machine_folder;  // --machine
   bool json = false;
   bool list = false;
 

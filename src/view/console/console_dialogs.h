@@ -14,7 +14,7 @@ class ConsoleDialogs final : public Dialogs {
   explicit ConsoleDialogs(ConsoleIo& io) : io_(io) {}
 
   // Questions with this title are answered so without asking. Of others the user at the terminal is
-  // asked; where there is none the answer is No.
+  // asked; where there is none the answer is No. After Ctrl-C it is No to each question.
   void answer_in_advance(const std::string& title, Answer answer) { answers_[title] = answer; }
 
   // Whether the last question of this title was answered Yes.
@@ -34,6 +34,7 @@ class ConsoleDialogs final : public Dialogs {
 
  private:
   [[nodiscard]] Answer ask(const std::string& text);
+  [[nodiscard]] bool interrupted() const;
 
   ConsoleIo& io_;
   std::map<std::string, Answer> answers_;  // in advance, by title

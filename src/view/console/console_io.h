@@ -17,6 +17,13 @@ struct ConsoleIo {
   bool in_is_terminal = false;  // somebody can answer
   // Takes away what stands in the terminal's last line for the moment; set while it may.
   std::function<void()> clear_line = nullptr;
+  bool out_is_terminal = false;
+  // Whether the user has pressed Ctrl-C; set while somebody attends to it.
+  std::function<bool()> interrupted = nullptr;
+  // Waits until a line can be read from `in`; false when `interrupted` holds before.
+  std::function<bool(const std::function<bool()>& interrupted)> await_line = nullptr;
+  // Whether writing to `out` failed since nobody reads it any more.
+  std::function<bool()> reader_gone = nullptr;
 };
 
 }  // namespace quillvane

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -25,6 +26,10 @@ class ConsoleMachine {
   [[nodiscard]] virtual VirtualLoop& loop() = 0;
   [[nodiscard]] virtual QueuedDialogs& dialogs() = 0;
   [[nodiscard]] virtual EffectLog& effects() = 0;
+
+  // Another way to the machine's registry, for a thread beside the one that works on the platform;
+  // null when it cannot be opened.
+  [[nodiscard]] virtual std::unique_ptr<Registry> another_registry() = 0;
 
   // What a script sets up before the windows are made. It holds for as long as this object; nothing
   // of it is stored.

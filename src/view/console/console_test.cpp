@@ -91,28 +91,72 @@ TEST(Console, CommandsThatAreNotThereYetSaySoWhateverTheirWords) {
             "quillvane: shortcuts: not available in this version yet\n");
 }
 
+struct WrongWords {
+  Words words;
+  const char* told;
+};
+
+const WrongWords kWrongWordsCases[] = {
+    {{}, "command line: a command is missing (quillvane --help lists them)"},
+    {{""}, "command line: a word is empty"},
+    {{"sweep", "C:"}, "sweep: there is no such command"},
+    {{"machine"}, "machine: needs a command behind it (quillvane machine --help lists them)"},
+    {{"machine", "melt"}, "melt: there is no such command"},
+    {{"scan", "--fast"}, "--fast: there is no such option"},
+    {{"scan", "-j"}, "-j: there is no such option"},
+    {{"scan", "--yes"}, "--yes: there is no such option"},  // one of another command
+    {{"scan", "now"}, "now: is one word too many"},
+    {{"scan", "clean"}, "clean: is one word too many"},
+    {{"script", "a", "b"}, "b: is one word too many"},
+    {{"clean", "--yes", ""}, "command line: a word is empty"},
+    {{"machine", "create"}, "machine create: DIR is missing"},
+    {{"registry", "import", "dir"}, "registry import: FILE is missing"},
+    {{"machine", "create", ""}, "DIR: is given empty"},
+    {{"script", ""}, "FILE: is given empty"},
+    {{"run", ""}, "SWITCH: is given empty"},
+    // What a script's empty variable makes.
+    {{"clean", "--yes", "--machine", ""}, "--machine: is given empty"},
+    {{"clean", "--yes", "--machine="}, "--machine: is given empty"},
+    {{"--machine", "", "clean", "--yes"}, "--machine: is given empty"},
+    {{"clean", "--yes", "--machine"}, "--machine: needs a value behind it"},
+    {{"clean", "--machine", "--yes"}, "--machine: needs a value behind it"},
+    {{"clean", "--machine", "a", "--machine", "b"}, "--machine: is given twice"},
+    {{"--machine", "a", "clean", "--machine", "a"}, "--machine: is given twice"},
+    {{"scan", "--json", "--json"}, "--json: is given twice"},
+    {{"clean", "--yes", "--yes"}, "--yes: is given twice"},
+    {{"scan", "--json=true"}, "--json: takes no value"},
+    {{"scan", "--json="}, "--json: takes no value"},
+    {{"scan", "--keep-browsers", "--close-browsers"},
+     "--close-browsers: does not go with --keep-browsers"},
+    {{"scan", "--", "now"}, "--: is not taken (write ./-NAME for a name that begins with -)"},
+    {{"--", "scan"}, "--: is not taken (write ./-NAME for a name that begins with -)"},
+};
+
 TEST(Console, WordsThatAreOffAreToldInOneLineWithStatus2) {
-  for (const Words& words :
-       {Words{}, Words{"sweep"}, Words{"scan", "--fast"}, Words{"scan", "now"}, Words{"--machine"},
-        Words{"machine"}, Words{"machine", "melt"}, Words{"machine", "create"},
-        Words{"registry", "import", "dir"}, Words{"script", "a", "b"}}) {
+  for (const WrongWords& c : kWrongWordsCases) {
     Stage stage;
-    EXPECT_EQ(stage.run(words), 2) << stage.out.str();
-    const std::string told = stage.err.str();
-    EXPECT_TRUE(told.starts_with("quillvane: command line: ")) << told;
-    EXPECT_EQ(told.find('\n'), told.size() - 1) << told;
-    EXPECT_EQ(stage.out.str(), "");
-    EXPECT_EQ(stage.host.asked, Words{});
+    EXPECT_EQ(stage.run(c.words), 2) << c.told;
+    EXPECT_EQ(stage.err.str(), std::string("quillvane: ") + c.told + "\n");
+    EXPECT_EQ(stage.out.str(), "") << c.told;
+    EXPECT_EQ(stage.host.asked, Words{}) << c.told;
   }
 }
 
-TEST(Console, AWordThatIsNoCommandIsNamed) {
+TEST(Console, AFolderMayHaveTheNameOfACommand) {
   Stage stage;
-  EXPECT_EQ(stage.run({"sweep", "C:"}), 2);
-  EXPECT_EQ(stage.run({"machine", "melt"}), 2);
-  EXPECT_EQ(stage.err.str(),
-            "quillvane: command line: sweep: there is no such command\n"
-            "quillvane: command line: melt: there is no such command\n");
+  EXPECT_EQ(stage.run({"machine", "create", "scan"}), 0);
+  EXPECT_EQ(stage.run({"scan", "--machine", "clean"}), 1);
+  EXPECT_EQ(stage.host.asked, (Words{"create scan", "open clean"}));
+}
+
+TEST(Console, HelpIsGivenWhateverFollows) {
+  for (const Words& words : {Words{"clean", "--help"}, Words{"-h", "--machine", "a"},
+                             Words{"run", "--help"}, Words{"machine", "create", "-h"}}) {
+    Stage stage;
+    EXPECT_EQ(stage.run(words), 0) << stage.err.str();
+    EXPECT_NE(stage.out.str(), "");
+    EXPECT_EQ(stage.host.asked, Words{});
+  }
 }
 
 TEST(Console, CommonOptionsStandBeforeOrBehindTheCommand) {

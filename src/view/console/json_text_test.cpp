@@ -26,5 +26,11 @@ TEST(JsonText, BytesThatAreNoUtf8AreReplaced) {
   EXPECT_EQ(json_text("\xC3\xA4"), "\"\xC3\xA4\"");
 }
 
+TEST(JsonText, WhatUpsetsATerminalStandsAsAnEscapeAndReadsTheSame) {
+  const std::string name = "a\x1b\n\x7f\xC2\x9B\xE2\x80\xAE\xC3\xA4";
+  EXPECT_EQ(json_text(name), "\"a\\u001b\\n\\u007f\\u009b\\u202e\xC3\xA4\"");
+  EXPECT_EQ(Json::parse(json_text(name)), name);
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -1,5 +1,8 @@
 #include "view/console/readable.h"
 
+#include <algorithm>
+#include <cstdint>
+#include <iterator>
 #include <vector>
 
 #include "platform/utf8.h"
@@ -21,9 +24,38 @@ std::vector<std::size_t> code_point_starts(std::string_view text) {
   return starts;
 }
 
-bool is_control(unsigned char c) { return c < 0x20 || c == 0x7F; }
+struct CodePoints {
+  char32_t first;
+  char32_t last;
+};
+
+constexpr CodePoints kUpsetting[] = {
+    {0x00, 0x1F},      // controls of the first set
+    {0x7F, 0x9F},      // DEL and the controls of the second set
+    {0x061C, 0x061C},  // marks of direction from here on
+    {0x200E, 0x200F}, {0x202A, 0x202E}, {0x2066, 0x2069},
+};
+
+void append_hex(std::uint32_t number, int digits, std::string& out) {
+  for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4) {
+    out.push_back("0123456789ABCDEF"[(number >> shift) & 0xF]);
+  }
+}
+
+// "<1B>" for a byte, "<U+202E>" for all else.
+void append_written_out(char32_t value, bool is_byte, std::string& out) {
+  out += is_byte ? "<" : "<U+";
+  append_hex(static_cast<std::uint32_t>(value), is_byte ? 2 : 4, out);
+  out += ">";
+}
 
 }  // namespace
+
+bool upsets_terminal(char32_t code_point) {
+  return std::any_of(std::begin(kUpsetting), std::end(kUpsetting), [=](const CodePoints& range) {
+    return range.first <= code_point && code_point <= range.last;
+  });
+}
 
 std::string readable_size(double bytes) {
   std::string text = NumberInKB(bytes, ".");
@@ -31,11 +63,22 @@ std::string readable_size(double bytes) {
 }
 
 std::string printable(std::string_view text) {
-  std::string clean(text);
-  for (char& c : clean) {
-    if (is_control(static_cast<unsigned char>(c))) c = '?';
+  std::string clean;
+  clean.reserve(text.size());
+  for (std::size_t at = 0; at < text.size();) {
+    const DecodedCodePoint next = decode_utf8(text, at);
+    if (!next.valid || upsets_terminal(next.value)) {
+      append_written_out(next.value, !next.valid || next.length == 1, clean);
+    } else {
+      clean += text.substr(at, next.length);
+    }
+    at += next.length;
   }
   return clean;
+}
+
+std::string shown(std::string_view text, bool on_terminal) {
+  return on_terminal ? printable(text) : std::string(text);
 }
 
 std::size_t columns_of(std::string_view text) { return code_point_starts(text).size() - 1; }

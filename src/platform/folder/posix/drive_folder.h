@@ -24,7 +24,9 @@ namespace quillvane {
 struct HostPlace {
   std::string path;   // from the drive's folder on, as stored and without links; "" is the drive
   Descriptor object;  // to find and ask by (O_PATH), not to read from
-  HostStatus status;
+  HostStatus
+      status;  // where the host shows a link that is none to Windows, that of a file or folder
+  bool on_ntfs = false;  // on a mounted NTFS disk (ntfs_disk.h)
 };
 
 // A name in a folder; what bears it may be a link.
@@ -35,10 +37,15 @@ struct HostEntry {
 
 class DriveFolder {
  public:
-  // A folder that cannot be opened is a drive on which nothing is found. Drives may share the index
-  // by which names of another case are found; without one it has its own.
-  explicit DriveFolder(const std::string& host_folder,
+  // A folder that cannot be opened is a drive on which nothing is found.
+  // `letter` is the drive's, in upper case: links on an NTFS disk lead to letters. One that leads
+  // to another drive leads nowhere. Drives may share the index by which names of another case are
+  // found; without one it has its own.
+  explicit DriveFolder(const std::string& host_folder, char letter = 0,
                        std::shared_ptr<NameIndex> names = std::make_shared<NameIndex>());
+
+  // Whether its folder lies on a mounted NTFS disk.
+  [[nodiscard]] bool is_on_ntfs() const { return on_ntfs_; }
 
   // Goes down the names without regard to case and follows links, the last one too.
   [[nodiscard]] std::optional<HostPlace> find(std::span<const std::string> names) const;
@@ -64,9 +71,15 @@ class DriveFolder {
   // Goes straight down stored names, none of them a link.
   [[nodiscard]] std::optional<HostPlace> find_stored(const std::string& path) const;
 
+  // What the host alone does not tell of a place that was just opened.
+  void settle(HostPlace& place) const;
+
   std::string host_folder_;
+  char letter_;
   Descriptor folder_;
   int error_;  // why it is not open
+  HostStatus status_{};
+  bool on_ntfs_ = false;
   std::shared_ptr<NameIndex> names_;
 };
 
@@ -75,6 +88,9 @@ class DriveFolder {
 
 // What bears the name: a link itself and not where it leads. Nothing when it is gone.
 [[nodiscard]] std::optional<HostPlace> open_entry(const HostEntry& entry);
+
+// When a file or folder was made.
+[[nodiscard]] FileTime created_time(const HostPlace& place);
 
 // Opens a folder that was found for reading its names.
 [[nodiscard]] Descriptor open_for_listing(const HostPlace& place);

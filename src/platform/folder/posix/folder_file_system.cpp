@@ -40,6 +40,8 @@ RemoveResult result_of(int error) {
       return RemoveResult::kInUse;
     case EIO:
       return RemoveResult::kUnreadable;
+    case EROFS:
+      return RemoveResult::kWriteProtected;
     default:
       return RemoveResult::kDenied;
   }

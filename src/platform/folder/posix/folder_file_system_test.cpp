@@ -92,9 +92,9 @@ TEST_F(FolderFileSystemTest, TellsWhyTheHostDidNotRemove) {
   const struct {
     int error;
     RemoveResult result;
-  } cases[] = {{ENOENT, RemoveResult::kMissing}, {EBUSY, RemoveResult::kInUse},
-               {ETXTBSY, RemoveResult::kInUse},  {EIO, RemoveResult::kUnreadable},
-               {EROFS, RemoveResult::kDenied},   {EPERM, RemoveResult::kDenied}};
+  } cases[] = {{ENOENT, RemoveResult::kMissing},       {EBUSY, RemoveResult::kInUse},
+               {ETXTBSY, RemoveResult::kInUse},        {EIO, RemoveResult::kUnreadable},
+               {EROFS, RemoveResult::kWriteProtected}, {EPERM, RemoveResult::kDenied}};
   for (const auto& c : cases) {
     with_failing_calls({SYS_unlinkat}, c.error, [&] {
       EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), c.result) << c.error;

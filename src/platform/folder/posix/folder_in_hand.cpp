@@ -59,7 +59,9 @@ bool FolderInHand::begin_at(char letter, const std::string& host_folder) {
   way_.clear();
   drive_.emplace(paths_.drive(letter));
   const auto root = drive_->find_as_stored("");
-  if (!root || !paths_.names().watch(root->object.number())) {
+  // What an NTFS disk holds is told of each file by the longer way.
+  if (!root || drive_->is_on_ntfs() || root->on_ntfs ||
+      !paths_.names().watch(root->object.number())) {
     drive_.reset();
     return false;
   }
@@ -73,7 +75,8 @@ bool FolderInHand::begin_at(char letter, const std::string& host_folder) {
 // A folder of the way. One that is moved between the look and the watch is seen by the second look.
 std::optional<HostPlace> FolderInHand::enter(const std::string& path) const {
   auto place = drive_->find_as_stored(path);
-  if (!place || !is_folder(place->status) || !paths_.names().watch(place->object.number())) {
+  if (!place || place->on_ntfs || !is_folder(place->status) ||
+      !paths_.names().watch(place->object.number())) {
     return std::nullopt;
   }
   const auto again = drive_->find_as_stored(path);

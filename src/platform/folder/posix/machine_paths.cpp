@@ -15,7 +15,7 @@ std::string MachinePaths::host_folder(char letter) const {
 }
 
 DriveFolder MachinePaths::drive(char letter) const {
-  return DriveFolder(host_folder(letter), names_);
+  return DriveFolder(host_folder(letter), letter, names_);
 }
 
 std::optional<HostPlace> MachinePaths::find(std::string_view path) const {

@@ -2,44 +2,70 @@
 // record.
 #pragma once
 
-#include <cstdint>
+#include <atomic>
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "core/form7.h"
+#include "forms/control.h"
 #include "platform/forwarding_file_system.h"
 #include "platform/platform.h"
 
 namespace quillvane {
 
-struct CleaningCounts {
-  int removed = 0;  // gone
-  int queued = 0;   // go at the next restart, by this run's request
-  int failed = 0;   // neither
+// A file that is still there.
+struct FileLeft {
+  std::string path;
+  bool queued = false;  // it goes at the next restart, by this run's request
+  const char* why = "";
+};
+
+struct CleaningResult {
+  bool begun = false;   // false: there was no cleaning, or no row to clean
+  int removed = 0;      // files that are gone
+  int not_reached = 0;  // rows behind the one at which the run was ended
+  std::vector<FileLeft> left;
+
+  [[nodiscard]] int queued() const;
+  [[nodiscard]] int failed() const;
 };
 
 // Stands between the program and the machine's files and notes what becomes of removals. All other
 // calls pass through.
-class CleaningWatch final : public ForwardingFileSystem {
+class CleaningWatch final : public ForwardingFileSystem, private ControlObserver {
  public:
   explicit CleaningWatch(const Platform& machine);
 
-  // Begins to count; `bin_files` are the rows of the recycle bin, which goes as a whole.
-  void begin(std::vector<std::string> bin_files);
-  // Looks where the files are now.
-  [[nodiscard]] CleaningCounts end() const;
+  // Looks on at the cleaning of this window, whose end this must outlive.
+  void attach(Form7& form);
+
+  // Whether a cleaning is in progress. May be asked from another thread.
+  [[nodiscard]] bool cleaning() const { return cleaning_; }
+
+  // Looks where the files are now. A request for the restart counts when it stands in the queue.
+  [[nodiscard]] CleaningResult result() const;
 
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override;
 
  private:
-  [[nodiscard]] std::set<std::string> queue() const;
+  void changed(Control& control, Change what) override;
+  void begin();
+  void row_done(const std::string& path);
+  [[nodiscard]] std::set<std::string> requests() const;
+  [[nodiscard]] const char* reason(const std::string& path, RemoveResult result) const;
 
   Platform machine_;
-  bool counting_ = false;
+  Form7* form_ = nullptr;
+  std::atomic<bool> cleaning_ = false;
+  bool begun_ = false;
+  int rows_ = 0;       // of the list when the run began
+  int rows_done_ = 0;  // of these
   int removed_ = 0;
-  std::set<std::string> stayed_;  // files that could not be removed
-  std::vector<std::string> bin_files_;
-  std::set<std::string> queue_before_;  // requests of the queue when counting began
+  std::map<std::string, RemoveResult> stayed_;  // files that could not be removed
+  std::set<std::string> bin_files_;             // rows of the recycle bin, which goes as a whole
+  std::set<std::string> requests_before_;
 };
 
 }  // namespace quillvane

@@ -2,18 +2,12 @@
 
 #include <CLI/CLI.hpp>
 #include <memory>
-#include <string>
-#include <vector>
 
-#include "cleaning/permission.h"
 #include "cleaning/questions.h"
 #include "core/form7.h"
-#include "core/program.h"
-#include "view/console/clean/cleaning_watch.h"
+#include "view/console/clean/attended_cleaning.h"
+#include "view/console/clean/cleaning_report.h"
 #include "view/console/console_command.h"
-#include "view/console/console_dialogs.h"
-#include "view/console/json_text.h"
-#include "view/console/scan/attended_run.h"
 #include "view/console/scan/browser_answer.h"
 #include "view/console/scan/scan_json.h"
 #include "view/console/scan/scan_table.h"
@@ -27,36 +21,24 @@ struct CleanOptions {
   bool yes = false;
 };
 
-std::vector<std::string> recycle_bin_rows(const ListView& hits) {
-  std::vector<std::string> rows;
-  for (int row = 1; row <= hits.count(); ++row) {
-    std::string path = hits.text(row);
-    if (in_recycle_bin(path)) rows.push_back(std::move(path));
+// What came of the question and the run behind it. Requires: the scan was not cancelled.
+Outcome outcome_of(const AttendedCleaning& cleaning, const CleaningResult& result, bool asked) {
+  if (!cleaning.dialogs.said_yes(kRemoveFilesTitle)) {
+    return asked ? Outcome::kDeclined : Outcome::kCancelled;
   }
-  return rows;
-}
-
-Json counts_json(const CleaningCounts& counts) {
-  return {{"removed", counts.removed}, {"queued", counts.queued}, {"failed", counts.failed}};
-}
-
-void print_counts(std::ostream& out, const CleaningCounts& counts) {
-  out << "Removed: " << counts.removed << ", queued for the next restart: " << counts.queued
-      << ", failed: " << counts.failed << '\n';
+  return outcome_of_run(result, cleaning.attendance.cancelled());
 }
 
 int clean(const ConsoleSession& session, const CleanOptions& options) {
   const std::unique_ptr<ConsoleMachine> machine = session.open_machine();
   if (machine == nullptr) return kNotDone;
   ConsoleIo& io = session.io;
-  ConsoleDialogs dialogs(io);
-  options.browsers.apply_to(dialogs);
-  if (options.yes) dialogs.answer_in_advance(kRemoveFilesTitle, Answer::kYes);
-  CleaningWatch watch(machine->platform());
-  Program program(machine->platform().with({.files = &watch, .dialogs = &dialogs}));
-  program.start("");
-  Form7& form = program.main_window();
-  run_attended(io, machine->loop(), program, [&] { form.cmd_start.click(); });
+  AttendedCleaning cleaning(io, *machine);
+  options.browsers.apply_to(cleaning.dialogs);
+  if (options.yes) cleaning.dialogs.answer_in_advance(kRemoveFilesTitle, Answer::kYes);
+  cleaning.program.start("");
+  Form7& form = cleaning.program.main_window();
+  cleaning.attendance.run([&] { form.cmd_start.click(); });
   tell_skipped(io.err, form);
 
   const ScanReport report = read_report(form);
@@ -64,18 +46,25 @@ int clean(const ConsoleSession& session, const CleanOptions& options) {
   if (session.json) {
     print_scan_json_open(io.out, report, files);
   } else {
-    print_scan_table(io.out, report, files, io.out_takes_bold);
+    print_scan_table(io, report, files);
   }
-  watch.begin(recycle_bin_rows(form.view1));
-  run_attended(io, machine->loop(), program, [&] { form.cmd_clean.click(); });
-  const CleaningCounts counts =
-      dialogs.said_yes(kRemoveFilesTitle) ? watch.end() : CleaningCounts{};
+  io.out.flush();
+  CleaningResult result;
+  Outcome outcome = Outcome::kCancelled;
+  // Nothing is removed when nobody could be told what.
+  if (!cleaning.attendance.cancelled() && io.out) {
+    cleaning.attendance.run([&] { form.cmd_clean.click(); });
+    result = cleaning.watch.result();
+    outcome = outcome_of(cleaning, result, !options.yes);
+  }
   if (session.json) {
-    io.out << ",\n \"cleaned\": " << json_text(counts_json(counts)) << "}\n";
+    print_cleaning_json(io.out, result, outcome);
+    io.out << "}\n";
   } else {
-    print_counts(io.out, counts);
+    print_cleaning(io, result);
   }
-  return kDone;
+  if (io.out) tell_outcome(io, "clean", result, outcome);
+  return exit_status(outcome);
 }
 
 }  // namespace

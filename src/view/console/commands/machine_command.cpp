@@ -39,22 +39,25 @@ std::string space_text(const MachineSummary::Drive& drive) {
          readable_size(static_cast<double>(*drive.total_bytes));
 }
 
-void print_summary(std::ostream& out, const MachineSummary& machine) {
+void print_summary(const ConsoleIo& io, const MachineSummary& machine) {
+  std::ostream& out = io.out;
+  const auto text = [&io](const std::string& name) { return shown(name, io.out_is_terminal); };
   out << "Drives\n";
   for (const auto& drive : machine.drives) {
     out << "  " << drive.letter << ":  " << padded(drive.type, 9) << "  "
-        << padded(space_text(drive), 26) << "  " << printable(drive.folder) << '\n';
+        << padded(space_text(drive), 26) << "  " << text(drive.folder) << '\n';
   }
   out << "\nEnvironment\n";
   std::size_t width = 0;
-  for (const auto& [name, value] : machine.environment) width = std::max(width, columns_of(name));
+  for (const auto& [name, value] : machine.environment)
+    width = std::max(width, columns_of(text(name)));
   for (const auto& [name, value] : machine.environment) {
-    out << "  " << padded(printable(name), width) << "  " << printable(value) << '\n';
+    out << "  " << padded(text(name), width) << "  " << text(value) << '\n';
   }
   out << "\nProcesses\n";
   if (machine.processes.empty()) out << "  none\n";
   for (const auto& process : machine.processes) {
-    out << "  " << std::setw(6) << process.id << "  " << printable(process.name) << '\n';
+    out << "  " << std::setw(6) << process.id << "  " << text(process.name) << '\n';
   }
 }
 
@@ -83,7 +86,7 @@ std::function<int()> prepare_machine_show(CLI::App& app, ConsoleSession& session
     if (session.json) {
       session.io.out << json_text(summary_json(machine)) << '\n';
     } else {
-      print_summary(session.io.out, machine);
+      print_summary(session.io, machine);
     }
     return kDone;
   };

@@ -4,14 +4,13 @@
 #include <string>
 
 #include "core/form7.h"
-#include "core/program.h"
 #include "platform/unicode_case.h"
 #include "support/text.h"
+#include "view/console/clean/attended_cleaning.h"
+#include "view/console/clean/cleaning_report.h"
 #include "view/console/console_command.h"
-#include "view/console/console_dialogs.h"
 #include "view/console/json_text.h"
-#include "view/console/scan/attended_run.h"
-#include "view/console/scan/browser_answer.h"
+#include "view/console/readable.h"
 
 namespace quillvane {
 
@@ -28,15 +27,46 @@ SwitchKind kind_of(const std::string& words) {
   return SwitchKind::kUnknown;
 }
 
-// The last reading of the run, as the suite finds it in junst.txt.
-void print_result(const ConsoleSession& session, const Form7& form) {
+struct SwitchHelp {
+  const char* words;
+  const char* does;
+};
+
+constexpr SwitchHelp kSwitches[] = {
+    {"w, w2, w3, w-c", "scans and REMOVES all that it finds, without a question"},
+    {"w3-c3, w4-c4", "the same, but queues nothing for the next restart"},
+    {"w2-c2", "scans and counts; removes nothing"},
+    {"w4", "the same, and lists the files in junktmp.txt"},
+    {"d", "opens the window with its start button off; removes nothing"},
+};
+
+std::string switches_text() {
+  std::string text = "Switches:\n";
+  for (const SwitchHelp& each : kSwitches) {
+    text += "  " + padded(each.words, 16) + each.does + "\n";
+  }
+  return text +
+         "Another second half, as in w-x, removes nothing. What is removed is each file that\n"
+         "quillvane scan --list shows, with one of the recycle bin all of the bin, and the "
+         "entries\n"
+         "of Internet Explorer's cache.\n"
+         "quillvane --help tells the options that all commands share.";
+}
+
+// What the suite finds in junst.txt, and what became of the files.
+void print_result(const ConsoleSession& session, const Form7& form, const CleaningResult& result,
+                  Outcome outcome) {
+  std::ostream& out = session.io.out;
   if (session.json) {
     const Json totals = {{"files", json_number(form.totals.totalfiles)},
                          {"bytes", json_number(form.totals.totalsize)}};
-    session.io.out << json_text(Json{{"totals", totals}}) << '\n';
+    out << "{\"totals\": " << json_text(totals);
+    print_cleaning_json(out, result, outcome);
+    out << "}\n";
   } else {
-    session.io.out << number_text(form.totals.totalfiles) << " files, "
-                   << form.size_text(form.totals.totalsize) << '\n';
+    out << number_text(form.totals.totalfiles) << " files, "
+        << form.size_text(form.totals.totalsize) << '\n';
+    print_cleaning(session.io, result);
   }
 }
 
@@ -51,19 +81,24 @@ int run(const ConsoleSession& session, const std::string& words) {
   }
   const std::unique_ptr<ConsoleMachine> machine = session.open_machine();
   if (machine == nullptr) return kNotDone;
-  ConsoleDialogs dialogs(session.io);
-  Program program(machine->platform().with({.dialogs = &dialogs}));
-  run_attended(session.io, machine->loop(), program, [&] { program.start(words); });
-  if (kind == SwitchKind::kScan) print_result(session, program.main_window());
-  return kDone;
+  AttendedCleaning cleaning(session.io, *machine);
+  Program& program = cleaning.program;
+  cleaning.attendance.run([&] { program.start(words); });
+  if (kind == SwitchKind::kWindow) return kDone;
+
+  const CleaningResult result = cleaning.watch.result();
+  const Outcome outcome = outcome_of_run(result, cleaning.attendance.cancelled());
+  print_result(session, program.main_window(), result, outcome);
+  tell_outcome(session.io, "run", result, outcome);
+  return exit_status(outcome);
 }
 
 }  // namespace
 
 std::function<int()> prepare_run(CLI::App& app, ConsoleSession& session) {
   const auto words = std::make_shared<std::string>();
-  app.add_option("SWITCH", *words, "w, w2, w3 or w4, alone or with -c, -c2, -c3, -c4 behind it")
-      ->required();
+  app.add_option("SWITCH", *words, "What to do; see below")->required();
+  app.footer(switches_text());
   return [words, &session] { return run(session, *words); };
 }
 

@@ -4,7 +4,7 @@
 #include "core/program.h"
 #include "view/console/console_command.h"
 #include "view/console/console_dialogs.h"
-#include "view/console/scan/attended_run.h"
+#include "view/console/scan/attendance.h"
 #include "view/console/scan/browser_answer.h"
 #include "view/console/scan/scan_json.h"
 #include "view/console/scan/scan_table.h"
@@ -22,17 +22,20 @@ int scan(const ConsoleSession& session, const BrowserAnswer& browsers) {
   Program program(machine->platform().with({.dialogs = &dialogs}));
   program.start("");
   Form7& form = program.main_window();
-  run_attended(session.io, machine->loop(), program, [&] { form.cmd_start.click(); });
+  Attendance attendance(session.io, machine->loop(), program);
+  attendance.run([&] { form.cmd_start.click(); });
   tell_skipped(session.io.err, form);
 
   const ScanReport report = read_report(form);
   const ListView* files = session.list ? &form.view1 : nullptr;
+  const bool cancelled = attendance.cancelled();
   if (session.json) {
-    print_scan_json(session.io.out, report, files);
+    print_scan_json_open(session.io.out, report, files);
+    session.io.out << (cancelled ? ",\n \"outcome\": \"cancelled\"}\n" : "}\n");
   } else {
-    print_scan_table(session.io.out, report, files, session.io.out_takes_bold);
+    print_scan_table(session.io, report, files);
   }
-  return kDone;
+  return cancelled ? session.problem("scan: cancelled, this is what was found until then") : kDone;
 }
 
 }  // namespace

@@ -127,10 +127,11 @@ TEST(ScanCommand, CtrlCCancelsAndStillPrintsWhatWasFound) {
   std::ostream err(&buffer);
   ConsoleIo io{stage.in, stage.out, err, false, true, 80};
 
-  EXPECT_EQ(run_console({"scan", "--json"}, io, stage.host), 0);
+  EXPECT_EQ(run_console({"scan", "--json"}, io, stage.host), 1);
 
   // It came before the first file was looked at.
   const auto document = Json::parse(stage.out.str());
+  EXPECT_EQ(document["outcome"], "cancelled");
   EXPECT_EQ(json_text(document["totals"]), R"j({"files":0,"bytes":0})j");
   EXPECT_EQ(document["categories"][1]["caption"], "System Temporary ( 0 files, 0 B )");
   EXPECT_EQ(document["categories"][2]["caption"], "User Temporary");

@@ -7,18 +7,18 @@
 namespace quillvane {
 namespace {
 
-TEST(Interrupt, IsTakenOnce) {
-  Interrupt interrupt;
-  EXPECT_FALSE(interrupt.take());
+TEST(Interrupt, IsNotedAndStays) {
+  const Interrupt interrupt;
+  EXPECT_FALSE(Interrupt::came());
 
   std::raise(SIGINT);
 
-  EXPECT_TRUE(interrupt.take());
-  EXPECT_FALSE(interrupt.take());
+  EXPECT_TRUE(Interrupt::came());
+  EXPECT_TRUE(Interrupt::came());
 }
 
 TEST(Interrupt, TheSecondOneIsLeftToTheSystem) {
-  Interrupt interrupt;
+  const Interrupt interrupt;
 
   std::raise(SIGINT);
 
@@ -33,13 +33,26 @@ TEST(Interrupt, LeavesTheSignalToTheSystemAtItsEnd) {
 
 TEST(Interrupt, OneOfAnEarlierScanIsForgotten) {
   {
-    Interrupt earlier;
+    const Interrupt earlier;
     std::raise(SIGINT);
   }
 
-  Interrupt interrupt;
+  const Interrupt interrupt;
 
-  EXPECT_FALSE(interrupt.take());
+  EXPECT_FALSE(Interrupt::came());
+}
+
+TEST(LastAct, LeavesTheSecondOneToBeNotedToo) {
+  const Interrupt interrupt;
+  int acts = 0;
+  {
+    const LastAct last_act([&acts] { ++acts; });
+    std::raise(SIGINT);
+    EXPECT_NE(std::signal(SIGINT, SIG_DFL), SIG_DFL);
+  }
+  EXPECT_TRUE(Interrupt::came());
+  EXPECT_EQ(acts, 0);
+  EXPECT_EQ(std::signal(SIGINT, SIG_DFL), SIG_DFL);
 }
 
 }  // namespace

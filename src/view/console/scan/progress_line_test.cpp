@@ -87,7 +87,7 @@ TEST(ProgressLine, ANameCannotSpeakToTheTerminal) {
 
   line.show("a\x1b[2Jb\n");
 
-  EXPECT_EQ(stage.out.str(), "\ra?[2Jb?");
+  EXPECT_EQ(stage.out.str(), "\ra<1B>[2Jb<0A>");
 }
 
 }  // namespace

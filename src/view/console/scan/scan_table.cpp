@@ -30,10 +30,10 @@ struct Widths {
   std::size_t size = 0;
 };
 
-std::vector<TableLine> table_lines(const ScanReport& report) {
+std::vector<TableLine> table_lines(const ScanReport& report, bool on_terminal) {
   std::vector<TableLine> lines{{"Category", "Files", "Size", true, 0}};
   for (const CategoryReport& category : report.categories) {
-    lines.push_back({(category.group ? "" : "  ") + printable(category.name),
+    lines.push_back({(category.group ? "" : "  ") + shown(category.name, on_terminal),
                      number_text(category.result.files), readable_size(category.result.bytes),
                      category.group, category.index});
   }
@@ -70,27 +70,27 @@ void print_line(std::ostream& out, const TableLine& line, const Widths& widths, 
   out << '\n';
 }
 
-void print_files(std::ostream& out, const ListView& files, const std::vector<int>& rows) {
+void print_files(const ConsoleIo& io, const ListView& files, const std::vector<int>& rows) {
   constexpr std::size_t kSizeWidth = 10;
   for (const int row : rows) {
-    out << "    " << right_aligned(files.sub_item(row, kSizeColumn), kSizeWidth) << "  "
-        << printable(files.text(row)) << '\n';
+    if (!io.out) return;
+    io.out << "    " << right_aligned(files.sub_item(row, kSizeColumn), kSizeWidth) << "  "
+           << shown(files.text(row), io.out_is_terminal) << '\n';
   }
 }
 
 }  // namespace
 
-void print_scan_table(std::ostream& out, const ScanReport& report, const ListView* files,
-                      bool bold) {
-  const std::vector<TableLine> lines = table_lines(report);
+void print_scan_table(const ConsoleIo& io, const ScanReport& report, const ListView* files) {
+  const std::vector<TableLine> lines = table_lines(report, io.out_is_terminal);
   const Widths widths = widths_of(lines);
   const RowsByCategory rows = files == nullptr ? RowsByCategory() : rows_by_category(*files);
   for (const TableLine& line : lines) {
-    print_line(out, line, widths, bold && line.bold);
+    print_line(io.out, line, widths, io.out_takes_bold && line.bold);
     const auto found = rows.find(line.index);
-    if (found != rows.end()) print_files(out, *files, found->second);
+    if (found != rows.end()) print_files(io, *files, found->second);
   }
-  out << '\n' << printable(report.summary) << '\n';
+  io.out << '\n' << shown(report.summary, io.out_is_terminal) << '\n';
 }
 
 }  // namespace quillvane

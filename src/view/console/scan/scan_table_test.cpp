@@ -37,10 +37,17 @@ struct Hits {
   ListView list{window, "view1", {"File Name", "Size", "Date"}};
 };
 
-TEST(ScanTable, ListsCategoriesTotalsAndTheSummary) {
+struct Output {
+  std::istringstream in;
   std::ostringstream out;
-  print_scan_table(out, small_report(), nullptr, false);
-  EXPECT_EQ(out.str(),
+  std::ostringstream err;
+  ConsoleIo io{in, out, err};
+};
+
+TEST(ScanTable, ListsCategoriesTotalsAndTheSummary) {
+  Output output;
+  print_scan_table(output.io, small_report(), nullptr);
+  EXPECT_EQ(output.out.str(),
             "Category            Files    Size\n"
             "Windows                 3  1.5 KB\n"
             "  System Temporary      3  1.5 KB\n"
@@ -51,9 +58,10 @@ TEST(ScanTable, ListsCategoriesTotalsAndTheSummary) {
 }
 
 TEST(ScanTable, SetsGroupsApartOnATerminal) {
-  std::ostringstream out;
-  print_scan_table(out, small_report(), nullptr, true);
-  EXPECT_EQ(out.str(),
+  Output output;
+  output.io.out_takes_bold = true;
+  print_scan_table(output.io, small_report(), nullptr);
+  EXPECT_EQ(output.out.str(),
             "\x1b[1mCategory            Files    Size\x1b[0m\n"
             "\x1b[1mWindows                 3  1.5 KB\x1b[0m\n"
             "  System Temporary      3  1.5 KB\n"
@@ -65,19 +73,28 @@ TEST(ScanTable, SetsGroupsApartOnATerminal) {
 
 TEST(ScanTable, ShowsEachFileBelowItsCategory) {
   const Hits hits;
-  std::ostringstream out;
-  print_scan_table(out, small_report(), &hits.list, false);
-  EXPECT_EQ(out.str(),
+  Output output;
+  output.io.out_is_terminal = true;
+  print_scan_table(output.io, small_report(), &hits.list);
+  EXPECT_EQ(output.out.str(),
             "Category            Files    Size\n"
             "Windows                 3  1.5 KB\n"
             "  System Temporary      3  1.5 KB\n"
             "        1.5 KB  C:\\Temp\\a.tmp\n"
             "           2 B  C:\\Temp\\b.tmp\n"
             "  User Temporary        0     0 B\n"
-            "                C:\\User\\x?y\n"
+            "                C:\\User\\x<0A>y\n"
             "Total                   3  1.5 KB\n"
             "\n"
             "Junk files found : ( 3 ) files\n");
+}
+
+TEST(ScanTable, GivesAnotherProgramTheNamesAsTheyAre) {
+  const Hits hits;
+  Output output;
+  print_scan_table(output.io, small_report(), &hits.list);
+  EXPECT_NE(output.out.str().find("                C:\\User\\x\ny\n"), std::string::npos)
+      << output.out.str();
 }
 
 TEST(ScanJson, IsOneDocumentInAFixedOrder) {

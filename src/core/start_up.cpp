@@ -35,6 +35,7 @@ constexpr CodePageFont kFontCharacterSets[] = {
 }  // namespace
 
 void Form7::load() {
+  thumbnails.put_back();
   program.Is64Bit = platform().system.is_wow64();
   imglangselect.move_to(lbllanguage_0);
   for (const CodePageFont& font : kFontCharacterSets) {

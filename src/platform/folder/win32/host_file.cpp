@@ -2,8 +2,6 @@
 
 #include <windows.h>
 
-#include <limits>
-
 #include "platform/folder/win32/host_error.h"
 #include "platform/win32/file_content.h"
 #include "platform/win32/long_path.h"
@@ -16,9 +14,10 @@ std::variant<std::string, std::error_code> read_host_file(const std::string& pat
   const FileHandle file(CreateFileW(long_path(path).c_str(), GENERIC_READ, kShareAll, nullptr,
                                     OPEN_EXISTING, 0, nullptr));
   if (!file.is_valid()) return last_host_error();
-  auto content = read_to_end(file.get(), std::numeric_limits<std::uint64_t>::max());
-  if (!content) return last_host_error();
-  return *std::move(content);
+  const FileContent content = read_to_end(file.get());
+  if (content) return *content;
+  if (content == ReadFailure::kTooLarge) return std::make_error_code(std::errc::file_too_large);
+  return last_host_error();
 }
 
 std::error_code replace_host_file(const std::string& path, std::string_view content) {

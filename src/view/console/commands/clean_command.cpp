@@ -38,6 +38,7 @@ int clean(const ConsoleSession& session, const CleanOptions& options) {
   if (options.yes) cleaning.dialogs.answer_in_advance(kRemoveFilesTitle, Answer::kYes);
   cleaning.program.start("");
   Form7& form = cleaning.program.main_window();
+  if (!form.may_remove()) return kNotDone;  // the box of the start has said why
   cleaning.attendance.run([&] { form.cmd_start.click(); });
   tell_skipped(io.err, form);
 

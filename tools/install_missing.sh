@@ -40,4 +40,5 @@ test_packages=(
   make patch tcl xz-utils                             # SQLite for Windows programs
   librsvg2-bin icoutils imagemagick                   # pictures of the Windows program
   xvfb xdotool                                        # its window on a screen for the tests
+  ntfs-3g                                             # a mounted disk of Windows for the tests
 )

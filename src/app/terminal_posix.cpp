@@ -17,7 +17,11 @@ constexpr int kUsualColumns = 80;
 
 }  // namespace
 
-void prepare_streams() { std::signal(SIGPIPE, SIG_IGN); }
+void prepare_streams() {
+  // A write that cannot be done is told like any other failure and does not end the program.
+  std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGXFSZ, SIG_IGN);
+}
 
 Written write_output(std::string_view text) {
   while (!text.empty()) {

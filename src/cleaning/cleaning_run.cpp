@@ -59,7 +59,8 @@ bool Form7::remove_row(const std::string& row_text) {
     platform().shell.update_recycle_bin_icon();
     return false;
   }
-  DeleteAFile(platform(), path);
+  // A disk that cannot be written to now cannot be at the restart either.
+  if (DeleteAFile(platform(), path) == RemoveResult::kWriteProtected) return false;
   if (!StillThere(platform(), path) || pending_filter.contains(lower_case(path))) return false;
   pending.add(path);
   return true;

@@ -4,10 +4,9 @@
 
 namespace quillvane {
 
-void DeleteAFile(const Platform& platform, std::string& path) {
+RemoveResult DeleteAFile(const Platform& platform, std::string& path) {
   changepermission(platform, path);
-  // A failure is seen by StillThere.
-  static_cast<void>(platform.files.remove_file(path));
+  return platform.files.remove_file(path);
 }
 
 bool StillThere(const Platform& platform, std::string path) {

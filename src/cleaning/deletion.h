@@ -7,9 +7,9 @@
 
 namespace quillvane {
 
-// Removes a file unless it is read-only, in use, or the rights are missing. Says nothing:
-// StillThere tells how it went.
-void DeleteAFile(const Platform& platform, std::string& path);
+// Removes a file unless it is read-only, in use, or the rights are missing. Whether it is gone
+// StillThere tells.
+RemoveResult DeleteAFile(const Platform& platform, std::string& path);
 
 // Whether the file is still there: it has a length, can be opened, or is listed as a file that is
 // neither hidden nor of the system.

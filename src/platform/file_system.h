@@ -49,6 +49,7 @@ enum class RemoveResult {
   kDenied,      // read-only, or the rights are missing
   kTooLong,     // its path has 260 characters or more and was not looked at; a listing may show it
   kUnreadable,  // whether it is there cannot be told: the disk fails, or the way may not be gone
+  kWriteProtected,  // the disk is there for reading alone; no restart would change that
 };
 
 class FileSystem {

@@ -2,6 +2,7 @@
 // those on the machine's drives.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -9,8 +10,10 @@
 
 namespace quillvane {
 
-// The content, or why it could not be read; std::errc::no_such_file_or_directory without the file.
-[[nodiscard]] std::variant<std::string, std::error_code> read_host_file(const std::string& path);
+// The content, or why it could not be read: std::errc::no_such_file_or_directory without the file,
+// no_such_device for what is no file (a pipe, a device), file_too_large beyond `most_bytes`.
+[[nodiscard]] std::variant<std::string, std::error_code> read_host_file(const std::string& path,
+                                                                        std::size_t most_bytes);
 
 // Makes the file hold exactly `content`: written beside and then put in place, so that a failure
 // at any point leaves the old file whole. Its permissions stay.

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <limits>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -13,6 +14,7 @@
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_file.h"
 #include "platform/folder/host_path.h"
+#include "platform/folder/json_document.h"
 #include "platform/folder/json_fields.h"
 #include "platform/folder/machine_environment.h"
 #include "platform/unicode_case.h"
@@ -118,8 +120,10 @@ class Reader {
     const Json* given = JsonFields::find(document, "environment");
     if (given == nullptr) return;
     if (!given->is_object()) return fields_.fail("environment", "must be an object");
+    std::set<std::string> names;
     for (const auto& [name, value] : given->items()) {
       const std::string where = "environment." + name;
+      if (!names.insert(upper_case(name)).second) return fields_.fail(where, "is there twice");
       if (name.empty() || name.find_first_of(std::string_view("=\0", 2)) != std::string::npos) {
         return fields_.fail(where, "is no name of a variable");
       }
@@ -160,17 +164,6 @@ class Reader {
   JsonFields fields_;
 };
 
-// The library's reason without its own number in front, short enough for one line.
-std::string parse_failure(std::string_view what) {
-  constexpr std::size_t kLongest = 160;
-  const std::size_t number = what.find("] ");
-  if (number != std::string_view::npos) what.remove_prefix(number + 2);
-  std::string text = "machine.json: is no JSON: ";
-  text += what.substr(0, kLongest);
-  if (what.size() > kLongest) text += "...";
-  return text;
-}
-
 // A drive whose folder was named and is not there would pass for an empty one.
 std::optional<std::string> missing_drive_folder(const MachineState& state) {
   for (std::size_t i = 0; i < state.drives.size(); ++i) {
@@ -189,17 +182,16 @@ std::optional<std::string> missing_drive_folder(const MachineState& state) {
 
 std::variant<MachineState, std::string> parse_machine_json(std::string_view text,
                                                            const std::string& dir) {
-  try {
-    return Reader(dir).read(Json::parse(text));
-  } catch (const Json::exception& problem) {
-    return parse_failure(problem.what());
-  }
+  const auto document = read_json(text);
+  if (const auto* problem = std::get_if<std::string>(&document)) return "machine.json: " + *problem;
+  return Reader(dir).read(std::get<Json>(document));
 }
 
 std::variant<MachineState, std::string> load_machine_json(const std::string& dir) {
-  const auto file = read_host_file(dir + "/machine.json");
+  const auto file = read_host_file(dir + "/machine.json", kMostMachineJson);
   if (const auto* error = std::get_if<std::error_code>(&file)) {
     if (*error == std::errc::no_such_file_or_directory) return parse_machine_json("{}", dir);
+    if (*error == std::errc::no_such_device) return "machine.json: cannot be read: is no file";
     return "machine.json: cannot be read: " + error->message();
   }
   auto state = parse_machine_json(std::get<std::string>(file), dir);

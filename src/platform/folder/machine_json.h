@@ -5,6 +5,7 @@
 // "machine.json: drives[1].type: must be one of fixed, removable, remote, cdrom, ramdisk".
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,9 @@
 #include "platform/folder/machine_state.h"
 
 namespace quillvane {
+
+// What is larger describes no machine.
+inline constexpr std::size_t kMostMachineJson = std::size_t{64} << 20U;
 
 // Reads the text of a machine.json. `dir` is the machine folder, which drive folders are relative
 // to.

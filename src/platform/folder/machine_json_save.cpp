@@ -8,6 +8,7 @@
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_file.h"
 #include "platform/folder/host_path.h"
+#include "platform/folder/json_document.h"
 #include "platform/folder/machine_environment.h"
 #include "platform/folder/machine_json.h"
 #include "platform/unicode_case.h"
@@ -80,9 +81,10 @@ Json document_of(const MachineState& state, const std::filesystem::path& dir) {
 
 // The document in the file; an empty one without the file.
 Json stored_document(const std::string& file) {
-  const auto content = read_host_file(file);
+  const auto content = read_host_file(file, kMostMachineJson);
   const auto* text = std::get_if<std::string>(&content);
-  return text == nullptr ? Json::object() : Json::parse(*text, nullptr, false);
+  if (text == nullptr || json_excess(*text)) return Json::object();
+  return Json::parse(*text, nullptr, false);
 }
 
 // Keeps of `stored` what is in `kept` too, each element of `kept` counting once.

@@ -87,7 +87,11 @@ void append_value(const NamedRegistryValue& named, std::string& out) {
   out += kLineEnd;
 }
 
-bool append_key(const Registry& registry, Hive hive, const std::string& key, std::string& out) {
+// `depth` counts the keys that it lies in. Deeper ones than a registry can have are those of a
+// damaged one, which need not come to an end.
+bool append_key(const Registry& registry, Hive hive, const std::string& key, std::size_t depth,
+                std::string& out) {
+  if (depth > kDeepestKey) return false;
   const auto values = registry.values(hive, key);
   const auto sub_keys = registry.sub_keys(hive, key);
   if (!values || !sub_keys) return false;
@@ -104,7 +108,7 @@ bool append_key(const Registry& registry, Hive hive, const std::string& key, std
   for (const std::string& name : *sub_keys) {
     std::string below = key.empty() ? key : key + "\\";
     below += name;
-    if (!append_key(registry, hive, below, out)) return false;
+    if (!append_key(registry, hive, below, depth + 1, out)) return false;
   }
   return true;
 }
@@ -117,7 +121,7 @@ std::optional<std::string> export_reg_file(const Registry& registry) {
   out += kLineEnd;
   for (const Hive hive :
        {Hive::kClassesRoot, Hive::kCurrentUser, Hive::kLocalMachine, Hive::kUsers}) {
-    if (!append_key(registry, hive, "", out)) return std::nullopt;
+    if (!append_key(registry, hive, "", 0, out)) return std::nullopt;
   }
   return out;
 }

@@ -17,6 +17,25 @@ std::optional<std::int64_t> number(SqliteDatabase& database, const char* sql) {
   return query.number(0);
 }
 
+// What the database is made of, however its text is laid out; nothing when it cannot be told.
+std::optional<std::string> structure(SqliteDatabase& database) {
+  SqliteQuery query = database.query(R"(
+    SELECT type || name || ifnull(replace(replace(replace(sql, ' ', ''), char(10), ''), char(13), ''), '')
+    FROM sqlite_master ORDER BY name)");
+  std::string all;
+  while (query.next()) all += query.bytes(0) + "\n";
+  if (!query.succeeded()) return std::nullopt;
+  return all;
+}
+
+// Tables of another kind, or others beside them, could answer anything.
+bool has_told_structure(SqliteDatabase& database) {
+  auto opened = SqliteDatabase::open(":memory:", SqliteDatabase::Missing::kIsMade);
+  auto* fresh = std::get_if<SqliteDatabase>(&opened);
+  return fresh != nullptr && fresh->run(kRegistryTables) &&
+         structure(database) == structure(*fresh);
+}
+
 std::string failure(const SqliteDatabase& database) {
   if (database.is_locked()) return "is locked by another program";
   return "cannot be read: " + database.last_error();
@@ -38,11 +57,19 @@ std::variant<StoreContent, std::string> inspect_store(SqliteDatabase& database) 
     return std::string("has a format that this version of the program cannot read");
   }
 
-  // A page that was lost would look like keys that are not there.
-  SqliteQuery pages = database.query("PRAGMA quick_check(1)");
+  if (!has_told_structure(database)) return std::string("is damaged: its tables are others");
+
+  // A page that was lost would look like keys that are not there, and an index that fits its table
+  // not would find keys below themselves.
+  SqliteQuery pages = database.query("PRAGMA integrity_check(1)");
   if (!pages.next()) return failure(database);
   const std::string found = pages.bytes(0);
   if (found != "ok") return "is damaged: " + found.substr(found.rfind('\n') + 1);
+
+  // Those numbers are the hives', so such a key would lie above the hive that it lies in.
+  const auto like_hives = number(database, "SELECT count(*) FROM reg_key WHERE id < 0");
+  if (!like_hives) return failure(database);
+  if (*like_hives != 0) return std::string("is damaged: a key lies within itself");
   return StoreContent::kRegistry;
 }
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platform/folder/host_path.h"
+#include "platform/folder/registry_files.h"
 #include "platform/folder/registry_schema.h"
 #include "platform/multi_string.h"
 #include "platform/unicode_case.h"
@@ -16,7 +17,6 @@ namespace quillvane {
 namespace {
 
 constexpr std::size_t kLongestName = 255;
-constexpr std::size_t kDeepest = 512;
 
 std::int64_t hive_id(Hive hive) { return -1 - static_cast<std::int64_t>(hive); }
 
@@ -56,6 +56,7 @@ std::variant<std::unique_ptr<FolderRegistry>, std::string> FolderRegistry::open(
 }
 
 std::optional<std::string> FolderRegistry::connect() const {
+  if (auto problem = registry_files_problem(file_)) return problem;
   std::error_code failed;
   if (!std::filesystem::exists(host_path(file_), failed)) return std::nullopt;
   auto opened = SqliteDatabase::open(file_, SqliteDatabase::Missing::kFails);
@@ -71,6 +72,7 @@ bool FolderRegistry::connected() const { return database_ || (!connect() && data
 
 bool FolderRegistry::make_store() {
   if (connected()) return true;
+  if (registry_files_problem(file_)) return false;
   auto opened = SqliteDatabase::open(file_, SqliteDatabase::Missing::kIsMade);
   auto* database = std::get_if<SqliteDatabase>(&opened);
   if (database == nullptr) return false;
@@ -209,7 +211,7 @@ std::optional<FolderRegistry::KeyId> FolderRegistry::find_sub_key(KeyId parent,
 
 std::optional<FolderRegistry::KeyId> FolderRegistry::make_key(Hive hive, std::string_view key) {
   const std::vector<std::string_view> names = path_names(key);
-  if (names.size() > kDeepest || !std::all_of(names.begin(), names.end(), is_key_name)) {
+  if (names.size() > kDeepestKey || !std::all_of(names.begin(), names.end(), is_key_name)) {
     return std::nullopt;
   }
   std::optional<KeyId> id = hive_id(hive);

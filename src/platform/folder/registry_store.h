@@ -6,6 +6,7 @@
 // control characters, and keys lie at most 512 deep.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -21,6 +22,8 @@
 #include "platform/virtual/effect_log.h"
 
 namespace quillvane {
+
+inline constexpr std::size_t kDeepestKey = 512;  // names of a key's path at most
 
 class FolderRegistry final : public Registry {
  public:

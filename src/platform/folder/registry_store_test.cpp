@@ -11,6 +11,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/folder/host_path.h"
 #include "platform/multi_string.h"
 #include "tests/support/temp_folder.h"
 
@@ -292,9 +293,32 @@ TEST_F(FolderRegistryTest, AStoreOfALaterFormatIsRefused) {
             "registry.db: has a format that this version of the program cannot read");
 }
 
+// The hives' numbers are below zero: such a key is its own hive.
+TEST_F(FolderRegistryTest, AKeyWithinItselfIsRefused) {
+  ASSERT_TRUE(open()->create_key(Hive::kCurrentUser, "Software"));
+  OtherProgram(file()).run("INSERT INTO reg_key VALUES (-3, -3, 'Self', 'SELF')");
+  EXPECT_EQ(open_failure(), "registry.db: is damaged: a key lies within itself");
+}
+
+TEST_F(FolderRegistryTest, AStoreWithOtherTablesIsRefused) {
+  for (const char* change :
+       {"CREATE TABLE more (id)", "CREATE VIEW reg AS SELECT 1",
+        "CREATE TRIGGER t AFTER INSERT ON reg_value BEGIN DELETE FROM reg_key; END",
+        "ALTER TABLE reg_key ADD COLUMN more",
+        "ALTER TABLE reg_key RENAME TO reg; CREATE VIEW reg_key AS SELECT * FROM reg"}) {
+    std::filesystem::remove(host_path(file()));
+    ASSERT_TRUE(open()->create_key(Hive::kCurrentUser, "Software"));
+    EXPECT_EQ(open_failure(), "opened");
+
+    OtherProgram(file()).run(change);
+
+    EXPECT_EQ(open_failure(), "registry.db: is damaged: its tables are others") << change;
+  }
+}
+
 TEST_F(FolderRegistryTest, AFolderInPlaceOfTheStoreIsRefused) {
   folder_.make_folder("registry.db");
-  EXPECT_EQ(open_failure(), "registry.db: cannot be opened: unable to open database file");
+  EXPECT_EQ(open_failure(), "registry.db: is no file");
 }
 
 TEST_F(FolderRegistryTest, ATornStoreIsRefused) {

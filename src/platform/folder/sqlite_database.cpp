@@ -12,6 +12,8 @@ namespace {
 // A scan asks a few dozen questions: waiting longer for each would look like a hang.
 constexpr int kLockTimeoutMs = 50;
 
+constexpr int kLongestValue = 256 << 20;  // bytes
+
 }  // namespace
 
 void SqliteDatabase::CloseDatabase::operator()(sqlite3* database) const {
@@ -31,6 +33,11 @@ std::variant<SqliteDatabase, std::string> SqliteDatabase::open(const std::string
   Database database(opened);
   if (result != SQLITE_OK) return std::string(sqlite3_errstr(result & 0xFF));
   sqlite3_busy_timeout(opened, kLockTimeoutMs);
+  // A file may come from anybody: nothing that it brings along is run, and no value of it is larger
+  // than those of registries are.
+  sqlite3_db_config(opened, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  sqlite3_db_config(opened, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+  sqlite3_limit(opened, SQLITE_LIMIT_LENGTH, kLongestValue);
   return SqliteDatabase(std::move(database));
 }
 

@@ -1,8 +1,8 @@
 #include "platform/win32/file_content.h"
 
 #include <algorithm>
-#include <cwchar>
 
+#include "platform/win32/file_beside.h"
 #include "platform/win32/system_handle.h"
 
 namespace quillvane {
@@ -10,27 +10,6 @@ namespace quillvane {
 namespace {
 
 constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
-constexpr int kMostAttempts = 100;
-
-// A file made by open_beside.
-struct FileBeside {
-  std::wstring path;
-  FileHandle file;
-};
-
-// Makes a new file in the folder of `path`, under a name that no other file has.
-FileBeside open_beside(const std::wstring& path) {
-  const std::wstring folder = path.substr(0, path.find_last_of(L"\\/") + 1);
-  for (DWORD attempt = 0; attempt < kMostAttempts; ++attempt) {
-    wchar_t name[32];
-    std::swprintf(name, std::size(name), L"~q%lx-%lx.tmp", GetCurrentProcessId(), attempt);
-    FileBeside beside{folder + name, {}};
-    beside.file = FileHandle(CreateFileW(beside.path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
-                                         FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (beside.file.is_valid() || GetLastError() != ERROR_FILE_EXISTS) return beside;
-  }
-  return {};
-}
 
 }  // namespace
 
@@ -52,7 +31,7 @@ ReadFailure read_failure(DWORD error) {
   }
 }
 
-FileContent read_to_end(HANDLE file) {
+FileContent read_to_end(HANDLE file, std::uint64_t most) {
   std::string content;
   std::size_t length = 0;
   for (;;) {
@@ -62,7 +41,7 @@ FileContent read_to_end(HANDLE file) {
       return read_failure(GetLastError());
     }
     length += read;
-    if (length > kMostFileContent) return ReadFailure::kTooLarge;
+    if (length > most) return ReadFailure::kTooLarge;
     if (read == 0) break;
   }
   content.resize(length);
@@ -100,15 +79,15 @@ bool replace_whole_file(const std::wstring& path, std::string_view content) {
   if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0) {
     return false;
   }
-  FileBeside beside = open_beside(path);
+  const FileBeside beside = make_file_beside(path.substr(0, path.find_last_of(L"\\/") + 1));
   if (!beside.file.is_valid()) return false;
-  const bool is_complete = write_to_disk(beside.file.get(), content);
-  beside.file = FileHandle();
-  if (is_complete && MoveFileExW(beside.path.c_str(), path.c_str(),
-                                 MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) {
+  if (write_to_disk(beside.file.get(), content) && move_file(beside.file.get(), path, true)) {
+    FlushFileBuffers(beside.file.get());  // the name lasts too
     return true;
   }
-  DeleteFileW(beside.path.c_str());
+  const DWORD why = GetLastError();
+  static_cast<void>(remove_when_closed(beside.file.get()));
+  SetLastError(why);
   return false;
 }
 

@@ -3,6 +3,7 @@
 
 #include <windows.h>
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -14,8 +15,8 @@ namespace quillvane {
 // one on the way, that is kMissing.
 [[nodiscard]] ReadFailure read_failure(DWORD error);
 
-// What an open file holds from where it stands on.
-[[nodiscard]] FileContent read_to_end(HANDLE file);
+// What an open file holds from where it stands on; kTooLarge beyond `most` bytes.
+[[nodiscard]] FileContent read_to_end(HANDLE file, std::uint64_t most = kMostFileContent);
 
 // Writes all of it and sees that it is on the disk.
 [[nodiscard]] bool write_to_disk(HANDLE file, std::string_view content);

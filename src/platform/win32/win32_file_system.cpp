@@ -192,6 +192,8 @@ RemoveResult Win32FileSystem::remove_file(const std::string& path) {
     case ERROR_LOCK_VIOLATION:
     case ERROR_USER_MAPPED_FILE:
       return RemoveResult::kInUse;
+    case ERROR_WRITE_PROTECT:
+      return RemoveResult::kWriteProtected;
     default:
       return refused(*wide);
   }

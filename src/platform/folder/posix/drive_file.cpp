@@ -1,15 +1,14 @@
 #include "platform/folder/posix/drive_file.h"
 
 #include <fcntl.h>
-#include <stdio.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
 
 #include "platform/folder/posix/file_attributes.h"
+#include "platform/folder/posix/file_beside.h"
 
 namespace quillvane {
 
@@ -39,16 +38,6 @@ FileContent read_to_end(int file, std::size_t expected) {
   }
   content.resize(used);
   return content;
-}
-
-bool write_all(int file, std::string_view content) {
-  while (!content.empty()) {
-    const ssize_t written = write(file, content.data(), content.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return false;
-    content.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
 }
 
 // Copies the bytes from `begin` to before `end`, which lie at the same places in both files.
@@ -82,37 +71,6 @@ bool copy_extents(int from, int to) {
   return true;
 }
 
-// A new file beside those of a folder, gone with the object unless it was put in place.
-class FileBeside {
- public:
-  explicit FileBeside(int folder) : folder_(folder) {
-    static std::atomic<unsigned> last_number = 0;
-    do {
-      name_ = ".quillvane-" + std::to_string(getpid()) + "-" + std::to_string(++last_number);
-      file_ = Descriptor(openat(folder_, name_.c_str(),
-                                O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
-    } while (!file_.is_open() && errno == EEXIST);
-  }
-  ~FileBeside() {
-    if (file_.is_open() && !in_place_) unlinkat(folder_, name_.c_str(), 0);
-  }
-  FileBeside(const FileBeside&) = delete;
-  FileBeside& operator=(const FileBeside&) = delete;
-
-  [[nodiscard]] int file() const { return file_.number(); }
-
-  bool put_in_place(const std::string& name) {
-    in_place_ = renameat(folder_, name_.c_str(), folder_, name.c_str()) == 0;
-    return in_place_;
-  }
-
- private:
-  int folder_;
-  std::string name_;
-  Descriptor file_;
-  bool in_place_ = false;
-};
-
 }  // namespace
 
 ReadFailure read_failure(int error) {
@@ -145,8 +103,8 @@ FillFile content_of(const HostPlace& original) {
 }
 
 bool replace_drive_file(const HostEntry& entry, const HostPlace* old, const FillFile& fill) {
-  FileBeside beside(entry.folder.object.number());
-  if (!fill(beside.file())) return false;
+  FileBeside beside(entry.folder.object.number(), 0666);
+  if (beside.problem() || !fill(beside.file())) return false;
   if (old != nullptr) {
     // Without the right to give files away it stays the writer's.
     [[maybe_unused]] const int owned =
@@ -154,10 +112,7 @@ bool replace_drive_file(const HostEntry& entry, const HostPlace* old, const Fill
     if (fchmod(beside.file(), old->status.stx_mode & 07777U) != 0) return false;
     copy_file_attributes(*old, beside.file());
   }
-  if (fsync(beside.file()) != 0 || !beside.put_in_place(entry.name)) return false;
-  const Descriptor folder = open_for_listing(entry.folder);
-  if (folder.is_open()) fsync(folder.number());  // the name lasts too
-  return true;
+  return !beside.put_in_place(entry.name);
 }
 
 }  // namespace quillvane

@@ -13,7 +13,9 @@
 #include <iterator>
 #include <memory>
 
+#include "platform/file_system.h"
 #include "platform/folder/posix/directory_listing.h"
+#include "platform/folder/posix/ntfs_disk.h"
 
 namespace quillvane {
 
@@ -71,6 +73,26 @@ std::optional<std::string_view> part_below(std::string_view path, std::string_vi
   return path;
 }
 
+// `known` is a place beside which this one was found: mostly both lie on the same disk.
+void settle_beside(HostPlace& place, const HostStatus& known, bool known_on_ntfs) {
+  const bool same_disk = place.status.stx_dev_major == known.stx_dev_major &&
+                         place.status.stx_dev_minor == known.stx_dev_minor;
+  place.on_ntfs = same_disk ? known_on_ntfs : lies_on_ntfs(place.object.number());
+  if (!place.on_ntfs || !is_link(place.status)) return;
+  const NtfsObject object(place.object.number());
+  if (object.link().kind != NtfsLink::Kind::kNone) return;
+  // The host knows no tags but those of links, and shows all others as links that lead nowhere.
+  const bool folder = (object.attributes().value_or(0) & kAttributeFolder) != 0;
+  const unsigned kind = folder ? S_IFDIR : S_IFREG;
+  place.status.stx_mode =
+      static_cast<decltype(place.status.stx_mode)>((place.status.stx_mode & ~S_IFMT) | kind);
+}
+
+std::string with_slashes(std::string path) {
+  std::replace(path.begin(), path.end(), '\\', '/');
+  return path;
+}
+
 }  // namespace
 
 // One way down from the drive's folder: where it has come to, and the names still to go.
@@ -116,13 +138,14 @@ class DriveFolder::Way {
     auto next = open_entry(entry);
     const bool link = next && is_link(next->status);
     here_ = link || !next ? std::move(entry.folder) : std::move(*next);
-    return link ? follow(next->object.number()) : next.has_value();
+    return link ? follow(*next) : next.has_value();
   }
 
-  bool follow(int link) {
-    const auto target = read_link(link);
-    if (!target) return false;
+  bool follow(const HostPlace& link) {
     if (++links_ > kMostLinks) return leads_nowhere();
+    if (link.on_ntfs) return follow(NtfsObject(link.object.number()).link());
+    const auto target = read_link(link.object.number());
+    if (!target) return false;
     if (!target->starts_with('/')) {
       push_names(*target, still_to_go_);
       return true;
@@ -134,16 +157,31 @@ class DriveFolder::Way {
     return start_again("");
   }
 
+  bool follow(const NtfsLink& link) {
+    const bool own_drive = link.kind == NtfsLink::Kind::kOnDrive && link.letter == drive_.letter_;
+    const bool from_root = own_drive || link.kind == NtfsLink::Kind::kOwnRoot;
+    if (!from_root && link.kind != NtfsLink::Kind::kRelative) return leads_nowhere();
+    push_names(with_slashes(link.target), still_to_go_);
+    return !from_root || start_again("");
+  }
+
   const DriveFolder& drive_;
   HostPlace here_;
   std::vector<std::string> still_to_go_;
   int links_ = 0;
 };
 
-DriveFolder::DriveFolder(const std::string& host_folder)
+DriveFolder::DriveFolder(const std::string& host_folder, char letter)
     : host_folder_(host_folder),
+      letter_(letter),
       folder_(open(host_folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)),
-      error_(folder_.is_open() ? 0 : errno) {}
+      error_(folder_.is_open() ? 0 : errno) {
+  if (folder_.is_open() && read_status(folder_.number(), status_)) {
+    on_ntfs_ = lies_on_ntfs(folder_.number());
+  }
+}
+
+void DriveFolder::settle(HostPlace& place) const { settle_beside(place, status_, on_ntfs_); }
 
 std::optional<HostPlace> DriveFolder::root() const {
   if (!folder_.is_open()) {
@@ -155,6 +193,7 @@ std::optional<HostPlace> DriveFolder::root() const {
   if (!place.object.is_open() || !read_status(place.object.number(), place.status)) {
     return std::nullopt;
   }
+  settle(place);
   return place;
 }
 
@@ -168,16 +207,18 @@ std::optional<HostPlace> DriveFolder::find_stored(const std::string& path) const
   }
   if (!place || !read_status(place->object.number(), place->status)) return std::nullopt;
   place->path = path;
+  settle(*place);
   return place;
 }
 
 std::optional<HostPlace> DriveFolder::find_as_spelt(std::span<const std::string> names) const {
   const std::string path = joined(names);
   HostPlace place{path, open_at_once(folder_.number(), path), {}};
-  if (!place.object.is_open() || !read_status(place.object.number(), place.status) ||
-      is_link(place.status)) {
+  if (!place.object.is_open() || !read_status(place.object.number(), place.status)) {
     return std::nullopt;
   }
+  settle(place);
+  if (is_link(place.status)) return std::nullopt;
   return place;
 }
 
@@ -224,7 +265,13 @@ std::optional<HostPlace> open_entry(const HostEntry& entry) {
     return std::nullopt;
   }
   place.path = entry.folder.path.empty() ? entry.name : entry.folder.path + "/" + entry.name;
+  settle_beside(place, entry.folder.status, entry.folder.on_ntfs);
   return place;
+}
+
+FileTime created_time(const HostPlace& place) {
+  const auto stored = place.on_ntfs ? NtfsObject(place.object.number()).created() : std::nullopt;
+  return stored.value_or(created_time(place.status));
 }
 
 Descriptor open_for_listing(const HostPlace& place) {

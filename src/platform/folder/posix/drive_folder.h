@@ -22,7 +22,9 @@ namespace quillvane {
 struct HostPlace {
   std::string path;   // from the drive's folder on, as stored and without links; "" is the drive
   Descriptor object;  // to find and ask by (O_PATH), not to read from
-  HostStatus status;
+  HostStatus
+      status;  // where the host shows a link that is none to Windows, that of a file or folder
+  bool on_ntfs = false;  // on a mounted NTFS disk (ntfs_disk.h)
 };
 
 // A name in a folder; what bears it may be a link.
@@ -34,7 +36,12 @@ struct HostEntry {
 class DriveFolder {
  public:
   // A folder that cannot be opened is a drive on which nothing is found.
-  explicit DriveFolder(const std::string& host_folder);
+  // `letter` is the drive's, in upper case: links on an NTFS disk lead to letters. One that leads
+  // to another drive leads nowhere.
+  explicit DriveFolder(const std::string& host_folder, char letter = 0);
+
+  // Whether its folder lies on a mounted NTFS disk.
+  [[nodiscard]] bool is_on_ntfs() const { return on_ntfs_; }
 
   // Goes down the names without regard to case and follows links, the last one too.
   [[nodiscard]] std::optional<HostPlace> find(std::span<const std::string> names) const;
@@ -58,13 +65,22 @@ class DriveFolder {
   // The same in one step; most paths are spelt as stored. Nothing also means: look closer.
   [[nodiscard]] std::optional<HostPlace> find_as_spelt(std::span<const std::string> names) const;
 
+  // What the host alone does not tell of a place that was just opened.
+  void settle(HostPlace& place) const;
+
   std::string host_folder_;
+  char letter_;
   Descriptor folder_;
   int error_;  // why it is not open
+  HostStatus status_{};
+  bool on_ntfs_ = false;
 };
 
 // What bears the name: a link itself and not where it leads. Nothing when it is gone.
 [[nodiscard]] std::optional<HostPlace> open_entry(const HostEntry& entry);
+
+// When a file or folder was made.
+[[nodiscard]] FileTime created_time(const HostPlace& place);
 
 // Opens a folder that was found for reading its names.
 [[nodiscard]] Descriptor open_for_listing(const HostPlace& place);

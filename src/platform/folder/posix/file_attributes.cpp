@@ -11,6 +11,7 @@
 #include <string_view>
 
 #include "platform/file_system.h"
+#include "platform/folder/posix/ntfs_disk.h"
 
 namespace quillvane {
 
@@ -70,20 +71,34 @@ std::uint32_t attributes_of(const HostStatus& status, const std::optional<std::s
   return kAttributeArchive | (writable ? 0 : kAttributeReadOnly);
 }
 
+// Of a file on an NTFS disk whose attributes cannot be told nothing is known that would allow to
+// remove it.
+std::uint32_t ntfs_attributes_of(const HostStatus& status, const NtfsObject& object) {
+  const std::uint32_t kind = is_folder(status) ? kAttributeFolder : 0;
+  const std::uint32_t stored = object.attributes().value_or(kAttributeReadOnly);
+  const std::uint32_t bits = (stored & kSettable) | kind;
+  return bits == 0 ? kAttributeNormal : bits;
+}
+
 }  // namespace
 
 std::uint32_t read_file_attributes(const HostPlace& place) {
+  if (place.on_ntfs) return ntfs_attributes_of(place.status, NtfsObject(place.object.number()));
   return attributes_of(place.status, stored_text(path_of(place), getxattr));
 }
 
 std::uint32_t read_file_attributes(const HostPlace& folder, const std::string& name,
                                    const HostStatus& status) {
+  if (folder.on_ntfs) {
+    return ntfs_attributes_of(status, NtfsObject(folder.object.number(), name));
+  }
   return attributes_of(status, stored_text(path_of(folder) + "/" + name, lgetxattr));
 }
 
 bool write_file_attributes(const HostPlace& place, std::uint32_t bits) {
   const bool folder = is_folder(place.status);
   bits &= kSettable;
+  if (place.on_ntfs) return NtfsObject(place.object.number()).set_attributes(kSettable, bits);
   const std::uint32_t kind = folder ? kAttributeFolder : 0;
   const std::string text = formatted((bits | kind) == 0 ? kAttributeNormal : bits | kind);
   if (store(place, text)) return true;
@@ -98,6 +113,11 @@ bool write_file_attributes(const HostPlace& place, std::uint32_t bits) {
 }
 
 void copy_file_attributes(const HostPlace& from, int to) {
+  if (from.on_ntfs) {
+    const auto bits = NtfsObject(from.object.number()).attributes();
+    if (bits) static_cast<void>(NtfsObject(to).set_attributes(kSettable, *bits));
+    return;
+  }
   if (const auto text = stored_text(path_of(from), getxattr))
     fsetxattr(to, kName, text->data(), text->size(), 0);
 }

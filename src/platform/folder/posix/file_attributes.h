@@ -1,5 +1,6 @@
 // Windows' attributes of a file of the host. They live in the extended attribute "user.DOSATTRIB"
 // as text ("0x21"). Without one, a file is read-only when its owner may not write it, and archive.
+// On a mounted NTFS disk they are those of the disk.
 #pragma once
 
 #include <cstdint>
@@ -20,7 +21,7 @@ namespace quillvane {
 // kept, as the owner's right to write. False when the host refuses.
 [[nodiscard]] bool write_file_attributes(const HostPlace& place, std::uint32_t bits);
 
-// Gives an open file the extended attribute that `from` has, if any.
+// Gives an open file the attributes that `from` has stored, if any.
 void copy_file_attributes(const HostPlace& from, int to);
 
 }  // namespace quillvane

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <span>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -40,6 +41,8 @@ RemoveResult result_of(int error) {
       return RemoveResult::kInUse;
     case EIO:
       return RemoveResult::kUnreadable;
+    case EROFS:
+      return RemoveResult::kWriteProtected;
     default:
       return RemoveResult::kDenied;
   }
@@ -278,8 +281,12 @@ void FolderFileSystem::expect_removals(const std::vector<std::string>& paths) {
     const auto& folder = folders.find(std::string_view(path).substr(0, name));
     if (folder) files.push_back({path, folder, path.substr(name)});
   }
-  if (!ahead_) ahead_ = std::make_unique<RemovalAhead>();
-  ahead_->expect(std::move(files));
+  try {
+    if (!ahead_) ahead_ = std::make_unique<RemovalAhead>();
+    ahead_->expect(std::move(files));
+  } catch (const std::system_error&) {
+    // The host gives no thread; each file is looked at when it is removed.
+  }
 }
 
 RemoveResult FolderFileSystem::remove_file(const std::string& path) {

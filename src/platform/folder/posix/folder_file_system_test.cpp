@@ -91,9 +91,9 @@ TEST_F(FolderFileSystemTest, TellsWhyTheHostDidNotRemove) {
   const struct {
     int error;
     RemoveResult result;
-  } cases[] = {{ENOENT, RemoveResult::kMissing}, {EBUSY, RemoveResult::kInUse},
-               {ETXTBSY, RemoveResult::kInUse},  {EIO, RemoveResult::kUnreadable},
-               {EROFS, RemoveResult::kDenied},   {EPERM, RemoveResult::kDenied}};
+  } cases[] = {{ENOENT, RemoveResult::kMissing},       {EBUSY, RemoveResult::kInUse},
+               {ETXTBSY, RemoveResult::kInUse},        {EIO, RemoveResult::kUnreadable},
+               {EROFS, RemoveResult::kWriteProtected}, {EPERM, RemoveResult::kDenied}};
   for (const auto& c : cases) {
     with_failing_calls({SYS_unlinkat}, c.error, [&] {
       EXPECT_EQ(files.remove_file("C:\\Temp\\a.tmp"), c.result) << c.error;
@@ -331,6 +331,16 @@ TEST_F(ExpectedRemovalTest, RemovesInAnyOrderAndWhatWasNotExpected) {
     ASSERT_EQ(files.remove_file(paths[i]), RemoveResult::kRemoved) << i;
     ASSERT_EQ(files.remove_file(paths[i]), RemoveResult::kMissing) << i;
   }
+  EXPECT_EQ(list("C:\\Temp"), Names());
+}
+
+TEST_F(ExpectedRemovalTest, RemovesWhenTheHostGivesNoThreads) {
+  with_failing_calls({SYS_clone, SYS_clone3}, EAGAIN, [&] {
+    files.expect_removals(paths);
+    for (const std::string& path : paths) {
+      ASSERT_EQ(files.remove_file(path), RemoveResult::kRemoved) << path;
+    }
+  });
   EXPECT_EQ(list("C:\\Temp"), Names());
 }
 

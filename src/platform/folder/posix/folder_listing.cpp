@@ -11,11 +11,12 @@ namespace quillvane {
 namespace {
 
 FolderEntry entry_of(const std::string& name, const NamedFile& file) {
-  const HostStatus& status = file.place().status;
+  const HostPlace& place = file.place();
+  const HostStatus& status = place.status;
   return {name,
           file.attributes(),
           is_folder(status) ? 0 : status.stx_size,
-          created_time(status),
+          created_time(place),
           file_time(status.stx_atime),
           file_time(status.stx_mtime)};
 }

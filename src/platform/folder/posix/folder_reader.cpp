@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/folder/posix/listed_links.h"
+#include "platform/folder/posix/ntfs_disk.h"
 
 namespace quillvane {
 
@@ -12,11 +13,12 @@ namespace {
 using Entry = DirectoryListing::Entry;
 using Kind = DirectoryListing::Kind;
 
-ListedFolder::FixedRecord record_of(const HostStatus& status, std::size_t name_end) {
+ListedFolder::FixedRecord record_of(const HostStatus& status, FileTime created,
+                                    std::size_t name_end) {
   using SplitTime = ListedFolder::SplitTime;
   return {static_cast<std::uint32_t>(status.stx_size),
           static_cast<std::uint32_t>(status.stx_size >> 32U),
-          SplitTime::of(created_time(status)),
+          SplitTime::of(created),
           SplitTime::of(file_time(status.stx_atime)),
           SplitTime::of(file_time(status.stx_mtime)),
           static_cast<std::uint32_t>(name_end)};
@@ -62,12 +64,13 @@ void FolderReader::add_files(const FolderInWork& work) {
   std::size_t name_end = 0;
   for (Entry& entry : listing_.entries()) {
     HostStatus status;
-    if (!read_file_status(work, entry, status)) {
+    FileTime created;
+    if (!read_file_status(work, entry, status, created)) {
       entry.matches = 0;
       continue;
     }
     name_end += entry.name_length;
-    records[kept++] = record_of(status, name_end);
+    records[kept++] = record_of(status, created, name_end);
   }
   if (kept < listed) {
     listing_.drop_if([](const Entry& entry) { return entry.matches == 0; });
@@ -77,14 +80,20 @@ void FolderReader::add_files(const FolderInWork& work) {
 }
 
 bool FolderReader::read_file_status(const FolderInWork& work, const Entry& entry,
-                                    HostStatus& status) const {
+                                    HostStatus& status, FileTime& created) const {
   const char* name = listing_.host_name(entry);
   if (entry.kind == Kind::kLinkToFile) {
     const auto target = scope_.drive.follow(work.route->path_of(*work.folder), name);
-    if (target) status = target->status;
-    return target && is_file(status);
+    if (!target) return false;
+    status = target->status;
+    created = created_time(*target);
+    return is_file(status);
   }
-  return quillvane::read_status(work.descriptor.number(), name, status) && is_file(status);
+  const int folder = work.descriptor.number();
+  if (!quillvane::read_status(folder, name, status) || !is_file(status)) return false;
+  const auto stored = scope_.drive.is_on_ntfs() ? NtfsObject(folder, name).created() : std::nullopt;
+  created = stored.value_or(created_time(status));
+  return true;
 }
 
 void FolderReader::add_names(ListedFolder& folder, char* names) {

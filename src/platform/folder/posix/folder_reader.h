@@ -24,8 +24,8 @@ class FolderReader {
   std::size_t add_subfolders(ListedFolder& folder);
   void add_files(const FolderInWork& work);
   [[nodiscard]] bool read_file_status(const FolderInWork& work,
-                                      const DirectoryListing::Entry& entry,
-                                      HostStatus& status) const;
+                                      const DirectoryListing::Entry& entry, HostStatus& status,
+                                      FileTime& created) const;
   void add_names(ListedFolder& folder, char* names);
 
   const TreeScope& scope_;

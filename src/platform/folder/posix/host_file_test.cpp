@@ -1,7 +1,9 @@
 #include "platform/folder/host_file.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <system_error>
@@ -15,7 +17,7 @@ namespace {
 namespace fs = std::filesystem;
 
 std::error_code read_error(const std::string& path) {
-  const auto result = read_host_file(path);
+  const auto result = read_host_file(path, 1000);
   const auto* error = std::get_if<std::error_code>(&result);
   return error == nullptr ? std::error_code() : *error;
 }
@@ -24,13 +26,32 @@ TEST(HostFile, ReadsTheWholeContent) {
   const TempFolder folder;
   const std::string content = std::string(200'000, 'a') + '\0' + "end";
   folder.write("a", content);
-  EXPECT_EQ(std::get<std::string>(read_host_file(folder.path_of("a"))), content);
+  EXPECT_EQ(std::get<std::string>(read_host_file(folder.path_of("a"), content.size())), content);
 }
 
 TEST(HostFile, TellsWhyAFileCannotBeRead) {
   const TempFolder folder;
   EXPECT_EQ(read_error(folder.path_of("none")), std::errc::no_such_file_or_directory);
   EXPECT_EQ(read_error(folder.path()), std::errc::is_a_directory);
+}
+
+// A pipe that nobody writes to would be waited for, and a device need not come to an end.
+TEST(HostFile, ReadsNothingButFiles) {
+  const TempFolder folder;
+  ASSERT_EQ(mkfifo(folder.path_of("pipe").c_str(), 0600), 0);
+  folder.make_link("zero", "/dev/zero");
+  EXPECT_EQ(read_error(folder.path_of("pipe")), std::errc::no_such_device);
+  EXPECT_EQ(read_error(folder.path_of("zero")), std::errc::no_such_device);
+}
+
+TEST(HostFile, ReadsNoMoreThanIsAskedFor) {
+  const TempFolder folder;
+  folder.write("a", std::string(1000, 'a'));
+  folder.write("b", std::string(1001, 'b'));
+  folder.write_sparse("large", std::uintmax_t{1} << 40U);
+  EXPECT_EQ(read_error(folder.path_of("a")), std::error_code());
+  EXPECT_EQ(read_error(folder.path_of("b")), std::errc::file_too_large);
+  EXPECT_EQ(read_error(folder.path_of("large")), std::errc::file_too_large);
 }
 
 TEST(HostFile, ReplacesTheContentAndKeepsThePermissions) {

@@ -11,7 +11,7 @@ std::optional<WindowsPath> MachinePaths::parse(std::string_view text) const {
 }
 
 DriveFolder MachinePaths::drive(char letter) const {
-  return DriveFolder(drive_host_folder(machine_, letter));
+  return DriveFolder(drive_host_folder(machine_, letter), letter);
 }
 
 std::optional<HostPlace> MachinePaths::find(std::string_view path) const {

@@ -1,6 +1,7 @@
 #include "platform/folder/win32/folder_entries.h"
 
 #include "platform/folder/win32/held_file.h"
+#include "platform/win32/file_beside.h"
 #include "platform/win32/folder_listing.h"
 #include "platform/win32/long_path.h"
 #include "platform/win32/wide_text.h"

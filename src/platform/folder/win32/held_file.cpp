@@ -1,10 +1,9 @@
 #include "platform/folder/win32/held_file.h"
 
-#include <atomic>
-#include <cstring>
-#include <vector>
+#include <utility>
 
 #include "platform/file_system.h"
+#include "platform/win32/file_beside.h"
 #include "platform/win32/file_content.h"
 #include "platform/win32/long_path.h"
 
@@ -26,24 +25,15 @@ bool change_basics(HANDLE handle, std::uint32_t attributes, std::optional<FILETI
   return SetFileInformationByHandle(handle, FileBasicInfo, &info, sizeof info) != 0;
 }
 
-// A new file in a folder, under a name that no other has. Not valid when none can be made there.
+// Not valid when none can be made there.
 FileHandle make_beside(const HeldPlace& folder) {
-  static std::atomic<unsigned> last_number = 0;
-  for (;;) {
-    const std::wstring path =
-        path_below(folder.path, L".quillvane-" + std::to_wstring(GetCurrentProcessId()) + L"-" +
-                                    std::to_wstring(++last_number));
-    constexpr DWORD kNeeded = GENERIC_WRITE | DELETE | FILE_READ_ATTRIBUTES;
-    FileHandle file(
-        CreateFileW(path.c_str(), kNeeded, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file.is_valid() && GetLastError() == ERROR_FILE_EXISTS) continue;
-    if (file.is_valid() && place_of(file.get()) != path) {
-      // Made elsewhere: something has been put in the way.
-      static_cast<void>(remove_when_closed(file.get()));
-      return {};
-    }
-    return file;
+  FileBeside beside = make_file_beside(path_below(folder.path, L""));
+  if (beside.file.is_valid() && place_of(beside.file.get()) != beside.path) {
+    // Made elsewhere: something has been put in the way.
+    static_cast<void>(remove_when_closed(beside.file.get()));
+    return {};
   }
+  return std::move(beside.file);
 }
 
 }  // namespace
@@ -58,23 +48,8 @@ bool change(const HeldPlace& place, std::uint32_t attributes, std::optional<FILE
   return change_basics(place.handle.get(), attributes, written);
 }
 
-bool remove_when_closed(HANDLE handle) {
-  FILE_DISPOSITION_INFO info{TRUE};
-  return SetFileInformationByHandle(handle, FileDispositionInfo, &info, sizeof info) != 0;
-}
-
 bool move_to(HANDLE file, const HeldPlace& folder, const std::wstring& name, Taken taken) {
-  const std::wstring path = path_below(folder.path, name);
-  const std::size_t bytes = path.size() * sizeof(wchar_t);
-  // The path stands behind the fields, with a zero that is not counted.
-  std::vector<FILE_RENAME_INFO> room((sizeof(FILE_RENAME_INFO) + bytes) / sizeof(FILE_RENAME_INFO) +
-                                     1);
-  FILE_RENAME_INFO& info = room.front();
-  info.ReplaceIfExists = taken == Taken::kIsReplaced;
-  info.FileNameLength = static_cast<DWORD>(bytes);
-  std::memcpy(info.FileName, path.data(), bytes);
-  return SetFileInformationByHandle(file, FileRenameInfo, &info,
-                                    static_cast<DWORD>(sizeof(FILE_RENAME_INFO) + bytes)) != 0;
+  return move_file(file, path_below(folder.path, name), taken == Taken::kIsReplaced);
 }
 
 FileContent read_content(const HeldPlace& file) {

@@ -22,10 +22,6 @@ namespace quillvane {
 [[nodiscard]] bool change(const HeldPlace& place, std::uint32_t attributes,
                           std::optional<FILETIME> written = std::nullopt);
 
-// Removes a file or an empty folder when its last handle is closed; a file that is read-only stays.
-// Requires: opened with Access::kMoved or kRemoved.
-[[nodiscard]] bool remove_when_closed(HANDLE handle);
-
 enum class Taken { kFails, kIsReplaced };
 
 // Gives a file the name `name` in `folder`. Requires: opened with Access::kMoved.

@@ -2,6 +2,8 @@
 
 #include <windows.h>
 
+#include <cstdint>
+
 #include "platform/folder/win32/host_error.h"
 #include "platform/win32/file_content.h"
 #include "platform/win32/long_path.h"
@@ -9,12 +11,21 @@
 
 namespace quillvane {
 
-std::variant<std::string, std::error_code> read_host_file(const std::string& path) {
+std::variant<std::string, std::error_code> read_host_file(const std::string& path,
+                                                          std::size_t most_bytes) {
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const FileHandle file(CreateFileW(long_path(path).c_str(), GENERIC_READ, kShareAll, nullptr,
                                     OPEN_EXISTING, 0, nullptr));
   if (!file.is_valid()) return last_host_error();
-  const FileContent content = read_to_end(file.get());
+  if (GetFileType(file.get()) != FILE_TYPE_DISK) {
+    return std::make_error_code(std::errc::no_such_device);
+  }
+  LARGE_INTEGER size;
+  if (!GetFileSizeEx(file.get(), &size)) return last_host_error();
+  if (static_cast<std::uint64_t>(size.QuadPart) > most_bytes) {
+    return std::make_error_code(std::errc::file_too_large);
+  }
+  const FileContent content = read_to_end(file.get(), most_bytes);
   if (content) return *content;
   if (content == ReadFailure::kTooLarge) return std::make_error_code(std::errc::file_too_large);
   return last_host_error();

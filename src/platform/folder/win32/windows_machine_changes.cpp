@@ -8,6 +8,7 @@
 #include "platform/folder/win32/held_file.h"
 #include "platform/folder/win32/windows_machine_files.h"
 #include "platform/win32/disk_error.h"
+#include "platform/win32/file_beside.h"
 #include "platform/win32/long_path.h"
 #include "platform/win32/wide_text.h"
 
@@ -35,6 +36,8 @@ RemoveResult refused(DWORD error) {
     case ERROR_LOCK_VIOLATION:
     case ERROR_USER_MAPPED_FILE:
       return RemoveResult::kInUse;
+    case ERROR_WRITE_PROTECT:
+      return RemoveResult::kWriteProtected;
     default:
       return RemoveResult::kDenied;
   }

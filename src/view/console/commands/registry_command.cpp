@@ -1,15 +1,21 @@
 // registry export, registry import.
 
 #include <CLI/CLI.hpp>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
+#include <cstddef>
+#include <system_error>
 #include <variant>
 
 #include "view/console/console_command.h"
 #include "view/console/input_file.h"
 
 namespace quillvane {
+
+namespace {
+
+// Larger than any registry that somebody exported; an endless device would take the whole memory.
+constexpr std::size_t kMostRegFile = std::size_t{256} << 20U;
+
+}  // namespace
 
 std::function<int()> prepare_registry_export(CLI::App& app, ConsoleSession& session) {
   const auto dir = std::make_shared<std::string>();
@@ -32,9 +38,11 @@ std::function<int()> prepare_registry_import(CLI::App& app, ConsoleSession& sess
   return [&session, dir, file] {
     InputFile input(*file, session.io.in);
     if (!input.opened()) return session.problem(*file + ": cannot be read");
-    const std::string content{std::istreambuf_iterator<char>(input.stream()), {}};
-    if (input.stream().bad()) return session.problem(*file + ": cannot be read");
-    const auto problem = session.host.import_registry(*dir, content);
+    const auto content = input.read_all(kMostRegFile);
+    if (const auto* error = std::get_if<std::error_code>(&content)) {
+      return session.problem(*file + ": cannot be read: " + error->message());
+    }
+    const auto problem = session.host.import_registry(*dir, std::get<std::string>(content));
     return problem ? session.problem(problem->text) : kDone;
   };
 }

@@ -10,10 +10,21 @@ constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
 }  // namespace
 
+// Of a line that never ends no more is read than is needed to tell that it is too long.
+bool ScriptReader::read_line(std::string& text) {
+  text.clear();
+  for (char c = 0; text.size() <= kLongestScriptLine && source_.get(c);) {
+    if (c == '\n') return true;
+    text.push_back(c);
+  }
+  return !text.empty();
+}
+
 std::optional<ScriptLine> ScriptReader::next() {
   std::string text;
-  while (std::getline(source_, text)) {
+  while (read_line(text)) {
     ++number_;
+    if (text.size() > kLongestScriptLine) return ScriptLine{number_, std::move(text)};
     if (number_ == 1 && text.starts_with(kByteOrderMark)) text.erase(0, kByteOrderMark.size());
     const std::size_t first = text.find_first_not_of(" \t\r");
     if (first == std::string::npos || text[first] == '#') continue;

@@ -1,15 +1,19 @@
 // The lines of a script that hold a command, one after the other.
 #pragma once
 
+#include <cstddef>
 #include <istream>
 #include <optional>
 #include <string>
 
 namespace quillvane {
 
+// Bytes; what is longer is no line that somebody wrote.
+inline constexpr std::size_t kLongestScriptLine = std::size_t{1} << 20U;
+
 struct ScriptLine {
-  int number = 0;  // from 1
-  std::string text;
+  int number = 0;    // from 1
+  std::string text;  // of one that is too long the beginning, which is too long itself
 
   friend bool operator==(const ScriptLine&, const ScriptLine&) = default;
 };
@@ -25,6 +29,9 @@ class ScriptReader {
   [[nodiscard]] std::optional<ScriptLine> next();
 
  private:
+  // False behind the last line.
+  [[nodiscard]] bool read_line(std::string& text);
+
   std::istream& source_;
   int number_ = 0;
 };

@@ -35,6 +35,15 @@ TEST(ScriptReader, AFileOfWindowsReadsTheSame) {
   EXPECT_EQ(lines_of("\xEF\xBB\xBF# mark\r\n\r\nended\r\n"), (Lines{{3, "ended\r"}}));
 }
 
+// As /dev/zero gives it.
+TEST(ScriptReader, OfALineWithoutEndReadsTheBeginning) {
+  std::istringstream source("ended\n" + std::string(3 * kLongestScriptLine, '\0'));
+  ScriptReader reader(source);
+  EXPECT_EQ(reader.next(), (ScriptLine{1, "ended"}));
+
+  EXPECT_EQ(reader.next(), (ScriptLine{2, std::string(kLongestScriptLine + 1, '\0')}));
+}
+
 TEST(ScriptReader, AnEmptyScriptHasNoLines) { EXPECT_EQ(lines_of(""), Lines{}); }
 
 TEST(ScriptReader, ReadsOnlyTheLineThatIsAskedFor) {

@@ -6,6 +6,14 @@
 
 namespace quillvane {
 
+namespace {
+
+// Commands that run inside of others, as those do that were told to wait for the loop. Each takes
+// room on the stack.
+constexpr int kDeepestNesting = 100;
+
+}  // namespace
+
 ScriptRunner::ScriptRunner(std::istream& script, std::ostream& out, ConsoleMachine& machine,
                            DrivenProgram& program)
     : reader_(script),
@@ -31,6 +39,7 @@ void ScriptRunner::run_until(const std::function<bool()>& done) {
   while (!problem_ && out_ && !done()) {
     const auto line = reader_.next();
     if (!line) return;
+    if (line->text.size() > kLongestScriptLine) return fail(line->number, "is too long");
     try {
       execute(line->number, split_words(line->text));
     } catch (const ScriptError& error) {
@@ -43,8 +52,11 @@ void ScriptRunner::execute(int line, const ScriptWords& words) {
   const ScriptCommand& command = find_command(words);
   if (command.kind == ScriptCommand::Kind::kDriving && context_.program.ended()) return;
   // A command may serve the loop, and there another one runs before this one has ended.
+  if (nesting_ == kDeepestNesting) throw ScriptError("too many commands run inside each other");
   const int outer_line = std::exchange(context_.line, line);
+  ++nesting_;
   command.run(context_, ScriptArguments(words).subspan(1));
+  --nesting_;
   context_.line = outer_line;
 }
 

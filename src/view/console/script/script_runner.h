@@ -41,6 +41,7 @@ class ScriptRunner {
   ScriptOutput output_;
   ScriptTriggers triggers_;
   ScriptContext context_;
+  int nesting_ = 0;  // commands that have begun and not ended
   std::optional<std::string> problem_;
 };
 

@@ -144,6 +144,27 @@ TEST(ScriptRunner, ALaterCommandCanServeTheLoopItself) {
   EXPECT_EQ(out, "\"second\"\n\"first\"\n");
 }
 
+TEST(ScriptRunner, CommandsRunInsideEachOtherOnlySoDeep) {
+  const auto nested_waits = [](int count) {
+    std::string script;
+    for (int i = 1; i <= count; ++i) script += "at pump " + std::to_string(i) + " wait 1\n";
+    return script + "wait 1\necho after\n";
+  };
+  ScriptStage stage;
+
+  EXPECT_EQ(stage.run(nested_waits(99)), "\"after\"\n");
+
+  EXPECT_EQ(stage.run(nested_waits(1'000)), "");
+  EXPECT_EQ(stage.problem, "line 100: too many commands run inside each other");
+}
+
+TEST(ScriptRunner, ALineThatNeverEndsEndsTheScript) {
+  ScriptStage stage;
+  EXPECT_EQ(stage.run("echo one\n#" + std::string(kLongestScriptLine, '-') + "\necho two\n"),
+            "\"one\"\n");
+  EXPECT_EQ(stage.problem, "line 2: is too long");
+}
+
 TEST(ScriptRunner, ALaterCommandCanSetAnother) {
   ScriptStage stage;
 

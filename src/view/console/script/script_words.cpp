@@ -42,6 +42,7 @@ ScriptWords split_words(std::string_view line) {
   while (true) {
     while (at < line.size() && is_blank(line[at])) ++at;
     if (at == line.size()) return words;
+    if (words.size() == kMostScriptWords) throw ScriptError("has too many words");
     words.push_back(line[at] == '"' ? quoted_word(line, at) : plain_word(line, at));
   }
 }

@@ -1,6 +1,7 @@
 // The words of a script line.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +9,8 @@
 namespace quillvane {
 
 using ScriptWords = std::vector<std::string>;
+
+inline constexpr std::size_t kMostScriptWords = 10'000;  // of a line
 
 // Splits a line at blanks. A word in double quotes may hold blanks; in it \" is a quote and every
 // other backslash stands for itself, so that Windows paths need no doubling. A quote inside a word

@@ -62,5 +62,12 @@ TEST(ScriptWords, AQuoteThatDoesNotCloseItsWordIsAnError) {
   }
 }
 
+TEST(ScriptWords, ALineHasTenThousandOfThem) {
+  std::string line;
+  for (int i = 0; i < 10'000; ++i) line += "at ";
+  EXPECT_EQ(split_words(line).size(), 10'000U);
+  EXPECT_THROW((void)split_words(line + "at"), ScriptError);
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -29,16 +29,16 @@ class OneKey final : public quillvane::Registry {
  public:
   explicit OneKey(const RegKeyChange& section) : section_(section) {}
 
-  std::optional<std::vector<std::string>> sub_keys(Hive hive, const std::string& key,
-                                                   quillvane::KeyAccess) const override {
+  quillvane::RegistryRead<std::vector<std::string>> sub_keys(Hive hive, const std::string& key,
+                                                             quillvane::KeyAccess) const override {
     if (hive != section_.hive || !key.empty() || section_.key.empty()) {
       return std::vector<std::string>();
     }
     return std::vector<std::string>{section_.key};
   }
 
-  std::optional<std::vector<NamedRegistryValue>> values(Hive hive, const std::string& key,
-                                                        quillvane::KeyAccess) const override {
+  quillvane::RegistryRead<std::vector<NamedRegistryValue>> values(
+      Hive hive, const std::string& key, quillvane::KeyAccess) const override {
     std::vector<NamedRegistryValue> list;
     if (hive != section_.hive || key != section_.key) return list;
     for (const auto& change : section_.values) {
@@ -47,13 +47,19 @@ class OneKey final : public quillvane::Registry {
     return list;
   }
 
-  std::optional<RegistryValue> value(Hive, const std::string&, const std::string&,
-                                     quillvane::KeyAccess) const override {
+  quillvane::RegistryRead<RegistryValue> value(Hive, const std::string&, const std::string&,
+                                               quillvane::KeyAccess) const override {
     return std::nullopt;
   }
-  bool create_key(Hive, const std::string&) override { return false; }
-  bool set_value(Hive, const std::string&, const std::string&, const RegistryValue&) override {
-    return false;
+  quillvane::RegistryWrite create_key(Hive, const std::string&) override {
+    return quillvane::RegistryWrite::failure("it is only read");
+  }
+  quillvane::RegistryWrite set_value(Hive, const std::string&, const std::string&,
+                                     const RegistryValue&) override {
+    return quillvane::RegistryWrite::failure("it is only read");
+  }
+  quillvane::RegistryWrite remove_value(Hive, const std::string&, const std::string&) override {
+    return quillvane::RegistryWrite::failure("it is only read");
   }
 
  private:

@@ -32,8 +32,7 @@ std::variant<std::unique_ptr<ConsoleMachine>, HostProblem> FolderHost::open_fold
 }
 
 std::optional<HostProblem> FolderHost::create(const std::string& dir, bool demo) {
-  auto why = create_machine(dir);
-  if (!why && demo) why = fill_demo_machine(dir);
+  auto why = create_machine(dir, demo ? fill_demo_machine : FillMachine());
   if (why) return HostProblem{*std::move(why)};
   return std::nullopt;
 }

@@ -1,7 +1,12 @@
 // Without another machine named, the console on Linux works on a demo machine.
 
+#include <fcntl.h>
 #include <stdlib.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <ostream>
 #include <system_error>
@@ -10,6 +15,7 @@
 #include "app/folder_host.h"
 #include "app/make_machine_host.h"
 #include "platform/folder/demo_folder.h"
+#include "platform/folder/posix/descriptor.h"
 
 namespace quillvane {
 
@@ -26,25 +32,75 @@ bool is_empty_or_missing(const std::string& dir) {
   return !std::filesystem::exists(dir, failed) || std::filesystem::is_empty(dir, failed);
 }
 
+// A folder beside another, for this program alone as long as it lives. What a program that was
+// killed left in one is taken away.
+class FolderBeside {
+ public:
+  explicit FolderBeside(const std::string& dir) {
+    constexpr int kMostAtOnce = 16;
+    for (int number = 1; number <= kMostAtOnce && !lock_.is_open(); ++number) {
+      path_ = dir + ".new-" + std::to_string(number);
+      if (mkdir(path_.c_str(), 0700) != 0 && errno != EEXIST) return;
+      lock_ = Descriptor(open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+      if (!is_taken()) lock_ = Descriptor();
+    }
+    if (lock_.is_open()) remove_content();
+  }
+  ~FolderBeside() {
+    if (!lock_.is_open() || in_place_) return;
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+  }
+  FolderBeside(const FolderBeside&) = delete;
+  FolderBeside& operator=(const FolderBeside&) = delete;
+
+  [[nodiscard]] bool is_made() const { return lock_.is_open(); }
+  [[nodiscard]] const std::string& path() const { return path_; }
+
+  // Gives it another name, which only an empty folder may have.
+  [[nodiscard]] std::error_code put_in_place(const std::string& dir) {
+    std::error_code failed;
+    std::filesystem::rename(path_, dir, failed);
+    in_place_ = !failed;
+    return failed;
+  }
+
+ private:
+  // Locked, ours, and not put in place meanwhile by the program that made it.
+  [[nodiscard]] bool is_taken() const {
+    struct stat mine = {};
+    struct stat named = {};
+    return lock_.is_open() && flock(lock_.number(), LOCK_EX | LOCK_NB) == 0 &&
+           fstat(lock_.number(), &mine) == 0 && lstat(path_.c_str(), &named) == 0 &&
+           mine.st_dev == named.st_dev && mine.st_ino == named.st_ino && mine.st_uid == geteuid();
+  }
+  void remove_content() const {
+    std::error_code ignored;
+    for (const auto& entry : std::filesystem::directory_iterator(path_, ignored)) {
+      std::error_code stays;
+      std::filesystem::remove_all(entry.path(), stays);
+    }
+  }
+
+  std::string path_;
+  Descriptor lock_;
+  bool in_place_ = false;
+};
+
 // Makes the demo machine beside its place and then puts it there, so that it is there whole or not
 // at all, whoever interrupts.
 std::optional<HostProblem> make_demo_machine(FolderHost& host, const std::string& dir) {
   std::error_code failed;
   std::filesystem::create_directories(std::filesystem::path(dir).parent_path(), failed);
-  std::string beside = dir + ".XXXXXX";
-  if (failed || mkdtemp(beside.data()) == nullptr) {
+  FolderBeside beside(dir);
+  if (failed || !beside.is_made()) {
     return HostProblem{dir + ": the demo machine cannot be made here"};
   }
-  auto problem = host.create(beside, true);
-  if (!problem) std::filesystem::rename(beside, dir, failed);
-  if (!problem && !failed) return std::nullopt;
-
-  std::error_code ignored;
-  std::filesystem::remove_all(beside, ignored);
+  if (auto problem = host.create(beside.path(), true)) return problem;
+  failed = beside.put_in_place(dir);
   // Another run may have made it in the meantime.
-  if (!problem && !is_empty_or_missing(dir)) return std::nullopt;
-  if (!problem) problem = HostProblem{dir + ": " + failed.message()};
-  return problem;
+  if (!failed || !is_empty_or_missing(dir)) return std::nullopt;
+  return HostProblem{dir + ": " + failed.message()};
 }
 
 class DemoHost final : public FolderHost {

@@ -181,5 +181,14 @@ TEST_F(MachineFolderHost, AFileThatIsNoRegistryChangesNothing) {
   EXPECT_FALSE(folder_.has("m/registry.db"));
 }
 
+TEST_F(MachineFolderHost, TakesAwayWhatAKilledProgramLeftOfADemoMachine) {
+  folder_.write("data/quillvane/demo.new-1/drive_c/half", "x");
+  const Opened opened = host_->open(std::nullopt, notices_);
+  EXPECT_EQ(problem_of(opened), "");
+  EXPECT_TRUE(has(opened, "C:\\Windows"));
+  EXPECT_FALSE(has(opened, "C:\\half"));
+  EXPECT_FALSE(folder_.has("data/quillvane/demo.new-1"));
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -26,19 +26,24 @@ std::string GetFileFolder(const std::string& path) { return path.substr(0, path.
 // The path behind its last backslash.
 std::string GetFileName(const std::string& path) { return path.substr(path.rfind('\\') + 1); }
 
-// Notes the backup in the history. "file" holds 0: it is written before anything is copied.
-void write_history(Registry& registry, const std::string& stamp) {
+// Notes the backup in the history. "file" holds 0: it is written before anything is copied. A
+// number that could not be read is not begun anew: then nothing is written.
+RegistryWrite write_history(Registry& registry, const std::string& stamp) {
   const std::string key = kHistoryKey;
+  const RegistryText before = ReadRegistryString32(registry, Hive::kLocalMachine, key, "cnt");
+  if (!before.problem.empty()) return RegistryWrite::failure(before.problem);
+  const std::string count = number_text(Val(before.text) + 1);
+  RegistryWrite result;
   const auto write = [&](const std::string& sub_key, const std::string& name,
                          const std::string& text) {
-    static_cast<void>(  // a history that cannot be written is lost
-        WriteRegistryString(registry, Hive::kLocalMachine, sub_key, name, text));
+    const RegistryWrite written =
+        WriteRegistryString(registry, Hive::kLocalMachine, sub_key, name, text);
+    if (!written) result = written;  // the next one is tried all the same
   };
-  const double before = Val(ReadRegistryString(registry, Hive::kLocalMachine, key, "cnt").text);
-  const std::string count = number_text(before + 1);
   write(key, "cnt", count);
   write(key + "\\dates", count, stamp);
   write(key + "\\file", stamp, "0");
+  return result;
 }
 
 }  // namespace
@@ -54,7 +59,8 @@ void Form7::back_up() {
     folder += deeper;
     static_cast<void>(file_system.make_folder(folder));  // the first two are there after one run
   }
-  write_history(platform().registry, stamp);
+  const RegistryWrite noted = write_history(platform().registry, stamp);
+  if (!noted) program.tell_problem("history of backups", "not written: " + noted.problem());
 
   std::string index;
   Bar2.set_range(1, view1.count());

@@ -8,7 +8,6 @@
 #include "cleaning/permission.h"
 #include "cleaning/questions.h"
 #include "cleaning/statistics.h"
-#include "cleaning/thumbnail_policy.h"
 #include "core/form7.h"
 #include "platform/unicode_case.h"
 
@@ -76,16 +75,16 @@ void Form7::expect_removals(int first_row) {
   if (!paths.empty()) platform().files.expect_removals(paths);
 }
 
-// Each handled row leaves the list, whatever came of it. True when one was queued.
-bool Form7::remove_all_rows() {
-  bool queued = false;
+// Each handled row leaves the list, whatever came of it. Answers how many were queued.
+int Form7::remove_all_rows() {
+  int queued = 0;
   const int total = view1.count();
   bar3.set_range(0, total + 2);
   bar3.show();
   for (int progress = 0; progress < total && view1.count() > 0; ++progress) {
     if (progress % kRowsTold == 0) expect_removals(progress == 0 ? 1 : 1 + kRowsTold);
     const std::string path = view1.text(1);
-    if (remove_row(path)) queued = true;
+    if (remove_row(path)) ++queued;
     Text13.set_text("Removing : " + path);
     Text13.set_text(path);
     view1.remove(1);
@@ -96,36 +95,48 @@ bool Form7::remove_all_rows() {
   return queued;
 }
 
-// The queue is written only after the user has closed the box.
+// The queue is written only after the user has closed the box, which promises it in any case.
 void Form7::promise_restart() {
   if (!program.cleaning_ended()) {
     platform().dialogs.message_box(kQueuedMessage, std::string(kProgramName), kBoxIconInformation);
   }
-  pending.savepending();
+  const RegistryWrite written = pending.savepending();
+  last_cleaning.queue_written = written;
+  last_cleaning.queue_problem = written.problem();
+  if (!written) {
+    program.tell_problem("queue of the next restart", "not written: " + written.problem());
+  }
 }
 
 void Form7::run_cleaning() {
+  last_cleaning = {};
   if (view1.count() < 1 || program.cleaning_ended() || !may_remove()) return;
   Gif89a2.show();
   pending.loadpending();
   Label11.set_caption("Removing selected files please wait..");
-  disablethumbcache(platform().registry);
+  thumbnails.disablethumbcache();
   Text3.show();
   pndtxt();
-  const bool queued = remove_all_rows();
-  if (queued && forceclean == 0 && suitemode == 0) promise_restart();
+  last_cleaning.queued = remove_all_rows();
+  if (last_cleaning.queued > 0 && forceclean == 0 && suitemode == 0) promise_restart();
   bar3.hide();
-  enablethumbcache(platform().registry);
+  thumbnails.enablethumbcache();
   Text3.hide();
   if (!program.cleaning_ended()) finish_cleaning();
   Gif89a2.hide();
   if (forceclean == 1) program.end();
 }
 
+// The totals of the scan, whatever was really removed.
+void Form7::count_in_statistics() {
+  const RegistryWrite counted =
+      add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());
+  if (!counted) program.tell_problem("statistics", "not counted: " + counted.problem());
+}
+
 void Form7::finish_cleaning() {
   deleteiecach(*this);
-  // The totals of the scan, whatever was really removed.
-  add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());
+  count_in_statistics();
   txtfilecont.set_text("0");
   txtfilesize.set_text("0");
   build_tree();

@@ -18,9 +18,10 @@ void allow_access(const Platform& platform) {
 
 }  // namespace
 
-std::optional<std::vector<std::string>> read_pending_value(const Platform& platform) {
+RegistryRead<std::vector<std::string>> read_pending_value(const Platform& platform) {
   allow_access(platform);
   const auto value = platform.registry.value(Hive::kLocalMachine, kKey, kValue);
+  if (value.failed()) return RegistryRead<std::vector<std::string>>::failure(value.problem());
   if (!value || value->type != RegistryType::kMultiSz) return std::nullopt;
   return multi_string_list(value->data);
 }
@@ -28,7 +29,11 @@ std::optional<std::vector<std::string>> read_pending_value(const Platform& platf
 void PendingQueue::loadpending() {
   operations_.resize(1);
   auto texts = read_pending_value(platform_);
+  read_problem_ = texts.problem();
   if (!texts) return;
+  // Left in, it would take the place of the next request's source, and every pair behind it would
+  // be read the wrong way round.
+  if (texts->size() % 2 == 1 && texts->back().empty()) texts->pop_back();
   count_ = texts->size();
   operations_ = std::move(*texts);
   operations_.emplace_back();
@@ -45,12 +50,13 @@ void PendingQueue::add(std::string_view path) {
   append({});
 }
 
-void PendingQueue::savepending() {
+RegistryWrite PendingQueue::savepending() {
+  if (!read_problem_.empty()) return RegistryWrite::failure(read_problem_);
   allow_access(platform_);
-  // Nothing tests whether either took effect.
-  static_cast<void>(platform_.registry.create_key(Hive::kLocalMachine, kKey));
-  static_cast<void>(platform_.registry.set_value(
-      Hive::kLocalMachine, kKey, kValue, {RegistryType::kMultiSz, multi_string_data(operations_)}));
+  const RegistryWrite made = platform_.registry.create_key(Hive::kLocalMachine, kKey);
+  if (!made) return made;
+  return platform_.registry.set_value(Hive::kLocalMachine, kKey, kValue,
+                                      {RegistryType::kMultiSz, multi_string_data(operations_)});
 }
 
 }  // namespace quillvane

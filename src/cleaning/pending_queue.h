@@ -2,7 +2,6 @@
 // of source and target, where an empty target means removal.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,22 +10,25 @@
 
 namespace quillvane {
 
-// What the value holds, each text as it is; empty ones, also at the end, are kept. Before it is
-// read the account of the environment is given access to the key.
-[[nodiscard]] std::optional<std::vector<std::string>> read_pending_value(const Platform& platform);
+// What the value holds, each text as it is; empty ones, also at the end, are kept. Absent also
+// where a value of another type stands. Before it is read the account of the environment is given
+// access to the key.
+[[nodiscard]] RegistryRead<std::vector<std::string>> read_pending_value(const Platform& platform);
 
 // The mirror of the value during a cleaning run.
 class PendingQueue {
  public:
   explicit PendingQueue(const Platform& platform) : platform_(platform) {}
 
-  // Reads the value. When that fails, as it does where there is none, the count of entries goes on
-  // from the run before, and of that run's entries only the first is kept.
+  // Reads the value, without the empty text that a list of this program has behind its pairs. Where
+  // there is none, as is usual, the count of entries goes on from the run before, and of that run's
+  // entries only the first is kept.
   void loadpending();
   // Adds the request to remove `path`.
   void add(std::string_view path);
-  // Writes the whole mirror at one stroke, its last empty text included.
-  void savepending();
+  // Writes the whole mirror at one stroke, its last empty text included. What could not be read is
+  // not replaced: then nothing is written.
+  RegistryWrite savepending();
 
   [[nodiscard]] const std::vector<std::string>& PendingOperations() const { return operations_; }
   // Entries in use. The one behind them is always there and always empty.
@@ -38,6 +40,7 @@ class PendingQueue {
   const Platform& platform_;
   std::vector<std::string> operations_;
   std::size_t count_ = 0;
+  std::string read_problem_;  // why the value could not be read
 };
 
 }  // namespace quillvane

@@ -46,7 +46,7 @@ TEST_F(PendingQueueTest, WritesOldEntriesTheNewPairAndOneEmptyText) {
                                {"\\??\\C:\\one", "", "\\??\\C:\\two", "\\??\\C:\\three"});
   queue.loadpending();
   queue.add("C:\\four");
-  queue.savepending();
+  EXPECT_TRUE(queue.savepending());
   EXPECT_EQ(stored(), (Texts{"\\??\\C:\\one", "", "\\??\\C:\\two", "\\??\\C:\\three",
                              "\\??\\C:\\four", "", ""}));
 }
@@ -54,11 +54,53 @@ TEST_F(PendingQueueTest, WritesOldEntriesTheNewPairAndOneEmptyText) {
 TEST_F(PendingQueueTest, ReadsAfreshForEachRun) {
   queue.loadpending();
   queue.add("C:\\one");
-  queue.savepending();
+  EXPECT_TRUE(queue.savepending());
   queue.loadpending();
-  EXPECT_EQ(queue.PendingCount(), 3U);  // the pair and the empty text that was written with it
+  EXPECT_EQ(queue.PendingCount(), 2U);  // the pair, without the empty text written behind it
   queue.add("C:\\two");
-  EXPECT_EQ(queue.PendingOperations(), (Texts{"\\??\\C:\\one", "", "", "\\??\\C:\\two", "", ""}));
+  EXPECT_EQ(queue.PendingOperations(), (Texts{"\\??\\C:\\one", "", "\\??\\C:\\two", "", ""}));
+}
+
+struct StoredList {
+  const char* what;
+  Texts stored;
+  Texts with_one_more;  // the mirror when \??\C:\new was added
+};
+
+TEST_F(PendingQueueTest, PairsStayPairs) {
+  const std::string added = "\\??\\C:\\new";
+  const StoredList lists[] = {
+      {"pairs", {"a", "", "b", "c"}, {"a", "", "b", "c", added, "", ""}},
+      {"pairs and the empty text behind them", {"a", "", ""}, {"a", "", added, "", ""}},
+      {"a renaming and the empty text", {"a", "b", ""}, {"a", "b", added, "", ""}},
+      {"the empty text alone", {""}, {added, "", ""}},
+      {"two empty texts", {"", ""}, {"", "", added, "", ""}},
+      // A list that another program left odd is kept as it is.
+      {"an odd list without it", {"a", "", "b"}, {"a", "", "b", added, "", ""}},
+  };
+  for (const StoredList& list : lists) {
+    machine.set_registry_strings(Hive::kLocalMachine, kKey, kValue, list.stored);
+    queue.loadpending();
+    queue.add("C:\\new");
+    EXPECT_EQ(queue.PendingOperations(), list.with_one_more) << list.what;
+  }
+}
+
+TEST_F(PendingQueueTest, ThreeRunsLeaveThreePairs) {
+  for (const char* path : {"C:\\1", "C:\\2", "C:\\3"}) {
+    queue.loadpending();
+    queue.add(path);
+    EXPECT_TRUE(queue.savepending());
+  }
+  EXPECT_EQ(stored(), (Texts{"\\??\\C:\\1", "", "\\??\\C:\\2", "", "\\??\\C:\\3", "", ""}));
+}
+
+TEST_F(PendingQueueTest, AValueOfAnotherTypeIsNoneAndIsReplaced) {
+  machine.set_registry_text(Hive::kLocalMachine, kKey, kValue, "C:\\one");
+  queue.loadpending();
+  queue.add("C:\\two");
+  EXPECT_TRUE(queue.savepending());
+  EXPECT_EQ(stored(), (Texts{"\\??\\C:\\two", "", ""}));
 }
 
 TEST_F(PendingQueueTest, GoesOnFromTheOldCountWhenNothingCanBeRead) {
@@ -71,7 +113,7 @@ TEST_F(PendingQueueTest, GoesOnFromTheOldCountWhenNothingCanBeRead) {
 
 TEST_F(PendingQueueTest, AsksForAccessToTheKeyEachTime) {
   queue.loadpending();
-  queue.savepending();
+  EXPECT_TRUE(queue.savepending());
   const auto effects = machine.effects().take();
   ASSERT_EQ(effects.size(), 3U);
   EXPECT_EQ(effects[0].kind, "key-access");

@@ -8,6 +8,7 @@
 namespace quillvane {
 
 // Adds the numbers that the two texts begin with to the counts of files and bytes in the registry.
-void add_to_statistics(Registry& registry, std::string_view files, std::string_view bytes);
+// A count that could not be read is not begun anew: then neither is written.
+RegistryWrite add_to_statistics(Registry& registry, std::string_view files, std::string_view bytes);
 
 }  // namespace quillvane

@@ -3,6 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "support/registry_values.h"
 #include "tests/support/temp_machine.h"
@@ -36,16 +39,18 @@ constexpr Policy kAll[] = {
 
 TEST(ThumbnailPolicy, SetsAllNineValuesAndTakesThemBack) {
   TempMachine machine;
-  Registry& registry = machine.platform().registry;
+  const Platform platform = machine.platform();
+  Registry& registry = platform.registry;
+  ThumbnailPolicy thumbnails(platform);
   for (const Policy& policy : kAll) machine.add_registry_key(policy.hive, policy.key);
 
-  disablethumbcache(registry);
+  thumbnails.disablethumbcache();
   for (const Policy& policy : kAll) {
     EXPECT_EQ(GetRegistryValue(registry, policy.hive, policy.key, policy.name),
               RegistryContent(std::uint32_t{1}))
         << policy.key << " " << policy.name;
   }
-  enablethumbcache(registry);
+  thumbnails.enablethumbcache();
   for (const Policy& policy : kAll) {
     EXPECT_EQ(GetRegistryValue(registry, policy.hive, policy.key, policy.name),
               RegistryContent(std::uint32_t{0}))
@@ -58,7 +63,8 @@ TEST(ThumbnailPolicy, MakesNoKey) {
   Registry& registry = machine.platform().registry;
   machine.add_registry_key(Hive::kCurrentUser, kAdvanced);
 
-  disablethumbcache(registry);
+  const Platform platform = machine.platform();
+  ThumbnailPolicy(platform).disablethumbcache();
 
   EXPECT_FALSE(registry.values(Hive::kCurrentUser, kPolicies).has_value());
   EXPECT_EQ(GetRegistryValue(registry, Hive::kCurrentUser, kAdvanced, "NoThumbnailCache"),
@@ -69,25 +75,31 @@ TEST(ThumbnailPolicy, MakesNoKey) {
 class UsersRegistry final : public Registry {
  public:
   explicit UsersRegistry(Registry& next) : next_(next) {}
-  [[nodiscard]] std::optional<std::vector<std::string>> sub_keys(Hive hive, const std::string& key,
-                                                                 KeyAccess access) const override {
+  [[nodiscard]] RegistryRead<std::vector<std::string>> sub_keys(Hive hive, const std::string& key,
+                                                                KeyAccess access) const override {
     return next_.sub_keys(hive, key, access);
   }
-  [[nodiscard]] std::optional<std::vector<NamedRegistryValue>> values(
+  [[nodiscard]] RegistryRead<std::vector<NamedRegistryValue>> values(
       Hive hive, const std::string& key, KeyAccess access) const override {
     return next_.values(hive, key, access);
   }
-  [[nodiscard]] std::optional<RegistryValue> value(Hive hive, const std::string& key,
-                                                   const std::string& name,
-                                                   KeyAccess access) const override {
+  [[nodiscard]] RegistryRead<RegistryValue> value(Hive hive, const std::string& key,
+                                                  const std::string& name,
+                                                  KeyAccess access) const override {
     return next_.value(hive, key, name, access);
   }
-  [[nodiscard]] bool create_key(Hive hive, const std::string& key) override {
-    return hive != Hive::kLocalMachine && next_.create_key(hive, key);
+  RegistryWrite create_key(Hive hive, const std::string& key) override {
+    if (hive == Hive::kLocalMachine) return RegistryWrite::failure("the rights are missing");
+    return next_.create_key(hive, key);
   }
-  [[nodiscard]] bool set_value(Hive hive, const std::string& key, const std::string& name,
-                               const RegistryValue& value) override {
-    return hive != Hive::kLocalMachine && next_.set_value(hive, key, name, value);
+  RegistryWrite set_value(Hive hive, const std::string& key, const std::string& name,
+                          const RegistryValue& value) override {
+    if (hive == Hive::kLocalMachine) return RegistryWrite::failure("the rights are missing");
+    return next_.set_value(hive, key, name, value);
+  }
+  RegistryWrite remove_value(Hive hive, const std::string& key, const std::string& name) override {
+    if (hive == Hive::kLocalMachine) return RegistryWrite::failure("the rights are missing");
+    return next_.remove_value(hive, key, name);
   }
 
  private:
@@ -101,7 +113,8 @@ TEST(ThumbnailPolicy, ValuesThatAreRefusedDoNotStopTheOthers) {
   machine.set_registry_number(Hive::kLocalMachine, kPolicies, "NoThumbnailCache", 7);
 
   UsersRegistry users(registry);
-  disablethumbcache(users);
+  const Platform platform = machine.platform().with({.registry = &users});
+  ThumbnailPolicy(platform).disablethumbcache();
 
   for (const Policy& policy : kAll) {
     const auto value = GetRegistryValue(registry, policy.hive, policy.key, policy.name);
@@ -113,6 +126,73 @@ TEST(ThumbnailPolicy, ValuesThatAreRefusedDoNotStopTheOthers) {
       EXPECT_EQ(value, std::nullopt) << policy.key << " " << policy.name;
     }
   }
+}
+
+// --- What a run that died has left.
+
+constexpr const char* kMarkKey = "software\\Quillvane\\Tidewrack Deluxe";
+
+class DeadRun : public testing::Test {
+ protected:
+  DeadRun() { machine.add_registry_key(Hive::kLocalMachine, kPolicies); }
+
+  std::optional<RegistryContent> value() {
+    return GetRegistryValue(platform.registry, Hive::kLocalMachine, kPolicies, "NoThumbnailCache");
+  }
+  std::optional<std::string> mark() {
+    return machine.registry_text(Hive::kCurrentUser, kMarkKey, "thumbcache");
+  }
+
+  TempMachine machine;
+  Platform platform = machine.platform();
+};
+
+TEST_F(DeadRun, HasItsValuesPutBackOnce) {
+  {
+    ThumbnailPolicy dying(platform);
+    dying.disablethumbcache();
+  }
+  ASSERT_EQ(value(), RegistryContent(std::uint32_t{1}));
+  EXPECT_EQ(mark(), "1");
+
+  ThumbnailPolicy next(platform);
+  next.put_back();
+  EXPECT_EQ(value(), RegistryContent(std::uint32_t{0}));
+  EXPECT_EQ(mark(), std::nullopt);
+
+  // Set by somebody else afterwards: no longer the program's own.
+  machine.set_registry_number(Hive::kLocalMachine, kPolicies, "NoThumbnailCache", 1);
+  next.put_back();
+  EXPECT_EQ(value(), RegistryContent(std::uint32_t{1}));
+}
+
+TEST_F(DeadRun, LeavesNoMarkWhenItEndedWell) {
+  ThumbnailPolicy thumbnails(platform);
+  thumbnails.disablethumbcache();
+  thumbnails.enablethumbcache();
+  EXPECT_EQ(mark(), std::nullopt);
+}
+
+TEST_F(DeadRun, IsNoneWhileItLives) {
+  ThumbnailPolicy living(platform);
+  living.disablethumbcache();
+
+  ThumbnailPolicy(platform).put_back();
+  EXPECT_EQ(value(), RegistryContent(std::uint32_t{1}));
+  EXPECT_EQ(mark(), "1");
+
+  living.enablethumbcache();
+  EXPECT_EQ(value(), RegistryContent(std::uint32_t{0}));
+}
+
+TEST_F(DeadRun, IsNoneWhileAnotherCleans) {
+  {
+    ThumbnailPolicy dying(platform);
+    dying.disablethumbcache();
+  }
+  const Instances::Hold other = platform.instances.announce_cleaning();
+  ThumbnailPolicy(platform).put_back();
+  EXPECT_EQ(value(), RegistryContent(std::uint32_t{1}));
 }
 
 }  // namespace

@@ -36,7 +36,7 @@ void Form7::initialize(std::string_view command_line) {
       return;
     }
     apply_run_switch(halves[0], part(halves, 1));
-    known_second_half = halves.size() == 1 || cleanmode != 0;
+    if (silentmode == 1) known_second_half = halves.size() == 1 || cleanmode != 0;
   }
   if (cmdline == "g") {
     silentmode = 2;

@@ -52,6 +52,7 @@ Form7::Form7(Program& owner)
     : Window("Form7"),
       program(owner),
       pending(owner.platform),
+      thumbnails(owner.platform),
       Text1(*this, "Text1"),
       Text3(*this, "Text3"),
       Text5(*this, "Text5"),

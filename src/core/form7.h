@@ -12,6 +12,8 @@
 #include <vector>
 
 #include "cleaning/pending_queue.h"
+#include "cleaning/restart_queue_result.h"
+#include "cleaning/thumbnail_policy.h"
 #include "controls/tray_area.h"
 #include "core/program.h"
 #include "forms/buttons.h"
@@ -99,26 +101,28 @@ class Form7 final : public Window {
   [[nodiscard]] const Platform& platform() const { return program.platform; }
 
   // --- State.
-  std::string cmdline;            // command line, trimmed, in lower case
-  int silentmode = 0;             // 0 with a user; 1 run switches; 2 switch "g"
-  int cleanmode = 0;              // second half of a run switch: 1 after "c", 2 after "c2", "c3"
-  int suitemode = 0;              // the suite's quick run: 1 after "w4", 2 after "w4-c4"
-  int forceclean = 0;             // 1 after "c3"
-  bool known_second_half = true;  // false after a second half that is none: it never cleans
-  int cancelflag = 0;             // 1: the running scan shall stop
-  SearchableText ignorelist;      // lower-case ignore entries, each followed by "|"
-  std::string ignore_problem;     // why the ignore list was not read; empty when it was
-  SearchableText pending_filter;  // PendingFilter: the text of Text15, with an index
-  PendingQueue pending;           // mirror of the queue of the next restart
-  int selnode = 0;                // Index of the node of Tv1 clicked last
-  int listfocus = 0;              // 3 once a row of view1 or view5 was clicked
-  int wizardstep = 0;             // page of the drive search
-  int custnode = 25;              // Index of the custom node being scanned
-  int anydrivechecked = 0;        // 1 when a row of View2 is ticked
-  int fontcharset = 0;            // character set of the system's code page
-  std::string foundsizetext;      // size of what the drive search found, as text
-  std::string systempaccess;      // option of the suite, read and kept
-  FileTime systempdate;           // option of the suite: today less a number of days
+  std::string cmdline;               // command line, trimmed, in lower case
+  int silentmode = 0;                // 0 with a user; 1 run switches; 2 switch "g"
+  int cleanmode = 0;                 // second half of a run switch: 1 after "c", 2 after "c2", "c3"
+  int suitemode = 0;                 // the suite's quick run: 1 after "w4", 2 after "w4-c4"
+  int forceclean = 0;                // 1 after "c3"
+  bool known_second_half = true;     // false after a second half that is none: it never cleans
+  int cancelflag = 0;                // 1: the running scan shall stop
+  SearchableText ignorelist;         // lower-case ignore entries, each followed by "|"
+  std::string ignore_problem;        // why the ignore list was not read; empty when it was
+  SearchableText pending_filter;     // PendingFilter: the text of Text15, with an index
+  PendingQueue pending;              // mirror of the queue of the next restart
+  ThumbnailPolicy thumbnails;        // off while files are removed
+  RestartQueueResult last_cleaning;  // of the last run behind orvbutton2
+  int selnode = 0;                   // Index of the node of Tv1 clicked last
+  int listfocus = 0;                 // 3 once a row of view1 or view5 was clicked
+  int wizardstep = 0;                // page of the drive search
+  int custnode = 25;                 // Index of the custom node being scanned
+  int anydrivechecked = 0;           // 1 when a row of View2 is ticked
+  int fontcharset = 0;               // character set of the system's code page
+  std::string foundsizetext;         // size of what the drive search found, as text
+  std::string systempaccess;         // option of the suite, read and kept
+  FileTime systempdate;              // option of the suite: today less a number of days
   Shadow shadow;
   ScanTotals totals;
   std::map<int, NodeResult> node_results;  // by Index; emptied with the tree
@@ -279,8 +283,9 @@ class Form7 final : public Window {
   // cleaning/cleaning_run.cpp
   void clean_button();
   [[nodiscard]] bool remove_row(const std::string& path);
-  [[nodiscard]] bool remove_all_rows();
+  [[nodiscard]] int remove_all_rows();
   void promise_restart();
+  void count_in_statistics();
   void finish_cleaning();  // what follows when every row was handled
   void expect_removals(int first_row);
 
@@ -327,6 +332,7 @@ class Form7 final : public Window {
   void read_mail();
 
   bool shown_at_start_ = true;
+  std::string drives_problem_;  // why the stored drives could not be read
 };
 
 }  // namespace quillvane

@@ -5,6 +5,7 @@
 
 #include "core/form7.h"
 #include "platform/unicode_case.h"
+#include "support/event_log.h"
 
 namespace quillvane {
 
@@ -12,6 +13,8 @@ namespace {
 
 constexpr std::array<std::string_view, 5> kWindows = {"Form7", "Form1", "Form2", "Form5",
                                                       "frmabout"};
+
+constexpr std::string_view kProblemEvent = "5001";
 
 }  // namespace
 
@@ -27,6 +30,10 @@ void Program::start(std::string_view command_line) {
   if (ended_ || !form7_->shown_at_start()) return;
   form7_->show();
   form7_->activate();
+}
+
+void Program::warn(const std::string& what_and_why) {
+  if (warnings_.insert(what_and_why).second && on_warning) on_warning(what_and_why);
 }
 
 void Program::PumpWait(std::chrono::milliseconds time) {
@@ -55,6 +62,17 @@ Window* Program::find_window(std::string_view name) const {
 bool Program::has_window(std::string_view name) {
   return std::any_of(kWindows.begin(), kWindows.end(),
                      [name](std::string_view window) { return same_name(window, name); });
+}
+
+void Program::tell_problem(std::string_view what, std::string_view why) {
+  if (on_problem) {
+    on_problem(what, why);
+    return;
+  }
+  const std::string text = std::string(what) + ": " + std::string(why);
+  // A log that takes no entry is no reason to stop.
+  static_cast<void>(EventLog(platform.event_log)
+                        .WriteEvent(text, kProgramName, kProblemEvent, EventLog::kWarning));
 }
 
 std::string Program::data_file(std::string_view name) const {

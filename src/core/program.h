@@ -4,6 +4,7 @@
 #include <chrono>
 #include <functional>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,6 +50,11 @@ class Program {
   void end_cleaning() { cleaning_ended_ = true; }
   [[nodiscard]] bool cleaning_ended() const { return cleaning_ended_ || ended_; }
 
+  // Tells what a user should know of a scan, "WHAT: WHY", though no window shows it; each text
+  // once. The windows pass it over.
+  void warn(const std::string& what_and_why);
+  std::function<void(const std::string& what_and_why)> on_warning;
+
   // Lets the message loop run once.
   void do_events() {
     if (!ended_) platform.loop.do_events();
@@ -68,6 +74,11 @@ class Program {
   // The main window. Requires: start has begun.
   [[nodiscard]] Form7& main_window() const { return *form7_; }
 
+  // Tells of something that the program could not do and that nobody is asked about: `what`, and
+  // why. To on_problem where a view has set it, otherwise to the system's log.
+  void tell_problem(std::string_view what, std::string_view why);
+  std::function<void(std::string_view what, std::string_view why)> on_problem;
+
   // A file in the program's folder: "C:\...\junst.txt" for "junst.txt".
   [[nodiscard]] std::string data_file(std::string_view name) const;
 
@@ -86,6 +97,7 @@ class Program {
  private:
   std::unique_ptr<Form7> form7_;
   std::vector<ModalWindow*> modal_windows_;  // those that wait, the innermost last
+  std::set<std::string> warnings_;           // told already
   bool ended_ = false;
   bool stopped_ = false;
   bool cleaning_ended_ = false;

@@ -5,8 +5,6 @@
 
 #include "categories/routines.h"
 #include "categories/url_cache_rows.h"
-#include "cleaning/statistics.h"
-#include "cleaning/thumbnail_policy.h"
 #include "core/form7.h"
 #include "platform/file_system.h"
 #include "scan/catalogue.h"
@@ -112,8 +110,8 @@ void Form7::scan_node_again(int node) {
   }
 }
 
+// A node that is clicked during the wait or the walk is the one from then on.
 void Form7::rescan_node() {
-  const int node = selnode;
   cancelflag = 0;
   totals.totalfiles = 0;
   totals.totalsize = 0;
@@ -121,11 +119,11 @@ void Form7::rescan_node() {
   txtfilesize.set_text("0");
   Text13.show();
   begin_rescan();
-  drop_old_results(node);
-  scan_node_again(node);
+  drop_old_results(selnode);
+  scan_node_again(selnode);
 
-  Tv1.select(node);
-  show_node(node);
+  Tv1.select(selnode);
+  show_node(selnode);
   view5.check_all(true);
   // The shares of the browsers and the custom entries are left out: meant so.
   totals.totalfiles += totals.winfiles;
@@ -153,14 +151,14 @@ void Form7::delete_row(int node, const std::string& path) {
     remove(path);
     return;
   }
-  disablethumbcache(platform().registry);
+  thumbnails.disablethumbcache();
   constexpr std::size_t kCutLetters = 3;
   const std::string renamed = path.substr(0, path.size() - std::min(kCutLetters, path.size())) +
                               std::string(kRenamedEnding);
   pass_over(files.set_attributes(path, kAttributeArchive));
   pass_over(files.rename_file(path, renamed));
   remove(renamed);
-  enablethumbcache(platform().registry);
+  thumbnails.enablethumbcache();
 }
 
 void Form7::delete_rows(int node) {
@@ -175,7 +173,7 @@ void Form7::delete_rows(int node) {
 void Form7::clean_node() {
   if (program.cleaning_ended() || !may_remove()) return;
   delete_rows(selnode);
-  add_to_statistics(platform().registry, txtfilecont.text(), txtfilesize.text());
+  count_in_statistics();
   txtfilecont.set_text("0");
   txtfilesize.set_text("0");
   totals.totalfiles = 0;

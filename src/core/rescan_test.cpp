@@ -38,6 +38,35 @@ struct Scanned : JunkEverywhere {
   [[nodiscard]] const std::string& browser_file() const { return junk.back(); }
 };
 
+// --- Which node.
+
+TEST(ScanNode, ANodeClickedInTheWaitIsTheOneThatIsScanned) {
+  Scanned scan;
+  scan.form().Tv1.click_node(2);
+  scan.at_serving(1, [&scan] { scan.form().Tv1.click_node(13); });
+
+  scan.form().scf.click();
+
+  // The Windows rows are as the first scan left them; only Internet Explorer's are new and last.
+  EXPECT_EQ(rows(scan.form().view1), scan.junk);
+  EXPECT_EQ(scan.form().Tv1.node(2).text, "System Temporary ( 1 files, 10 B )");
+  EXPECT_EQ(rows(scan.form().view5), Texts{scan.browser_file()});
+  EXPECT_EQ(ticked(scan.form().view5), std::vector<int>{1});
+}
+
+TEST(ScanNode, ANodeClickedDuringTheWalkIsTheOneThatIsShown) {
+  Scanned scan;
+  scan.form().Tv1.click_node(2);
+  scan.at_serving(2, [&scan] { scan.form().Tv1.click_node(13); });
+
+  scan.form().scf.click();
+
+  EXPECT_EQ(rows(scan.form().view1), (Texts{scan.browser_file(), scan.windows_temp_file()}));
+  EXPECT_EQ(scan.form().selnode, 13);
+  EXPECT_EQ(scan.form().Tv1.selected(), 13);
+  EXPECT_EQ(rows(scan.form().view5), Texts{scan.browser_file()});
+}
+
 // --- "Scan" in the Windows group.
 
 TEST(ScanNode, AWindowsLeafDropsTheResultsOfAllWindowsLeaves) {

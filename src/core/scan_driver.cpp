@@ -33,6 +33,8 @@ void Form7::autosearch() {
   txtfilecont.set_text("0");
   txtfilesize.set_text("0");
   cancelflag = 0;
+  totals.listedfiles = 0;
+  totals.listedsize = 0;
   Text13.show();
   Shape1.set_back_color(Shape2.back_color());
   Toolbar1.refresh();
@@ -97,7 +99,9 @@ void Form7::add_group_result(int node, double files, double bytes) {
 
 void Form7::pndtxt() {
   std::string filter;
-  if (const auto queued = read_pending_value(platform())) {
+  const auto queued = read_pending_value(platform());
+  if (queued.failed()) program.tell_problem("queue of the next restart", queued.problem());
+  if (queued) {
     for (const std::string& text : *queued) filter.append("|").append(text);
   }
   Text15.set_text(lower_case(filter));

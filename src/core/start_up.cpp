@@ -36,6 +36,7 @@ constexpr CodePageFont kFontCharacterSets[] = {
 }  // namespace
 
 void Form7::load() {
+  thumbnails.put_back();
   program.Is64Bit = platform().system.is_wow64();
   imglangselect.move_to(lbllanguage_0);
   for (const CodePageFont& font : kFontCharacterSets) {
@@ -99,9 +100,10 @@ void Form7::show_year() {
 // Nothing in the junk scan consults these two.
 void Form7::read_system_temp_option() {
   const Registry& registry = platform().registry;
-  systempaccess = ReadRegistryString(registry, Hive::kLocalMachine, kSystemTempKey, "access").text;
+  systempaccess =
+      ReadRegistryString32(registry, Hive::kLocalMachine, kSystemTempKey, "access").text;
   const double days =
-      Val(ReadRegistryString(registry, Hive::kLocalMachine, kSystemTempKey, "days").text);
+      Val(ReadRegistryString32(registry, Hive::kLocalMachine, kSystemTempKey, "days").text);
   constexpr double kTicksOfDay = 864e9;
   constexpr double kMostDays = 10'000'000;  // further away than any date
   if (std::abs(days) > kMostDays) return;

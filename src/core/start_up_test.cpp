@@ -149,7 +149,30 @@ struct ColorCase {
   Color color;
 };
 
-constexpr ColorCase kColors[] = {{"  32768  ", 32768}, {"0", 0}, {"   ", 10118205}, {"", 10118205}};
+constexpr ColorCase kColors[] = {
+    {"  32768  ", 32768},
+    {"0", 0},
+    {"   ", 10118205},
+    {"", 10118205},
+    // Any spelling of a number.
+    {"&HFF8000", 0xFF8000},
+    {"&o17", 15},
+    {"1.28e2", 128},
+    {"+255", 255},
+    {"2 5 5", 255},
+    {"254.6", 255},
+    {"255 blue", 255},
+    // A colour of the system, in both ways to write its 32 bits.
+    {"-2147483633", 0x8000000F},
+    {"2147483663", 0x8000000F},
+    {"&H8000000F", 0x8000000F},
+    // No number, or none of 32 bits.
+    {"blue", 10118205},
+    {"&h", 10118205},
+    {"-", 10118205},
+    {"4294967296", 10118205},
+    {"-2147483649", 10118205},
+};
 
 TEST(StartUp, TrimsTheColourAndTakesABlankOneForNone) {
   for (const auto& [stored, color] : kColors) {

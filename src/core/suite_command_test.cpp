@@ -78,5 +78,13 @@ TEST(SuiteRun, AResultFileThatCannotBeWrittenLeavesTheListBesideIt) {
   EXPECT_TRUE(run.program_file("junktmp.txt").has_value());
 }
 
+TEST(SuiteCommand, AnUnknownSecondHalfBelongsToARunSwitchAlone) {
+  JunkEverywhere fixture;
+  Form7& form = fixture.start("other-x");
+  EXPECT_TRUE(form.known_second_half);
+  form.Text9.set_text("1");  // runs as a first half alone does
+  EXPECT_FALSE(fixture.machine.has_file(fixture.junk[0]));
+}
+
 }  // namespace
 }  // namespace quillvane

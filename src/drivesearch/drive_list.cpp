@@ -15,7 +15,6 @@ namespace {
 
 constexpr const char* kTimerKey = "software\\Quillvane\\Tidewrack Deluxe\\timer";
 constexpr std::uint64_t kBytesOfMegabyte = 1048576;
-constexpr int kLettersOfDrives = 26;  // more can never have been stored
 
 // What a row begins with, for the kinds of drives that have one; nothing for a CD-ROM. A kind that
 // is not known keeps the text of the drive before it: meant so.
@@ -47,6 +46,16 @@ std::string megabytes(std::uint64_t bytes, const std::string& decimal_separator)
 
 std::string folded(std::string_view text) { return lower_case(Trim(text)); }
 
+// The number behind "drive" in the name of a stored drive; nothing for other names.
+std::optional<double> drive_number(const std::string& name) {
+  constexpr std::string_view kDrive = "drive";
+  if (!same_name(name.substr(0, kDrive.size()), kDrive)) return std::nullopt;
+  const std::string digits = name.substr(kDrive.size());
+  const double number = Val(digits);
+  // Written as a count is: no blanks, no leading zero.
+  return number >= 1 && number_text(number) == digits ? std::optional(number) : std::nullopt;
+}
+
 }  // namespace
 
 void Form7::fill_drive_list() {
@@ -69,33 +78,49 @@ void Form7::fill_drive_list() {
 }
 
 void Form7::restore_ticked_drives() {
-  const auto read = [&](const std::string& name) {
-    return ReadRegistryString(platform().registry, Hive::kLocalMachine, kTimerKey, name).text;
-  };
-  const double stored = Val(read("alldrive"));
+  const Registry& registry = platform().registry;
+  const RegistryText count =
+      ReadRegistryString32(registry, Hive::kLocalMachine, kTimerKey, "alldrive");
+  const double stored = Val(count.text);
   if (stored >= 1) anydrivechecked = 1;
-  int number = 1;
-  do {  // the first value is read even when none is stored: meant so
-    const std::string pattern = folded(read("drive" + std::to_string(number)));
+  // The values that are there are gone through, not the numbers up to the count: any count can have
+  // been stored.
+  const auto values = registry.values(Hive::kLocalMachine, kTimerKey, KeyAccess::kSettings);
+  drives_problem_ = count.problem.empty() ? values.problem() : count.problem;
+  if (!values) return;
+  for (const NamedRegistryValue& value : *values) {
+    const auto number = drive_number(value.name);
+    // The first is read even when none is stored: meant so.
+    if (!number || (*number > stored && *number != 1)) continue;
+    const RegistryText drive =
+        ReadRegistryString32(registry, Hive::kLocalMachine, kTimerKey, value.name);
+    if (drives_problem_.empty()) drives_problem_ = drive.problem;
+    const std::string pattern = folded(drive.text);
     for (int row = 1; row <= View2.count(); ++row) {
       if (Like(folded(View2.text(row)), pattern)) View2.set_checked(row, true);
     }
-    ++number;
-  } while (number <= stored && number <= kLettersOfDrives);
+  }
 }
 
 void Form7::save_ticked_drives() {
+  // Drives that could not be read at the start are not replaced by those that are ticked now.
+  if (!drives_problem_.empty()) {
+    program.tell_problem("ticked drives", "not saved: " + drives_problem_);
+    return;
+  }
   int ticked = 0;
   const auto write = [&](const std::string& name, std::string_view text) {
-    // A setting that cannot be written is forgotten.
-    static_cast<void>(
-        WriteRegistryString(platform().registry, Hive::kLocalMachine, kTimerKey, name, text));
+    const RegistryWrite written =
+        WriteRegistryString(platform().registry, Hive::kLocalMachine, kTimerKey, name, text);
+    if (!written) program.tell_problem("ticked drives", "not saved: " + written.problem());
+    return static_cast<bool>(written);
   };
   for (int row = 1; row <= View2.count(); ++row) {
     program.do_events();
     if (!View2.checked(row)) continue;
     ++ticked;
-    write("drive" + std::to_string(ticked), Trim(View2.text(row)));
+    // The count that is there still says how many of the drives belong together.
+    if (!write("drive" + std::to_string(ticked), Trim(View2.text(row)))) return;
   }
   write("alldrive", std::to_string(ticked));
 }

@@ -139,6 +139,25 @@ TEST(DriveMemory, ACountWithoutSenseDoesNotHang) {
   }
 }
 
+TEST(DriveMemory, IsReadUpToTheStoredCountHoweverManyThereAre) {
+  FourDrives fixture;
+  fixture.remember("alldrive", "40");
+  fixture.remember("drive30", "Local Disk (D:)");
+  fixture.remember("Drive40", "Remote Drive (F:)");
+  fixture.remember("drive41", "Local Disk (C:)");
+  EXPECT_EQ(ticked(fixture.start().View2), (std::vector<int>{2, 4}));
+}
+
+TEST(DriveMemory, NamesThatAreNoNumberedDriveCountForNothing) {
+  FourDrives fixture;
+  fixture.remember("alldrive", "5");
+  for (const char* name :
+       {"drive", "drive01", "drive 2", "drive2x", "driver3", "drive-1", "xdrive1"}) {
+    fixture.remember(name, "Local Disk (C:)");
+  }
+  EXPECT_EQ(ticked(fixture.start().View2), std::vector<int>{});
+}
+
 // --- Storing.
 
 TEST(DriveMemory, ClosingStoresTheTickedRowsInTheirOrder) {

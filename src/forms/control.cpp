@@ -52,8 +52,8 @@ std::optional<PropertyValue> Control::property(std::string_view name) const {
   const std::string key = lower_case(name);
   if (key == "enabled") return enabled();
   if (key == "visible") return visible_;
-  if (key == "forecolor") return std::int64_t{fore_color_};
-  if (key == "backcolor") return std::int64_t{back_color_};
+  if (key == "forecolor") return color_number(fore_color_);
+  if (key == "backcolor") return color_number(back_color_);
   if (key == "left") return std::int64_t{left_};
   if (key == "top") return std::int64_t{top_};
   return std::nullopt;

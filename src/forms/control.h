@@ -43,6 +43,12 @@ using PropertyValue = std::variant<bool, std::int64_t, double, std::string>;
 // 0x00BBGGRR, as Windows writes colours.
 using Color = std::uint32_t;
 
+// The number by which a colour is stored and told: those of the system have the highest bit set and
+// are negative.
+[[nodiscard]] inline std::int64_t color_number(Color color) {
+  return static_cast<std::int32_t>(color);
+}
+
 class Control {
  public:
   // Adds itself to the window under `name`; the window must outlive it.

@@ -2,8 +2,8 @@
 // compactly. A folder of files is one block of fixed records followed by their names, so that
 // a million files cost little more than their names.
 //
-// Built by a platform's FileSystem::read_tree, read by the walker; the rows of the hit list keep
-// the tree alive and read their texts from it.
+// Built by a platform's FileSystem::read_tree_watched, read by the walker; the rows of the hit list
+// keep the tree alive and read their texts from it.
 #pragma once
 
 #include <atomic>
@@ -134,16 +134,27 @@ class FolderTree {
   // Whether a link was not entered since it leads back to a folder it lies in.
   [[nodiscard]] bool left_out_loops() const { return left_out_loops_; }
 
+  // Whether links to folders that were read already were passed over, since they led to much more
+  // than there is (LinkBudget).
+  [[nodiscard]] bool left_out_links() const { return left_out_links_; }
+
+  // Whether the reading was ended before all was read.
+  [[nodiscard]] bool ended_early() const { return ended_early_; }
+
   // The building side. Each reading thread takes an arena of its own.
   TreeArena& add_arena();
   void set_root(const ListedFolder* root) { root_ = root; }
   void set_left_out_loops() { left_out_loops_ = true; }
+  void set_left_out_links() { left_out_links_ = true; }
+  void set_ended_early() { ended_early_ = true; }
 
  private:
   std::mutex adding_;
   std::vector<std::unique_ptr<TreeArena>> arenas_;
   const ListedFolder* root_ = nullptr;
   std::atomic<bool> left_out_loops_ = false;
+  std::atomic<bool> left_out_links_ = false;
+  bool ended_early_ = false;
 };
 
 }  // namespace quillvane

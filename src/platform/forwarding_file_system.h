@@ -17,13 +17,10 @@ class ForwardingFileSystem : public FileSystem {
   // `next` must outlive this object.
   explicit ForwardingFileSystem(FileSystem& next) : next_(next) {}
 
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(
-      const std::string& folder, const std::string& pattern) const override {
-    return next_.read_tree(folder, pattern);
-  }
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_for(
-      const std::string& folder, const std::vector<std::string>& patterns) const override {
-    return next_.read_tree_for(folder, patterns);
+  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_watched(
+      const std::string& folder, const std::vector<std::string>& patterns,
+      TreeReading* watch) const override {
+    return next_.read_tree_watched(folder, patterns, watch);
   }
   [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
                                                      const std::string& pattern) const override {

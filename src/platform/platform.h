@@ -10,6 +10,7 @@
 #include "platform/environment.h"
 #include "platform/event_log.h"
 #include "platform/file_system.h"
+#include "platform/instances.h"
 #include "platform/message_loop.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
@@ -30,6 +31,7 @@ struct Platform {
   SystemInfo& system;
   SystemEventLog& event_log;
   Processes& processes;
+  Instances& instances;
   UrlCache& url_cache;
   Security& security;
   Shell& shell;
@@ -54,6 +56,7 @@ struct Platform {
             .system = system,
             .event_log = event_log,
             .processes = processes,
+            .instances = instances,
             .url_cache = url_cache,
             .security = security,
             .shell = shell,

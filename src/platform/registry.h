@@ -4,13 +4,16 @@
 // never matters in the names of keys and values. Data are the bytes that RegQueryValueExA gives:
 // texts in the program's code page with the terminators that were stored, numbers in little-endian
 // order. The value with the empty name is the key's default value.
-// No call throws or shows a message: failure is the return value.
+// No call throws or shows a message. A read tells what is not there from what could not be read, a
+// write why it did not take effect. Calls wait some seconds for another program's lock.
 #pragma once
 
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "platform/registry_answer.h"
 
 namespace quillvane {
 
@@ -51,7 +54,6 @@ struct NamedRegistryValue {
 enum class KeyAccess : std::uint32_t {
   kQueryValues = 0x1,
   kRead = 0x20019,
-  kRead64 = 0x20119,
   kAll64 = 0x13F,             // all but changing the rights themselves
   kSettings = 0x2003F,        // the program's own settings
   kSystemSettings = 0x2013F,  // settings of the system
@@ -61,27 +63,30 @@ class Registry {
  public:
   virtual ~Registry() = default;
 
-  // Names of the keys directly below, in the registry's order; nothing when the key cannot be
-  // opened.
-  [[nodiscard]] virtual std::optional<std::vector<std::string>> sub_keys(
+  // Names of the keys directly below, in the registry's order; absent when the key is.
+  [[nodiscard]] virtual RegistryRead<std::vector<std::string>> sub_keys(
       Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const = 0;
 
-  // Values in the registry's order; nothing when the key cannot be opened.
-  [[nodiscard]] virtual std::optional<std::vector<NamedRegistryValue>> values(
+  // Values in the registry's order; absent when the key is.
+  [[nodiscard]] virtual RegistryRead<std::vector<NamedRegistryValue>> values(
       Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const = 0;
 
-  // One value; nothing when key or value are missing or cannot be read.
-  [[nodiscard]] virtual std::optional<RegistryValue> value(
+  // One value; absent when key or value are.
+  [[nodiscard]] virtual RegistryRead<RegistryValue> value(
       Hive hive, const std::string& key, const std::string& name,
       KeyAccess access = KeyAccess::kRead) const = 0;
 
-  // Makes the key and every missing one above it. True when it is there afterwards.
-  [[nodiscard]] virtual bool create_key(Hive hive, const std::string& key) = 0;
+  // Makes the key and every missing one above it; done when it is there afterwards.
+  virtual RegistryWrite create_key(Hive hive, const std::string& key) = 0;
 
-  // Writes a value of an existing key, at one stroke. False when the key is missing or the rights
+  // Writes a value of an existing key, at one stroke. Fails when the key is missing or the rights
   // are.
-  [[nodiscard]] virtual bool set_value(Hive hive, const std::string& key, const std::string& name,
-                                       const RegistryValue& value) = 0;
+  virtual RegistryWrite set_value(Hive hive, const std::string& key, const std::string& name,
+                                  const RegistryValue& value) = 0;
+
+  // Removes a value; done when it is not there afterwards.
+  virtual RegistryWrite remove_value(Hive hive, const std::string& key,
+                                     const std::string& name) = 0;
 };
 
 }  // namespace quillvane

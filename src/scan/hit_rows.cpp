@@ -1,14 +1,12 @@
 #include "scan/hit_rows.h"
 
+#include "scan/catalogue.h"
 #include "support/file_date.h"
 #include "support/size_text.h"
 
 namespace quillvane {
 
-int category_icon(int category) {
-  constexpr int kBrowsersNode = 12;
-  return category > kBrowsersNode ? category - 2 : category - 1;
-}
+int category_icon(int category) { return category > kBrowsersNode ? category - 2 : category - 1; }
 
 std::string HitRows::text(std::size_t index, int column) const {
   switch (column) {

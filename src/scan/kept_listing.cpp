@@ -6,6 +6,7 @@
 
 #include "core/form7.h"
 #include "platform/unicode_case.h"
+#include "scan/reading_watch.h"
 #include "scan/tree_part.h"
 #include "scan/walk.h"
 #include "support/text.h"
@@ -45,9 +46,9 @@ std::optional<ListedPart> KeptListing::find(const std::string& path, const std::
   if (wanted == patterns_.end() || !path.starts_with(root_)) return std::nullopt;
   const std::string below = path.substr(root_.size());
   if (!below.empty() && below[0] != '\\') return std::nullopt;
-  if (!std::exchange(read_, true)) tree_ = form_.platform().files.read_tree_for(root_, patterns_);
+  if (!std::exchange(read_, true)) read();
   // Where a link led back, the walk of a part could go further than the walk of the whole did.
-  if (tree_ == nullptr || tree_->left_out_loops()) return std::nullopt;
+  if (tree_ == nullptr || tree_->left_out_loops() || tree_->left_out_links()) return std::nullopt;
 
   const ListedFolder* folder = &tree_->root();
   std::string reached = root_;
@@ -57,6 +58,12 @@ std::optional<ListedPart> KeptListing::find(const std::string& path, const std::
     if (folder == nullptr) return std::nullopt;
   }
   return ListedPart{tree_, folder, static_cast<unsigned>(wanted - patterns_.begin())};
+}
+
+void KeptListing::read() {
+  ReadingWatch watch(form_.program);
+  tree_ = form_.platform().files.read_tree_watched(root_, patterns_, &watch);
+  watch.settle(root_, tree_.get());
 }
 
 // A disk that tells names apart by case could have a file, which is not listed here, under a name

@@ -28,6 +28,7 @@ class KeptListing {
   [[nodiscard]] std::optional<ListedPart> find(const std::string& path, const std::string& pattern);
 
  private:
+  void read();
   // The subfolder of that name; null when it is not listed. `reached` is the folder's path and
   // becomes the subfolder's.
   [[nodiscard]] const ListedFolder* enter(const ListedFolder& folder, const std::string& name,

@@ -15,6 +15,11 @@ struct ScanTotals {
   double custsize = 0;
   double totalfiles = 0;  // the whole scan
   double totalsize = 0;
+
+  // Every row that the walker has added since the whole scan began: what a look at a scan in the
+  // middle is told, where the others stand between two sums.
+  double listedfiles = 0;
+  double listedsize = 0;
 };
 
 // Count and bytes that one node of the tree put into the totals.

@@ -116,7 +116,8 @@ File Files::Item(std::size_t index) const {
 
 void Search::SearchFiles(const std::string& path, const std::string& pattern, bool recursive) {
   recursive_ = recursive;
-  auto tree = file_system_.read_tree(with_backslash(path), pattern);
+  auto tree = file_system_.read_tree_watched(with_backslash(path), {pattern}, watch_);
+  tree_ = tree;
   if (tree == nullptr) return;
   const ListedFolder& folder = tree->root();
   search_listing({std::move(tree), &folder, 0}, path, pattern);

@@ -98,13 +98,18 @@ class Files {
 
 class Search {
  public:
-  Search(const FileSystem& files, ErrorTrail& trail) : file_system_(files), trail_(trail) {}
+  // `watch` is told of the reading (FileSystem::read_tree_watched). All must outlive it.
+  Search(const FileSystem& files, ErrorTrail& trail, TreeReading* watch = nullptr)
+      : file_system_(files), trail_(trail), watch_(watch) {}
 
   // Collects the files below `path` that match `pattern`: those of the subfolders first. A file
   // whose size overflows ends the listing of its folder; the failure goes to the error trail.
   void SearchFiles(const std::string& path, const std::string& pattern, bool recursive);
   // The same, of a listing that was read before.
   void search_listing(const ListedPart& part, const std::string& path, const std::string& pattern);
+
+  // What SearchFiles read; null when the folder could not be.
+  [[nodiscard]] const std::shared_ptr<const FolderTree>& tree() const { return tree_; }
 
   // What was collected; null when the folder could not be read.
   [[nodiscard]] const std::shared_ptr<class Files>& Files() const { return found_; }
@@ -115,9 +120,11 @@ class Search {
 
   const FileSystem& file_system_;
   ErrorTrail& trail_;
+  TreeReading* watch_;
   std::string pattern_;
   unsigned pattern_number_ = 0;  // of the patterns that the listing was read for
   bool recursive_ = true;
+  std::shared_ptr<const FolderTree> tree_;
   std::shared_ptr<class Files> found_;
 };
 

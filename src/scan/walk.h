@@ -32,7 +32,7 @@ class Walk {
   void judge(std::shared_ptr<const Files> files);
   // False once the scan was cancelled.
   [[nodiscard]] bool judge_folder(const FolderRun& run);
-  [[nodiscard]] bool passes(std::string_view name, double size);
+  [[nodiscard]] bool passes(std::string_view name, std::optional<double> size);
   void add_row(std::size_t index);
 
   Form7& form_;

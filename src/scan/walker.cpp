@@ -1,6 +1,7 @@
 // The walker: which files of a folder tree become rows of the hit list.
 #include "core/form7.h"
 #include "scan/hit_rows.h"
+#include "scan/reading_watch.h"
 #include "scan/walk.h"
 #include "support/text.h"
 
@@ -10,8 +11,10 @@ Walk::Walk(Form7& form, int category, Keep keep)
     : form_(form), category_(category), keep_(keep), tests_(form.pending_filter, form.ignorelist) {}
 
 void Walk::run(const std::string& path, const std::string& pattern) {
-  Search search(form_.platform().files, form_.program.trail);
+  ReadingWatch watch(form_.program);
+  Search search(form_.platform().files, form_.program.trail, &watch);
   search.SearchFiles(path, pattern, true);
+  watch.settle(path, search.tree().get());
   judge(search.Files());
 }
 
@@ -42,17 +45,20 @@ bool Walk::judge_folder(const FolderRun& run) {
     const std::optional<double> size = FileSizeToDouble(file.size_high, file.size_low);
     // The folder of a file whose size overflowed was never set: it is in no list.
     const bool ignored = size && tests_.ignored();
-    if (ignored || !passes(file.name, size.value_or(0))) continue;
+    if (ignored || !passes(file.name, size)) continue;
     form_.totals.catfiles += 1;
     form_.totals.catsize += size.value_or(0);
+    form_.totals.listedfiles += 1;
+    form_.totals.listedsize += size.value_or(0);
     add_row(run.begin + i);
   }
   return true;
 }
 
-bool Walk::passes(std::string_view name, double size) {
+bool Walk::passes(std::string_view name, std::optional<double> size) {
   if (keep_ == Keep::kEmptyFiles) {
-    if (Trim(name).empty() || size != 0) return false;
+    // A size that overflowed was never set, but the file is anything but empty.
+    if (Trim(name).empty() || size != 0.0) return false;
   } else if (tests_.desktop_ini() || holds_desktop_ini(name)) {
     return false;
   }

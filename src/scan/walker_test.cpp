@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/forwarding_file_system.h"
 #include "tests/support/scan_fixture.h"
 
 namespace quillvane {
@@ -248,6 +249,74 @@ TEST(Srch, StopsAtTheFirstFileAfterACancel) {
   EXPECT_EQ(walked.form().totals.catfiles, 1);
 }
 
+// --- A reading that is looked on at.
+
+TEST(Srch, ShowsTheFolderBeforeItIsRead) {
+  Walked walked({"C:\\T\\a.tmp"});
+  Texts shown;
+  walked.machine.loop().set_reading_hook([&](const TreeProgress& progress) {
+    shown.emplace_back(progress.folder);
+    return true;
+  });
+  EXPECT_EQ(walked.srch("C:\\T\\"), (Texts{"C:\\T\\a.tmp"}));
+  ASSERT_FALSE(shown.empty());
+  EXPECT_EQ(shown.front(), "C:\\T");
+}
+
+TEST(Srch, ALookAtTheReadingChangesNothing) {
+  Walked walked({"C:\\T\\a.tmp", "C:\\T\\b.tmp"});
+  int served = 0;
+  walked.machine.loop().set_served_hook([&] { ++served; });
+  Texts shown;
+  walked.form().Text13.on_change = [&] { shown.push_back(walked.form().Text13.text()); };
+  walked.machine.loop().set_reading_hook([](const TreeProgress&) { return true; });
+  walked.srch("C:\\T");
+  EXPECT_EQ(served, 2);
+  EXPECT_EQ(shown, (Texts{"C:\\T\\a.tmp", "C:\\T\\b.tmp"}));
+}
+
+TEST(Srch, AnEndedReadingServesTheLoopSoThatTheCancelIsSeen) {
+  Walked walked({"C:\\T\\a.tmp"});
+  int served = 0;
+  walked.machine.loop().set_reading_hook([](const TreeProgress&) { return false; });
+  walked.machine.loop().set_served_hook([&] {
+    ++served;
+    walked.form().cancelflag = 1;
+  });
+  EXPECT_EQ(walked.srch("C:\\T"), Texts{});
+  // Ended before anything was read: the turn is not one for a file.
+  EXPECT_EQ(served, 1);
+  EXPECT_EQ(walked.form().Text13.text(), "");
+}
+
+TEST(Srch, WhatWasReadBeforeTheEndIsJudgedAsEver) {
+  // A disk whose reading the user ends behind the first file.
+  Walked walked({"C:\\T\\a.tmp"});
+  struct EndedFiles final : ForwardingFileSystem {
+    using ForwardingFileSystem::ForwardingFileSystem;
+    std::shared_ptr<const FolderTree> read_tree_watched(const std::string& folder,
+                                                        const std::vector<std::string>& patterns,
+                                                        TreeReading* watch) const override {
+      auto tree = next().read_tree_for(folder, patterns);
+      EXPECT_FALSE(watch->go_on({folder, 1}));
+      return tree;
+    }
+  } files(walked.machine.platform().files);
+  Program program(walked.machine.platform().with({.files = &files}));
+  program.start("");
+  Form7& form = program.main_window();
+  form.view1.clear();
+  walked.machine.loop().set_reading_hook([](const TreeProgress&) { return false; });
+  int served = 0;
+  walked.machine.loop().set_served_hook([&] { ++served; });
+
+  form.srch("C:\\T", "*.*", 2);
+
+  // Nobody said Cancel in the end: the file is listed, in a turn of its own.
+  EXPECT_EQ(rows(form.view1), (Texts{"C:\\T\\a.tmp"}));
+  EXPECT_EQ(served, 2);
+}
+
 TEST(Srch, ACancelBeforeTheFirstFileStillLetsTheTreeBeWalked) {
   Walked walked({"C:\\T\\a.tmp"});
   walked.machine.add_file("C:\\T\\z\\big.bin", 5 * kGiB);
@@ -284,6 +353,14 @@ TEST(Srch2, ListsEmptyFilesOnly) {
   EXPECT_EQ(walked.srch2("C:\\T", "*.msi"), (Texts{"C:\\T\\sub\\empty.msi", "C:\\T\\empty.msi"}));
   EXPECT_EQ(walked.form().totals.catfiles, 2);
   EXPECT_EQ(walked.form().totals.catsize, 0);
+}
+
+TEST(Srch2, AFileWhoseSizeOverflowsIsNotEmpty) {
+  Walked walked({});
+  walked.machine.add_file("C:\\T\\empty.msi", 0);
+  walked.machine.add_file("C:\\T\\huge.msi", 5'368'709'120);
+  EXPECT_EQ(walked.srch2("C:\\T", "*.msi"), (Texts{"C:\\T\\empty.msi"}));
+  EXPECT_EQ(walked.form().totals.catfiles, 1);
 }
 
 TEST(Srch2, ListsAnEmptyDesktopIni) {

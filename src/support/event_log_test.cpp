@@ -103,6 +103,17 @@ TEST(EventLog, RefusesAnEntryThatLacksSomething) {
   }
 }
 
+TEST(EventLog, AnyIdAbove0IsTakenAndRoundedToItsWhole) {
+  KeptLog log;
+  EventLog event_log(log);
+  for (const char* id : {"0.5", "0.6", "1.5", "5000.4"}) {
+    EXPECT_TRUE(event_log.WriteEvent("text", "Cleaner", id, EventLog::kError)) << id;
+  }
+  std::vector<std::uint32_t> ids;
+  for (const Entry& entry : log.entries) ids.push_back(entry.event_id);
+  EXPECT_EQ(ids, (std::vector<std::uint32_t>{0, 1, 2, 5000}));  // ties go to the even one
+}
+
 TEST(EventLog, TellsWhenTheLogTookNoEntry) {
   KeptLog log;
   log.takes_entries = false;

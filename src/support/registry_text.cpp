@@ -26,12 +26,13 @@ std::string dword_text(std::string_view bytes) {
 RegistryText read(const Registry& registry, Hive hive, const std::string& key,
                   const std::string& name, KeyAccess access) {
   const auto value = registry.value(hive, key, name, access);
+  if (value.failed()) return {false, {}, value.problem()};
   if (!value || value->data.size() >= kBufferBytes) return {};
   std::string_view data = value->data;
   if (data.ends_with('\0')) data.remove_suffix(1);
-  if (value->type == RegistryType::kSz) return {true, std::string(data)};
-  if (value->type == RegistryType::kDword) return {true, dword_text(data)};
-  return {true, {}};
+  if (value->type == RegistryType::kSz) return {true, std::string(data), {}};
+  if (value->type == RegistryType::kDword) return {true, dword_text(data), {}};
+  return {true, {}, {}};
 }
 
 }  // namespace
@@ -46,10 +47,11 @@ RegistryText ReadRegistryString32(const Registry& registry, Hive hive, const std
   return read(registry, hive, key, name, KeyAccess::kSettings);
 }
 
-bool WriteRegistryString(Registry& registry, Hive hive, const std::string& key,
-                         const std::string& name, std::string_view text) {
-  return registry.create_key(hive, key) &&
-         registry.set_value(hive, key, name, {RegistryType::kSz, std::string(text)});
+RegistryWrite WriteRegistryString(Registry& registry, Hive hive, const std::string& key,
+                                  const std::string& name, std::string_view text) {
+  const RegistryWrite made = registry.create_key(hive, key);
+  if (!made) return made;
+  return registry.set_value(hive, key, name, {RegistryType::kSz, std::string(text)});
 }
 
 }  // namespace quillvane

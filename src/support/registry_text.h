@@ -12,6 +12,9 @@ namespace quillvane {
 struct RegistryText {
   bool read = false;  // a value was read, of whatever type
   std::string text;   // empty otherwise
+  // Why it could not be read; empty also where there is none. What was not read is not written
+  // back.
+  std::string problem;
 };
 
 // A setting of the system, in the 64-bit half of the registry. Text values give their text. Numbers
@@ -21,12 +24,13 @@ struct RegistryText {
 [[nodiscard]] RegistryText ReadRegistryString(const Registry& registry, Hive hive,
                                               const std::string& key, const std::string& name);
 
-// The same of the half that a program of this width sees.
+// The same of the half that a program of this width sees, which WriteRegistryString writes to: for
+// the program's own settings.
 [[nodiscard]] RegistryText ReadRegistryString32(const Registry& registry, Hive hive,
                                                 const std::string& key, const std::string& name);
 
-// Writes a text, making the key and those above it. True when it was written.
-bool WriteRegistryString(Registry& registry, Hive hive, const std::string& key,
-                         const std::string& name, std::string_view text);
+// Writes a text, making the key and those above it.
+RegistryWrite WriteRegistryString(Registry& registry, Hive hive, const std::string& key,
+                                  const std::string& name, std::string_view text);
 
 }  // namespace quillvane

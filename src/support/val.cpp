@@ -19,9 +19,11 @@ std::string without_blanks(std::string_view text) {
 }
 
 // The digits of a hexadecimal or octal number behind its mark.
-double based_number(std::string_view digits, int base) {
+std::optional<double> based_number(std::string_view digits, int base) {
   std::uint64_t value = 0;
-  std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
+  const auto [end, error] =
+      std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
+  if (end == digits.data()) return std::nullopt;
   return static_cast<double>(value);
 }
 
@@ -48,7 +50,9 @@ std::size_t decimal_length(std::string_view text) {
 
 }  // namespace
 
-double Val(std::string_view text) {
+double Val(std::string_view text) { return number_at_head(text).value_or(0); }
+
+std::optional<double> number_at_head(std::string_view text) {
   const std::string plain = without_blanks(text);
   std::string_view rest = plain;
   if (rest.size() > 2 && rest[0] == '&') {
@@ -59,6 +63,7 @@ double Val(std::string_view text) {
   if (!rest.empty() && (rest[0] == '-' || rest[0] == '+')) rest.remove_prefix(1);
 
   std::string number(rest.substr(0, decimal_length(rest)));
+  if (number.empty()) return std::nullopt;
   for (char& c : number) {
     if (c == 'd' || c == 'D') c = 'e';
   }

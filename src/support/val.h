@@ -1,6 +1,7 @@
 // Reading a number from the head of a text.
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 namespace quillvane {
@@ -9,5 +10,8 @@ namespace quillvane {
 // exponent; "&h" begins a hexadecimal and "&o" an octal number. What follows the number is
 // ignored; 0 when there is none. Does not depend on the locale. All settings are read through this.
 [[nodiscard]] double Val(std::string_view text);
+
+// The same, where a text without a number is to be told from a 0.
+[[nodiscard]] std::optional<double> number_at_head(std::string_view text);
 
 }  // namespace quillvane

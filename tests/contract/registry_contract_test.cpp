@@ -16,7 +16,7 @@ class RegistryContract : public ContractTest {
   bool set(const std::string& name, RegistryType type, const std::string& data) {
     return platform.registry.set_value(Hive::kCurrentUser, key(), name, {type, data});
   }
-  std::optional<RegistryValue> get(const std::string& name) {
+  RegistryRead<RegistryValue> get(const std::string& name) {
     return platform.registry.value(Hive::kCurrentUser, key(), name);
   }
   Names value_names() {
@@ -163,6 +163,32 @@ TEST_F(RegistryContract, TheOtherViewSeesTheSamePrivateKeys) {
       platform.registry.value(Hive::kCurrentUser, key(), "v", KeyAccess::kSystemSettings);
   ASSERT_TRUE(value.has_value());
   EXPECT_EQ(value->data, "x\0"s);
+}
+
+TEST_F(RegistryContract, WhatIsNotThereIsNoFailure) {
+  ASSERT_TRUE(platform.registry.create_key(Hive::kCurrentUser, key()));
+  EXPECT_FALSE(get("missing").failed());
+  EXPECT_FALSE(platform.registry.value(Hive::kCurrentUser, key("missing"), "v").failed());
+  EXPECT_FALSE(platform.registry.values(Hive::kCurrentUser, key("missing")).failed());
+  EXPECT_FALSE(platform.registry.sub_keys(Hive::kCurrentUser, key("missing")).failed());
+}
+
+TEST_F(RegistryContract, ARefusedWriteSaysWhy) {
+  const RegistryWrite written = platform.registry.set_value(Hive::kCurrentUser, key("missing"), "v",
+                                                            {RegistryType::kBinary, "x"});
+  EXPECT_FALSE(written);
+  EXPECT_NE(written.problem(), "");
+}
+
+TEST_F(RegistryContract, ARemovedValueIsGoneAndTheOthersStay) {
+  ASSERT_TRUE(platform.registry.create_key(Hive::kCurrentUser, key()));
+  ASSERT_TRUE(set("a", RegistryType::kBinary, "1"));
+  ASSERT_TRUE(set("b", RegistryType::kBinary, "2"));
+  EXPECT_TRUE(platform.registry.remove_value(Hive::kCurrentUser, key(), "A"));
+  EXPECT_EQ(value_names(), Names{"b"});
+  // What is not there need not be removed.
+  EXPECT_TRUE(platform.registry.remove_value(Hive::kCurrentUser, key(), "a"));
+  EXPECT_TRUE(platform.registry.remove_value(Hive::kCurrentUser, key("missing"), "a"));
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 // Walks of a folder and everything below it.
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -150,6 +151,31 @@ TEST_F(TreeContract, ATreeTellsWhetherALoopWasLeftOut) {
   EXPECT_FALSE(platform.files.read_tree(machine->folder(), "*.*")->left_out_loops());
   machine->add_link(path_of("a\\up"), path_of("a"));
   EXPECT_TRUE(platform.files.read_tree(machine->folder(), "*.*")->left_out_loops());
+}
+
+TEST_F(TreeContract, WhereLinksMultiplyEveryFolderIsReadAndSomeLinksArePassedOver) {
+  // Two links in each folder to the next one, 65,536 ways to the last.
+  for (int i = 0; i <= 16; ++i) {
+    machine->add_folder(path_of("f" + std::to_string(i)));
+    machine->add_file(path_of("f" + std::to_string(i) + "\\" + std::to_string(i) + ".tmp"), "");
+    if (i == 0) continue;
+    for (const char* link : {"\\a", "\\b"}) {
+      machine->add_link(path_of("f" + std::to_string(i - 1) + link),
+                        path_of("f" + std::to_string(i)));
+    }
+  }
+  const auto tree = platform.files.read_tree(path_of("f0"), "*.*");
+  ASSERT_NE(tree, nullptr);
+  EXPECT_TRUE(tree->left_out_links());
+  const Names found = walk(path_of("f0"), "*.*");
+  // At most 20,000 entries are read again, a file and two links in each folder.
+  EXPECT_LT(found.size(), 10'000U);
+  for (int i = 0; i <= 16; ++i) {
+    const std::string name = std::to_string(i) + ".tmp";
+    EXPECT_TRUE(std::any_of(found.begin(), found.end(), [&](const std::string& path) {
+      return path == name || path.ends_with("\\" + name);
+    })) << name;
+  }
 }
 
 TEST_F(TreeContract, ALinkIsEnteredLikeAFolder) {

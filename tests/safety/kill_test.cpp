@@ -1,6 +1,6 @@
 // The program is killed at hundreds of random moments, and what it leaves behind is looked at: each
-// list, the queue and the statistics must be the old or the new one, and a second run must be able
-// to finish the job.
+// list, the queue and the statistics must be the old or the new one, the next start must put the
+// thumbnail policy back, and a second run must be able to finish the job.
 #include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/wait.h>
@@ -22,6 +22,7 @@
 #include "platform/folder/registry_store.h"
 #include "platform/multi_string.h"
 #include "platform/virtual/queued_dialogs.h"
+#include "support/registry_values.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillvane {
@@ -38,6 +39,9 @@ constexpr const char* kMachineJson = R"({"inUse": ["C:\\Windows\\Temp\\05.tmp",
 constexpr const char* kQueueKey = "SYSTEM\\CurrentControlSet\\Control\\Session Manager";
 constexpr const char* kQueueValue = "PendingFileRenameOperations";
 constexpr const char* kStatistics = "software\\Quillvane\\Tidewrack Deluxe\\statics\\junkfiles";
+constexpr const char* kPolicies =
+    "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer";
+constexpr const char* kPolicy = "NoThumbnailCache";
 constexpr const char* kHistory = "software\\Quillvane\\Tidewrack Deluxe\\junkscan";
 
 const Texts kOldQueue = {"\\??\\C:\\other.dll", ""};
@@ -84,6 +88,16 @@ class Machine {
     const auto value = machine_->registry().value(Hive::kLocalMachine, key, name);
     return value ? value->data.substr(0, value->data.find('\0')) : "(none)";
   }
+  // Whether Explorer is kept from writing thumbnails, by the first of the policy's values and the
+  // last that this machine has.
+  [[nodiscard]] std::vector<RegistryContent> policies() {
+    std::vector<RegistryContent> values;
+    for (const Hive hive : {Hive::kCurrentUser, Hive::kLocalMachine}) {
+      values.push_back(GetRegistryValue(machine_->registry(), hive, kPolicies, kPolicy)
+                           .value_or(std::string("(none)")));
+    }
+    return values;
+  }
   void set(const char* key, const char* name, RegistryType type, const std::string& data) {
     EXPECT_TRUE(machine_->registry().store_value(Hive::kLocalMachine, key, name, {type, data}));
   }
@@ -129,6 +143,11 @@ class KillTest : public ::testing::Test {
     machine.set(kQueueKey, kQueueValue, RegistryType::kMultiSz, multi_string_data(kOldQueue));
     machine.set(kStatistics, "count", RegistryType::kSz, std::string("10") + '\0');
     machine.set(kStatistics, "size", RegistryType::kSz, std::string("1000") + '\0');
+    const std::string off(4, '\0');
+    for (const Hive hive : {Hive::kCurrentUser, Hive::kLocalMachine}) {
+      EXPECT_TRUE(
+          (*machine).registry().store_value(hive, kPolicies, kPolicy, {RegistryType::kDword, off}));
+    }
   }
 
   // A machine as it was before, for one run.
@@ -184,6 +203,25 @@ class KillTest : public ::testing::Test {
     }
   }
 
+  // What the run left of the policy is put back by the next start, and none of it afterwards.
+  void expect_policy_put_back(const std::string& folder) {
+    const RegistryContent off = std::uint32_t{0};
+    const RegistryContent on = std::uint32_t{1};
+    {
+      Machine next(folder);
+      Program program(next.platform());
+      program.start("");
+      EXPECT_EQ(next.policies(), (std::vector<RegistryContent>{off, off}));
+    }
+    Machine later(folder);
+    EXPECT_TRUE(
+        (*later).registry().store_value(Hive::kLocalMachine, kPolicies, kPolicy,
+                                        {RegistryType::kDword, std::string("\1\0\0\0", 4)}));
+    Program program(later.platform());
+    program.start("");
+    EXPECT_EQ(later.policies(), (std::vector<RegistryContent>{off, on}));
+  }
+
   void expect_a_second_run_finishes(const std::string& folder) {
     {
       Machine again(folder);
@@ -223,9 +261,50 @@ TEST_F(KillTest, ACleaningRunLeavesOldOrNewAndASecondRunFinishes) {
     }
     expect_whole_or_gone(folder);
     expect_kept_files(folder);
+    expect_policy_put_back(folder);
     if (killed % 4 == 0) expect_a_second_run_finishes(folder);
     if (HasFailure()) return;
   }
+}
+
+TEST_F(KillTest, AProgramThatStartsWhileAnotherCleansLeavesItsPolicy) {
+  const std::string folder = fresh_machine();
+  int ready[2];
+  int go_on[2];
+  ASSERT_EQ(pipe(ready), 0);
+  ASSERT_EQ(pipe(go_on), 0);
+  const pid_t child = fork();
+  if (child == 0) {
+    close(go_on[1]);
+    Machine cleaning(folder);
+    bool waited = false;
+    // In the middle of the cleaning, when the policy is on.
+    (*cleaning).loop().set_served_hook([&] {
+      if (waited || cleaning.policies().front() == RegistryContent(std::uint32_t{0})) return;
+      waited = true;
+      static_cast<void>(write(ready[1], "r", 1));
+      char word = 0;
+      static_cast<void>(read(go_on[0], &word, 1));
+    });
+    scan_and_clean(cleaning, [] {});
+    _exit(waited ? 0 : 1);
+  }
+  close(ready[1]);
+  char word = 0;
+  ASSERT_EQ(read(ready[0], &word, 1), 1);
+  const RegistryContent on = std::uint32_t{1};
+  {
+    Machine second(folder);
+    Program program(second.platform());
+    program.start("");
+    EXPECT_EQ(second.policies(), (std::vector<RegistryContent>{on, on}));
+  }
+  close(go_on[1]);
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  EXPECT_EQ(status, 0);
+  const RegistryContent off = std::uint32_t{0};
+  EXPECT_EQ(Machine(folder).policies(), (std::vector<RegistryContent>{off, off}));
 }
 
 TEST_F(KillTest, ABackupLeavesWholeFilesAndTheOldOrTheNewHistory) {

@@ -2,7 +2,7 @@
 //
 // Values are given in the order in which they were first set. The rights that each read of a value
 // or of values asked for are kept in `accesses`. With `writable` off nothing can be made or
-// written. Sub-keys are not listed.
+// written; while `unreadable` says why, no read succeeds. Sub-keys are not listed.
 #pragma once
 
 #include <algorithm>
@@ -38,23 +38,27 @@ class MemoryRegistry final : public Registry {
     }
   }
 
-  [[nodiscard]] std::optional<std::vector<std::string>> sub_keys(
+  [[nodiscard]] RegistryRead<std::vector<std::string>> sub_keys(
       Hive, const std::string&, KeyAccess = KeyAccess::kRead) const override {
+    if (!unreadable.empty()) return RegistryRead<std::vector<std::string>>::failure(unreadable);
     return std::nullopt;
   }
 
-  [[nodiscard]] std::optional<std::vector<NamedRegistryValue>> values(
+  [[nodiscard]] RegistryRead<std::vector<NamedRegistryValue>> values(
       Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const override {
+    using Answer = RegistryRead<std::vector<NamedRegistryValue>>;
     accesses.push_back(access);
+    if (!unreadable.empty()) return Answer::failure(unreadable);
     const auto found = keys_.find({hive, lower_case(key)});
     if (found == keys_.end()) return std::nullopt;
     return found->second;
   }
 
-  [[nodiscard]] std::optional<RegistryValue> value(
+  [[nodiscard]] RegistryRead<RegistryValue> value(
       Hive hive, const std::string& key, const std::string& name,
       KeyAccess access = KeyAccess::kRead) const override {
     accesses.push_back(access);
+    if (!unreadable.empty()) return RegistryRead<RegistryValue>::failure(unreadable);
     const auto values = keys_.find({hive, lower_case(key)});
     if (values == keys_.end()) return std::nullopt;
     const auto found = find_value(values->second, name);
@@ -62,19 +66,30 @@ class MemoryRegistry final : public Registry {
     return found->value;
   }
 
-  [[nodiscard]] bool create_key(Hive hive, const std::string& key) override {
-    if (writable) keys_[{hive, lower_case(key)}];
-    return writable;
+  RegistryWrite create_key(Hive hive, const std::string& key) override {
+    if (!writable) return RegistryWrite::failure("it is read-only");
+    keys_[{hive, lower_case(key)}];
+    return {};
   }
 
-  [[nodiscard]] bool set_value(Hive hive, const std::string& key, const std::string& name,
-                               const RegistryValue& value) override {
-    if (!writable || !keys_.contains({hive, lower_case(key)})) return false;
+  RegistryWrite set_value(Hive hive, const std::string& key, const std::string& name,
+                          const RegistryValue& value) override {
+    if (!writable) return RegistryWrite::failure("it is read-only");
+    if (!keys_.contains({hive, lower_case(key)})) return RegistryWrite::failure("no such key");
     put(hive, key, name, value.type, value.data);
-    return true;
+    return {};
+  }
+
+  RegistryWrite remove_value(Hive hive, const std::string& key, const std::string& name) override {
+    if (!writable) return RegistryWrite::failure("it is read-only");
+    const auto values = keys_.find({hive, lower_case(key)});
+    if (values == keys_.end()) return {};
+    std::erase_if(values->second, [&](const auto& value) { return same_name(value.name, name); });
+    return {};
   }
 
   bool writable = true;
+  std::string unreadable;
   mutable std::vector<KeyAccess> accesses;
 
  private:

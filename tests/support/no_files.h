@@ -14,12 +14,9 @@ namespace quillvane {
 
 class NoFiles : public FileSystem {
  public:
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(const std::string&,
-                                                            const std::string&) const override {
-    return nullptr;
-  }
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_for(
-      const std::string&, const std::vector<std::string>&) const override {
+  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_watched(const std::string&,
+                                                                    const std::vector<std::string>&,
+                                                                    TreeReading*) const override {
     return nullptr;
   }
   [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string&,

@@ -16,19 +16,16 @@ class WatchedFiles final : public FileSystem {
   // `files` must outlive it.
   explicit WatchedFiles(FileSystem& files) : files_(files) {}
 
-  // The folders of read_tree and read_tree_for, in the order of the calls, and what they answered.
+  // The folders of the trees that were read, in the order of the calls, and what they answered.
   mutable std::vector<std::string> walked;
   mutable std::vector<std::weak_ptr<const FolderTree>> trees;
   // Every path that any call was about, these included.
   mutable std::vector<std::string> asked;
 
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(
-      const std::string& folder, const std::string& pattern) const override {
-    return note(folder, files_.read_tree(folder, pattern));
-  }
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_for(
-      const std::string& folder, const std::vector<std::string>& patterns) const override {
-    return note(folder, files_.read_tree_for(folder, patterns));
+  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_watched(
+      const std::string& folder, const std::vector<std::string>& patterns,
+      TreeReading* watch) const override {
+    return note(folder, files_.read_tree_watched(folder, patterns, watch));
   }
   [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
                                                      const std::string& pattern) const override {

@@ -126,7 +126,7 @@ TEST_F(LockedFile, ItIsQueuedForTheNextRestartBehindWhatWasQueuedBefore) {
   DeleteAFile(platform_, path);
   ASSERT_TRUE(StillThere(platform_, path_));
   queue.add(path_);
-  queue.savepending();
+  EXPECT_TRUE(queue.savepending());
 
   // The old pair, the new one, and one empty text more; then the end of the list.
   EXPECT_EQ(restart.get(), L"\\??\\C:\\old.tmp\0\0\\??\\"s + widen(path_) + L"\0\0\0\0"s);

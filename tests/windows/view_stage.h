@@ -59,7 +59,9 @@ class ViewStage final : public ViewHost {
   [[nodiscard]] HFONT font() const override { return font_.get(); }
   [[nodiscard]] HFONT bold_font() const override { return font_.get(); }
   [[nodiscard]] Pictures& pictures() override { return pictures_; }
-  void act(std::function<void()> act) override { acts_.push_back(std::move(act)); }
+  void act(std::function<void()> act, WhileReading /*meanwhile*/) override {
+    acts_.push_back(std::move(act));
+  }
   void needs_refresh() override { ++refreshes_asked; }
   void show_menu(const Menu& menu, POINT /*place*/) override { shown_menu = &menu; }
 

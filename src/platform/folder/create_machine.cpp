@@ -6,6 +6,7 @@
 #include <system_error>
 #include <utility>
 #include <variant>
+#include <vector>
 
 #include "platform/folder/host_file.h"
 #include "platform/folder/host_path.h"
@@ -165,6 +166,30 @@ constexpr RegistrySetup kRegistry[] = {
     {Hive::kUsers, kNone, "S-1-5-21-1004336348-1177238915-682003330-1001_Classes"},
 };
 
+namespace fs = std::filesystem;
+
+// The folder and those above it that are not there yet, the lowest first.
+std::vector<fs::path> missing_folders(const std::string& dir) {
+  std::vector<fs::path> missing;
+  std::error_code failed;
+  fs::path folder = fs::absolute(host_path(dir), failed).lexically_normal();
+  if (!folder.has_filename()) folder = folder.parent_path();
+  while (!failed && folder.has_relative_path() && !fs::exists(folder, failed)) {
+    missing.push_back(folder);
+    folder = folder.parent_path();
+  }
+  return missing;
+}
+
+// Takes away what was made of a machine, and the folders that were made for it.
+void take_away(const std::string& dir, const std::vector<fs::path>& made) {
+  std::error_code ignored;
+  for (const char* part : {"machine.json", "registry.db", "registry.db-journal", "drive_c"}) {
+    fs::remove_all(host_path(dir) / part, ignored);
+  }
+  for (const fs::path& folder : made) fs::remove(folder, ignored);  // only empty ones go
+}
+
 // Makes the folder, or sees that there is nothing in it.
 std::optional<std::string> take_folder(const std::string& dir) {
   std::error_code failed;
@@ -177,10 +202,7 @@ std::optional<std::string> take_folder(const std::string& dir) {
   return std::nullopt;
 }
 
-}  // namespace
-
-std::optional<std::string> create_machine(const std::string& dir) {
-  if (auto problem = take_folder(dir)) return problem;
+std::optional<std::string> make_machine(const std::string& dir) {
   if (const std::error_code failed = replace_host_file(dir + "/machine.json", kMachineJson)) {
     return dir + "/machine.json: cannot be written: " + failed.message();
   }
@@ -199,6 +221,17 @@ std::optional<std::string> create_machine(const std::string& dir) {
   auto& registry = *std::get<std::unique_ptr<FolderRegistry>>(opened);
   if (!set_up_registry(registry, kRegistry)) return dir + "/registry.db: cannot be written";
   return std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::string> create_machine(const std::string& dir, const FillMachine& fill) {
+  const std::vector<fs::path> made = missing_folders(dir);
+  if (auto problem = take_folder(dir)) return problem;
+  auto problem = make_machine(dir);
+  if (!problem && fill) problem = fill(dir);
+  if (problem) take_away(dir, made);
+  return problem;
 }
 
 }  // namespace quillvane

@@ -121,5 +121,23 @@ TEST_F(CreateMachine, RefusesAFile) {
   EXPECT_TRUE(create_machine(path + "/below").has_value());
 }
 
+TEST_F(CreateMachine, ThatFailsLeavesNothingBehind) {
+  const auto fails = [](const std::string& dir) {
+    EXPECT_TRUE(std::filesystem::exists(dir + "/drive_c/Windows"));
+    return std::optional("no room"s);
+  };
+  EXPECT_EQ(create_machine(folder_.path_of("a/b/machine"), fails), "no room");
+  EXPECT_FALSE(folder_.has("a"));
+
+  folder_.make_folder("empty");
+  EXPECT_EQ(create_machine(folder_.path_of("empty"), fails), "no room");
+  EXPECT_TRUE(folder_.has("empty"));
+  EXPECT_TRUE(std::filesystem::is_empty(folder_.path_of("empty")));
+
+  folder_.write("full/drive_c/mine", "x");
+  EXPECT_NE(create_machine(folder_.path_of("full"), fails), std::nullopt);
+  EXPECT_EQ(folder_.read("full/drive_c/mine"), "x");
+}
+
 }  // namespace
 }  // namespace quillvane

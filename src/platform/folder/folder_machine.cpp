@@ -13,6 +13,7 @@
 #include "platform/folder/machine_environment.h"
 #include "platform/folder/machine_event_log.h"
 #include "platform/folder/machine_files.h"
+#include "platform/folder/machine_instances.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_outward.h"
 #include "platform/folder/machine_processes.h"
@@ -45,13 +46,14 @@ bool holds_machine(const std::string& dir) {
 }  // namespace
 
 struct FolderMachine::Parts {
-  Parts(MachineState& state, EffectLog& effects, MachineFiles& files,
+  Parts(const std::string& dir, MachineState& state, EffectLog& effects, MachineFiles& files,
         const std::function<void()>& save)
       : drives(state),
         environment(state),
         system(state),
         event_log(effects),
         processes(state, effects, save),
+        instances(dir),
         url_cache(state, save),
         security(effects),
         shell(state, effects, files, [&state, &files] { empty_recycle_bins(state, files); }),
@@ -63,6 +65,7 @@ struct FolderMachine::Parts {
   MachineSystem system;
   MachineEventLog event_log;
   MachineProcesses processes;
+  MachineInstances instances;
   MachineUrlCache url_cache;
   MachineSecurity security;
   MachineShell shell;
@@ -95,7 +98,7 @@ FolderMachine::FolderMachine(std::string dir, MachineState state)
       state_(std::move(state)),
       loop_(machine_clock(std::chrono::system_clock::now(), state_.utc_offset_minutes)),
       files_(make_machine_files(state_)),
-      parts_(std::make_unique<Parts>(state_, effects_, *files_, [this] { save(); })) {}
+      parts_(std::make_unique<Parts>(dir_, state_, effects_, *files_, [this] { save(); })) {}
 
 FolderMachine::~FolderMachine() = default;
 
@@ -107,6 +110,7 @@ Platform FolderMachine::platform(Dialogs& dialogs) {
           .system = parts_->system,
           .event_log = parts_->event_log,
           .processes = parts_->processes,
+          .instances = parts_->instances,
           .url_cache = parts_->url_cache,
           .security = parts_->security,
           .shell = parts_->shell,

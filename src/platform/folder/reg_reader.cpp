@@ -144,16 +144,16 @@ std::optional<std::string> import_reg_file(FolderRegistry& registry, std::string
   const auto& sections = std::get<std::vector<RegKeyChange>>(parsed);
 
   std::size_t failed_line = 0;
-  const auto apply = [&](const RegKeyChange& section) {
+  const auto change_value = [&](const RegKeyChange& section, const RegValueChange& change) -> bool {
+    if (!change.value) return registry.remove_value(section.hive, section.key, change.name);
+    return registry.store_value(section.hive, section.key, change.name, *change.value);
+  };
+  const auto apply = [&](const RegKeyChange& section) -> bool {
     failed_line = section.line;
     if (section.remove) return registry.remove_key(section.hive, section.key);
     return registry.create_key(section.hive, section.key) &&
-           std::all_of(section.values.begin(), section.values.end(), [&](const auto& change) {
-             if (!change.value) {
-               return registry.remove_value(section.hive, section.key, change.name);
-             }
-             return registry.store_value(section.hive, section.key, change.name, *change.value);
-           });
+           std::all_of(section.values.begin(), section.values.end(),
+                       [&](const auto& change) { return change_value(section, change); });
   };
   const bool done = registry.at_one_stroke([&] {
     const bool all = std::all_of(sections.begin(), sections.end(), apply);

@@ -242,7 +242,7 @@ class RegImport : public testing::Test {
     registry_ = std::get<std::unique_ptr<FolderRegistry>>(std::move(opened));
   }
 
-  std::optional<RegistryValue> value(const std::string& key, const std::string& name) {
+  RegistryRead<RegistryValue> value(const std::string& key, const std::string& name) {
     return registry_->value(Hive::kCurrentUser, key, name);
   }
 

@@ -30,29 +30,24 @@ std::optional<std::string> structure(SqliteDatabase& database) {
 
 // Tables of another kind, or others beside them, could answer anything.
 bool has_told_structure(SqliteDatabase& database) {
-  auto opened = SqliteDatabase::open(":memory:", SqliteDatabase::Missing::kIsMade);
+  auto opened = SqliteDatabase::open(":memory:", SqliteDatabase::Missing::kIsMade, {});
   auto* fresh = std::get_if<SqliteDatabase>(&opened);
   return fresh != nullptr && fresh->run(kRegistryTables) &&
          structure(database) == structure(*fresh);
-}
-
-std::string failure(const SqliteDatabase& database) {
-  if (database.is_locked()) return "is locked by another program";
-  return "cannot be read: " + database.last_error();
 }
 
 }  // namespace
 
 std::variant<StoreContent, std::string> inspect_store(SqliteDatabase& database) {
   const auto application = number(database, "PRAGMA application_id");
-  if (!application) return failure(database);
+  if (!application) return database.problem("read");
   const auto tables = number(database, "SELECT count(*) FROM sqlite_master");
-  if (!tables) return failure(database);
+  if (!tables) return database.problem("read");
   if (*application == 0 && *tables == 0) return StoreContent::kNothing;
   if (*application != kApplicationId) return std::string("is the database of another program");
 
   const auto version = number(database, "PRAGMA user_version");
-  if (!version) return failure(database);
+  if (!version) return database.problem("read");
   if (*version != kFormatVersion) {
     return std::string("has a format that this version of the program cannot read");
   }
@@ -62,13 +57,13 @@ std::variant<StoreContent, std::string> inspect_store(SqliteDatabase& database) 
   // A page that was lost would look like keys that are not there, and an index that fits its table
   // not would find keys below themselves.
   SqliteQuery pages = database.query("PRAGMA integrity_check(1)");
-  if (!pages.next()) return failure(database);
+  if (!pages.next()) return database.problem("read");
   const std::string found = pages.bytes(0);
   if (found != "ok") return "is damaged: " + found.substr(found.rfind('\n') + 1);
 
   // Those numbers are the hives', so such a key would lie above the hive that it lies in.
   const auto like_hives = number(database, "SELECT count(*) FROM reg_key WHERE id < 0");
-  if (!like_hives) return failure(database);
+  if (!like_hives) return database.problem("read");
   if (*like_hives != 0) return std::string("is damaged: a key lies within itself");
   return StoreContent::kRegistry;
 }

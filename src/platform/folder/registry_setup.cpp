@@ -29,7 +29,7 @@ std::string setup_data(const RegistrySetup& row) {
 
 bool set_up_registry(FolderRegistry& registry, std::span<const RegistrySetup> rows) {
   return registry.at_one_stroke([&] {
-    return std::all_of(rows.begin(), rows.end(), [&](const RegistrySetup& row) {
+    return std::all_of(rows.begin(), rows.end(), [&](const RegistrySetup& row) -> bool {
       if (row.name == nullptr) return registry.create_key(row.hive, row.key);
       return registry.store_value(row.hive, row.key, row.name, {row.type, setup_data(row)});
     });

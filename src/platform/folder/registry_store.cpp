@@ -49,17 +49,20 @@ bool is_pending_renames(Hive hive, std::string_view key, std::string_view name) 
 }  // namespace
 
 std::variant<std::unique_ptr<FolderRegistry>, std::string> FolderRegistry::open(
-    const std::string& file, EffectLog& effects) {
-  std::unique_ptr<FolderRegistry> registry(new FolderRegistry(file, effects));
+    const std::string& file, EffectLog& effects, std::chrono::milliseconds lock_wait) {
+  std::unique_ptr<FolderRegistry> registry(new FolderRegistry(file, effects, lock_wait));
   if (auto problem = registry->connect()) return "registry.db: " + *problem;
   return registry;
 }
 
 std::optional<std::string> FolderRegistry::connect() const {
+  if (database_) return std::nullopt;
   if (auto problem = registry_files_problem(file_)) return problem;
   std::error_code failed;
-  if (!std::filesystem::exists(host_path(file_), failed)) return std::nullopt;
-  auto opened = SqliteDatabase::open(file_, SqliteDatabase::Missing::kFails);
+  const bool exists = std::filesystem::exists(host_path(file_), failed);
+  if (failed) return "cannot be read: " + failed.message();
+  if (!exists) return std::nullopt;
+  auto opened = SqliteDatabase::open(file_, SqliteDatabase::Missing::kFails, lock_wait_);
   if (const auto* reason = std::get_if<std::string>(&opened)) return "cannot be opened: " + *reason;
   auto& database = std::get<SqliteDatabase>(opened);
   const auto content = inspect_store(database);
@@ -68,83 +71,107 @@ std::optional<std::string> FolderRegistry::connect() const {
   return std::nullopt;
 }
 
-bool FolderRegistry::connected() const { return database_ || (!connect() && database_); }
-
-bool FolderRegistry::make_store() {
-  if (connected()) return true;
-  if (registry_files_problem(file_)) return false;
-  auto opened = SqliteDatabase::open(file_, SqliteDatabase::Missing::kIsMade);
-  auto* database = std::get_if<SqliteDatabase>(&opened);
-  if (database == nullptr) return false;
-  const auto content = inspect_store(*database);
-  const auto* nothing = std::get_if<StoreContent>(&content);
-  if (nothing == nullptr || *nothing != StoreContent::kNothing) return false;
-  if (!database->at_one_stroke([&] { return database->run(kRegistryTables); })) return false;
-  database_ = std::move(*database);
-  return true;
+std::string FolderRegistry::read_problem() const {
+  return "the registry " + database_->problem("read");
 }
 
-std::optional<std::vector<std::string>> FolderRegistry::sub_keys(Hive hive, const std::string& key,
-                                                                 KeyAccess) const {
+RegistryWrite FolderRegistry::write_failure() const {
+  return RegistryWrite::failure("the registry " + database_->problem("written"));
+}
+
+RegistryWrite FolderRegistry::make_store() {
+  if (const auto problem = connect()) return RegistryWrite::failure("the registry " + *problem);
+  if (database_) return {};
+  auto opened = SqliteDatabase::open(file_, SqliteDatabase::Missing::kIsMade, lock_wait_);
+  if (const auto* reason = std::get_if<std::string>(&opened)) {
+    return RegistryWrite::failure("the registry cannot be made: " + *reason);
+  }
+  auto& database = std::get<SqliteDatabase>(opened);
+  // Another program may have made it in the meantime.
+  const bool is_registry = database.at_one_stroke([&] {
+    const auto content = inspect_store(database);
+    const auto* found = std::get_if<StoreContent>(&content);
+    if (found == nullptr) return false;
+    return *found == StoreContent::kRegistry || database.run(kRegistryTables);
+  });
+  if (!is_registry) return RegistryWrite::failure("the registry cannot be made");
+  database_ = std::move(database);
+  return {};
+}
+
+RegistryRead<std::vector<std::string>> FolderRegistry::sub_keys(Hive hive, const std::string& key,
+                                                                KeyAccess) const {
+  using Answer = RegistryRead<std::vector<std::string>>;
   std::vector<std::string> names;
-  if (!connected()) return is_hive(key) ? std::optional(names) : std::nullopt;
   const auto id = find_key(hive, key);
+  if (id.failed()) return Answer::failure(id.problem());
   if (!id) return std::nullopt;
+  if (!database_) return names;
   SqliteQuery query = database_->query("SELECT name FROM reg_key WHERE parent = ?");
   query.bind(*id);
   while (query.next()) names.push_back(query.bytes(0));
-  if (!query.succeeded()) return std::nullopt;
+  if (!query.succeeded()) return Answer::failure(read_problem());
   std::sort(names.begin(), names.end(), [](const std::string& left, const std::string& right) {
     return compare_names(left, right) < 0;
   });
   return names;
 }
 
-std::optional<std::vector<NamedRegistryValue>> FolderRegistry::values(Hive hive,
-                                                                      const std::string& key,
-                                                                      KeyAccess) const {
+RegistryRead<std::vector<NamedRegistryValue>> FolderRegistry::values(Hive hive,
+                                                                     const std::string& key,
+                                                                     KeyAccess) const {
+  using Answer = RegistryRead<std::vector<NamedRegistryValue>>;
   std::vector<NamedRegistryValue> list;
-  if (!connected()) return is_hive(key) ? std::optional(list) : std::nullopt;
   const auto id = find_key(hive, key);
+  if (id.failed()) return Answer::failure(id.problem());
   if (!id) return std::nullopt;
+  if (!database_) return list;
   SqliteQuery query =
       database_->query("SELECT name, type, data FROM reg_value WHERE key = ? ORDER BY id");
   query.bind(*id);
   while (query.next()) {
     list.push_back({query.bytes(0), {static_cast<RegistryType>(query.number(1)), query.bytes(2)}});
   }
-  if (!query.succeeded()) return std::nullopt;
+  if (!query.succeeded()) return Answer::failure(read_problem());
   return list;
 }
 
-std::optional<RegistryValue> FolderRegistry::value(Hive hive, const std::string& key,
-                                                   const std::string& name, KeyAccess) const {
-  if (!connected()) return std::nullopt;
+RegistryRead<RegistryValue> FolderRegistry::value(Hive hive, const std::string& key,
+                                                  const std::string& name, KeyAccess) const {
+  using Answer = RegistryRead<RegistryValue>;
   const auto id = find_key(hive, key);
-  if (!id) return std::nullopt;
+  if (id.failed()) return Answer::failure(id.problem());
+  if (!id || !database_) return std::nullopt;
   const std::string folded = upper_case(name);
   SqliteQuery query =
       database_->query("SELECT type, data FROM reg_value WHERE key = ? AND folded = ?");
-  if (!query.bind(*id).bind(folded).next()) return std::nullopt;
-  return RegistryValue{static_cast<RegistryType>(query.number(0)), query.bytes(1)};
-}
-
-bool FolderRegistry::create_key(Hive hive, const std::string& key) {
-  return at_one_stroke([&] { return make_key(hive, key).has_value(); });
-}
-
-bool FolderRegistry::set_value(Hive hive, const std::string& key, const std::string& name,
-                               const RegistryValue& value) {
-  if (!connected()) {
-    // Only the hives are keys of a registry that isn't there yet.
-    if (!is_hive(key) || !make_store()) return false;
+  if (query.bind(*id).bind(folded).next()) {
+    return RegistryValue{static_cast<RegistryType>(query.number(0)), query.bytes(1)};
   }
+  return query.succeeded() ? Answer(std::nullopt) : Answer::failure(read_problem());
+}
+
+RegistryWrite FolderRegistry::create_key(Hive hive, const std::string& key) {
+  const RegistryWrite store = make_store();
+  if (!store) return store;
+  if (database_->at_one_stroke([&] { return make_key(hive, key).has_value(); })) return {};
+  const std::string& problem = database_->stroke_problem();
+  return RegistryWrite::failure(problem.empty() ? "no key can have this name"
+                                                : "the registry " + problem);
+}
+
+RegistryWrite FolderRegistry::set_value(Hive hive, const std::string& key, const std::string& name,
+                                        const RegistryValue& value) {
   const auto id = find_key(hive, key);
-  if (!id || !write_value(*id, name, value)) return false;
+  if (id.failed()) return RegistryWrite::failure(id.problem());
+  if (!id) return RegistryWrite::failure("the key is not there");
+  const RegistryWrite store = make_store();
+  if (!store) return store;
+  if (!write_value(*id, name, value)) return write_failure();
   if (is_pending_renames(hive, key, name)) {
     effects_.add("queue-write", {{"value", multi_string_list(value.data)}});
   }
-  return true;
+  return {};
 }
 
 bool FolderRegistry::store_value(Hive hive, const std::string& key, const std::string& name,
@@ -159,7 +186,7 @@ bool FolderRegistry::remove_key(Hive hive, const std::string& key) {
   if (is_hive(key)) return false;
   return at_one_stroke([&] {
     const auto id = find_key(hive, key);
-    if (!id) return true;
+    if (!id) return !id.failed();
     constexpr const char* kRemoveValues = R"(
       WITH RECURSIVE below (id) AS (
         SELECT ?1 UNION SELECT reg_key.id FROM reg_key JOIN below ON reg_key.parent = below.id)
@@ -173,16 +200,14 @@ bool FolderRegistry::remove_key(Hive hive, const std::string& key) {
   });
 }
 
-bool FolderRegistry::remove_value(Hive hive, const std::string& key, const std::string& name) {
-  return at_one_stroke([&] {
-    const auto id = find_key(hive, key);
-    if (!id) return true;
-    const std::string folded = upper_case(name);
-    return database_->query("DELETE FROM reg_value WHERE key = ? AND folded = ?")
-        .bind(*id)
-        .bind(folded)
-        .run();
-  });
+RegistryWrite FolderRegistry::remove_value(Hive hive, const std::string& key,
+                                           const std::string& name) {
+  const auto id = find_key(hive, key);
+  if (id.failed()) return RegistryWrite::failure(id.problem());
+  if (!id || !database_) return {};
+  const std::string folded = upper_case(name);
+  SqliteQuery query = database_->query("DELETE FROM reg_value WHERE key = ? AND folded = ?");
+  return query.bind(*id).bind(folded).run() ? RegistryWrite() : write_failure();
 }
 
 bool FolderRegistry::at_one_stroke(const std::function<bool()>& steps) {
@@ -191,22 +216,27 @@ bool FolderRegistry::at_one_stroke(const std::function<bool()>& steps) {
 
 bool FolderRegistry::is_hive(std::string_view key) { return path_names(key).empty(); }
 
-std::optional<FolderRegistry::KeyId> FolderRegistry::find_key(Hive hive,
-                                                              std::string_view key) const {
-  std::optional<KeyId> id = hive_id(hive);
+// Where there is no store yet, the hives are the only keys.
+RegistryRead<FolderRegistry::KeyId> FolderRegistry::find_key(Hive hive,
+                                                             std::string_view key) const {
+  using Answer = RegistryRead<KeyId>;
+  if (const auto problem = connect()) return Answer::failure("the registry " + *problem);
+  if (!database_) return is_hive(key) ? Answer(hive_id(hive)) : Answer(std::nullopt);
+  Answer id = hive_id(hive);
   for (const std::string_view name : path_names(key)) {
     id = find_sub_key(*id, name);
-    if (!id) return std::nullopt;
+    if (!id) break;
   }
   return id;
 }
 
-std::optional<FolderRegistry::KeyId> FolderRegistry::find_sub_key(KeyId parent,
-                                                                  std::string_view name) const {
+RegistryRead<FolderRegistry::KeyId> FolderRegistry::find_sub_key(KeyId parent,
+                                                                 std::string_view name) const {
+  using Answer = RegistryRead<KeyId>;
   const std::string folded = upper_case(name);
   SqliteQuery query = database_->query("SELECT id FROM reg_key WHERE parent = ? AND folded = ?");
-  if (!query.bind(parent).bind(folded).next()) return std::nullopt;
-  return query.number(0);
+  if (query.bind(parent).bind(folded).next()) return query.number(0);
+  return query.succeeded() ? Answer(std::nullopt) : Answer::failure(read_problem());
 }
 
 std::optional<FolderRegistry::KeyId> FolderRegistry::make_key(Hive hive, std::string_view key) {
@@ -216,9 +246,9 @@ std::optional<FolderRegistry::KeyId> FolderRegistry::make_key(Hive hive, std::st
   }
   std::optional<KeyId> id = hive_id(hive);
   for (const std::string_view name : names) {
-    const KeyId parent = *id;
-    id = find_sub_key(parent, name);
-    if (!id) id = make_sub_key(parent, name);
+    const auto found = find_sub_key(*id, name);
+    if (found.failed()) return std::nullopt;
+    id = found ? std::optional(*found) : make_sub_key(*id, name);
     if (!id) return std::nullopt;
   }
   return id;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#include <chrono>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -24,6 +25,9 @@ using Names = std::vector<std::string>;
 constexpr const char* kQueueKey = "SYSTEM\\CurrentControlSet\\Control\\Session Manager";
 constexpr const char* kQueueName = "PendingFileRenameOperations";
 
+// For tests in which a lock is never let go.
+constexpr std::chrono::milliseconds kNoWait{0};
+
 RegistryValue text(const std::string& content) { return {RegistryType::kSz, content + '\0'}; }
 
 class FolderRegistryTest : public testing::Test {
@@ -32,7 +36,7 @@ class FolderRegistryTest : public testing::Test {
 
   // The store as a program that starts now finds it.
   std::unique_ptr<FolderRegistry> open() {
-    auto result = FolderRegistry::open(file(), effects_);
+    auto result = FolderRegistry::open(file(), effects_, kNoWait);
     if (const auto* error = std::get_if<std::string>(&result)) {
       ADD_FAILURE() << *error;
       return nullptr;
@@ -41,7 +45,7 @@ class FolderRegistryTest : public testing::Test {
   }
 
   std::string open_failure() {
-    const auto result = FolderRegistry::open(file(), effects_);
+    const auto result = FolderRegistry::open(file(), effects_, kNoWait);
     const auto* error = std::get_if<std::string>(&result);
     return error == nullptr ? "opened" : *error;
   }
@@ -346,19 +350,55 @@ TEST_F(FolderRegistryTest, ALockedStoreIsRefusedAtTheStart) {
   EXPECT_EQ(open_failure(), "registry.db: is locked by another program");
 }
 
-TEST_F(FolderRegistryTest, WhileTheStoreIsLockedThereIsNothingToRead) {
+TEST_F(FolderRegistryTest, WhileTheStoreIsLockedReadsAndWritesFailAndSayWhy) {
   const auto registry = open();
   ASSERT_TRUE(registry->store_value(Hive::kCurrentUser, "A", "v", text("1")));
+  const std::string locked = "the registry is locked by another program";
   {
     OtherProgram other(file());
     other.run("BEGIN EXCLUSIVE");
-    EXPECT_EQ(registry->value(Hive::kCurrentUser, "A", "v"), std::nullopt);
-    EXPECT_EQ(registry->sub_keys(Hive::kCurrentUser, ""), std::nullopt);
-    EXPECT_EQ(value_names(*registry, Hive::kCurrentUser, "A"), std::nullopt);
-    EXPECT_FALSE(registry->create_key(Hive::kCurrentUser, "B"));
-    EXPECT_FALSE(registry->set_value(Hive::kCurrentUser, "A", "v", text("2")));
+    EXPECT_EQ(registry->value(Hive::kCurrentUser, "A", "v").problem(), locked);
+    EXPECT_EQ(registry->value(Hive::kCurrentUser, "Gone", "v").problem(), locked);
+    EXPECT_EQ(registry->sub_keys(Hive::kCurrentUser, "").problem(), locked);
+    EXPECT_EQ(registry->values(Hive::kCurrentUser, "A").problem(), locked);
+    EXPECT_EQ(registry->create_key(Hive::kCurrentUser, "B").problem(), locked);
+    EXPECT_EQ(registry->set_value(Hive::kCurrentUser, "A", "v", text("2")).problem(), locked);
+    EXPECT_FALSE(registry->remove_key(Hive::kCurrentUser, "A"));
+    EXPECT_FALSE(registry->remove_value(Hive::kCurrentUser, "A", "v"));
   }
   EXPECT_EQ(registry->value(Hive::kCurrentUser, "A", "v"), text("1"));
+}
+
+TEST_F(FolderRegistryTest, AnAbsentValueIsNoFailure) {
+  const auto registry = open();
+  EXPECT_FALSE(registry->value(Hive::kCurrentUser, "A", "v").failed());
+  ASSERT_TRUE(registry->create_key(Hive::kCurrentUser, "A"));
+  for (const char* key : {"A", "B", "A\\B"}) {
+    const auto value = registry->value(Hive::kCurrentUser, key, "v");
+    EXPECT_FALSE(value.has_value()) << key;
+    EXPECT_FALSE(value.failed()) << key;
+  }
+  EXPECT_FALSE(registry->values(Hive::kCurrentUser, "B").failed());
+  EXPECT_FALSE(registry->sub_keys(Hive::kCurrentUser, "B").failed());
+}
+
+TEST_F(FolderRegistryTest, AStoreThatIsDestroyedWhileItIsOpenCannotBeRead) {
+  const auto registry = open();
+  ASSERT_TRUE(registry->store_value(Hive::kCurrentUser, "A", "v", text("1")));
+  OtherProgram(file()).run("DROP TABLE reg_value");
+  const auto value = registry->value(Hive::kCurrentUser, "A", "v");
+  EXPECT_FALSE(value.has_value());
+  EXPECT_EQ(value.problem(), "the registry cannot be read: no such table: reg_value");
+  EXPECT_EQ(registry->set_value(Hive::kCurrentUser, "A", "v", text("2")).problem(),
+            "the registry cannot be written: no such table: reg_value");
+}
+
+TEST_F(FolderRegistryTest, AStoreThatAnotherProgramMakesInTheMeantimeIsTaken) {
+  const auto first = open();
+  const auto second = open();
+  ASSERT_TRUE(first->create_key(Hive::kCurrentUser, "A"));
+  EXPECT_TRUE(second->create_key(Hive::kCurrentUser, "B"));
+  EXPECT_EQ(first->sub_keys(Hive::kCurrentUser, ""), (Names{"A", "B"}));
 }
 
 }  // namespace

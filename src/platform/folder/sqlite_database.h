@@ -2,6 +2,7 @@
 // Nothing throws; a query that fails has no rows and answers false.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -23,9 +24,10 @@ class SqliteDatabase {
   enum class Missing { kFails, kIsMade };
 
   // The text is the reason why the file cannot be opened. A file that is no database is noticed by
-  // the first query only.
-  [[nodiscard]] static std::variant<SqliteDatabase, std::string> open(const std::string& file,
-                                                                      Missing missing);
+  // the first query only. A call waits up to `lock_wait` for another program's lock; once that was
+  // in vain the next ones wait no more, until one has succeeded.
+  [[nodiscard]] static std::variant<SqliteDatabase, std::string> open(
+      const std::string& file, Missing missing, std::chrono::milliseconds lock_wait);
 
   // A statement that was used before is not compiled again. One query of the same text at a time;
   // `sql` is a literal.
@@ -40,6 +42,16 @@ class SqliteDatabase {
 
   [[nodiscard]] bool is_locked() const;          // the last failure: another program holds the file
   [[nodiscard]] std::string last_error() const;  // the last failure in words
+  // Why the last steps at one stroke were not kept; empty when they themselves answered false.
+  [[nodiscard]] const std::string& stroke_problem() const { return stroke_problem_; }
+  // The last failure, said of the file: "is locked by another program", "cannot be VERB: REASON".
+  [[nodiscard]] std::string problem(const char* verb) const;
+
+  // How long is waited for a lock, and whether that was in vain.
+  struct Patience {
+    std::chrono::milliseconds limit;
+    bool spent = false;
+  };
 
  private:
   struct CloseDatabase {
@@ -51,17 +63,21 @@ class SqliteDatabase {
   using Database = std::unique_ptr<sqlite3, CloseDatabase>;
   using Statement = std::unique_ptr<sqlite3_stmt, EndStatement>;
 
-  explicit SqliteDatabase(Database database) : database_(std::move(database)) {}
+  SqliteDatabase(Database database, std::chrono::milliseconds lock_wait);
+  [[nodiscard]] bool succeeded() const;  // the last call
 
+  std::unique_ptr<Patience> patience_;  // the database points to it, so it is closed before
   Database database_;
+  std::string stroke_problem_;
   std::map<const char*, Statement> statements_;  // by the place of the literal
 };
 
 // One use of a statement: bind its parameters in order, then step through its rows.
 class SqliteQuery {
  public:
-  // Null for a statement that could not be compiled.
-  explicit SqliteQuery(sqlite3_stmt* statement) : statement_(statement) {}
+  // The statement is null when it could not be compiled.
+  SqliteQuery(sqlite3_stmt* statement, SqliteDatabase::Patience& patience)
+      : statement_(statement), patience_(patience) {}
   ~SqliteQuery();
   SqliteQuery(const SqliteQuery&) = delete;
   SqliteQuery& operator=(const SqliteQuery&) = delete;
@@ -82,6 +98,7 @@ class SqliteQuery {
 
  private:
   sqlite3_stmt* statement_;
+  SqliteDatabase::Patience& patience_;
   int bound_ = 0;
   bool succeeded_ = true;
 };

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <utility>
@@ -15,10 +16,13 @@ namespace {
 
 using namespace std::string_literals;
 
+constexpr std::chrono::milliseconds kNoWait{0};
+
 class SqliteDatabaseTest : public testing::Test {
  protected:
   SqliteDatabase open(SqliteDatabase::Missing missing = SqliteDatabase::Missing::kIsMade) {
-    return std::get<SqliteDatabase>(SqliteDatabase::open(folder_.path_of("a.db"), missing));
+    return std::get<SqliteDatabase>(
+        SqliteDatabase::open(folder_.path_of("a.db"), missing, kNoWait));
   }
 
   TempFolder folder_;
@@ -26,7 +30,7 @@ class SqliteDatabaseTest : public testing::Test {
 
 TEST_F(SqliteDatabaseTest, AMissingFileIsMadeOnlyWhenAskedFor) {
   const auto opened =
-      SqliteDatabase::open(folder_.path_of("a.db"), SqliteDatabase::Missing::kFails);
+      SqliteDatabase::open(folder_.path_of("a.db"), SqliteDatabase::Missing::kFails, kNoWait);
   ASSERT_TRUE(std::holds_alternative<std::string>(opened));
   EXPECT_EQ(std::get<std::string>(opened), "unable to open database file");
   EXPECT_FALSE(folder_.has("a.db"));

@@ -41,6 +41,10 @@ class VirtualLoop final : public MessageLoop {
   void serve_until(const std::function<bool()>& done) override {
     if (user_) user_(done);
   }
+  // Asks the hook; without one nobody looks on, and every reading goes on to its end.
+  [[nodiscard]] bool show_reading(const TreeProgress& progress) override {
+    return !reading_hook_ || reading_hook_(progress);
+  }
   [[nodiscard]] FileTime local_now() const override {
     return {local_start_.ticks + now_ms_ * kTicksPerMillisecond};
   }
@@ -54,6 +58,10 @@ class VirtualLoop final : public MessageLoop {
   // Called at each serving of the loop, after the timers; servings inside the hook call it too.
   // Requires: not changed while it runs.
   void set_served_hook(std::function<void()> hook) { served_hook_ = std::move(hook); }
+  // Who looks on while a tree is read, and answers whether to go on.
+  void set_reading_hook(std::function<bool(const TreeProgress& progress)> hook) {
+    reading_hook_ = std::move(hook);
+  }
   // What stands for the user while a window waits for one. It acts until `done` holds or it has
   // nothing more to do, and may be called again inside one of its acts. Requires: not changed while
   // it runs.
@@ -82,6 +90,7 @@ class VirtualLoop final : public MessageLoop {
   std::vector<RunningTimer> timers_;
   TimerId last_id_ = 0;
   std::function<void()> served_hook_;
+  std::function<bool(const TreeProgress& progress)> reading_hook_;
   std::function<void(const std::function<bool()>& done)> user_;
 };
 

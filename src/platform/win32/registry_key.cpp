@@ -34,7 +34,7 @@ std::wstring key_path(const std::string& key) {
 RegistryKey RegistryKey::open(Hive hive, const std::string& key, REGSAM access) {
   HKEY opened = nullptr;
   const LSTATUS status = RegOpenKeyExW(root_key(hive), key_path(key).c_str(), 0, access, &opened);
-  return RegistryKey(status == ERROR_SUCCESS ? opened : nullptr);
+  return {status == ERROR_SUCCESS ? opened : nullptr, status};
 }
 
 RegistryKey RegistryKey::create(Hive hive, const std::string& key, REGSAM access) {
@@ -42,7 +42,7 @@ RegistryKey RegistryKey::create(Hive hive, const std::string& key, REGSAM access
   std::wstring key_class = kKeyClass;
   const LSTATUS status = RegCreateKeyExW(root_key(hive), key_path(key).c_str(), 0, key_class.data(),
                                          0, access, nullptr, &opened, nullptr);
-  return RegistryKey(status == ERROR_SUCCESS ? opened : nullptr);
+  return {status == ERROR_SUCCESS ? opened : nullptr, status};
 }
 
 }  // namespace quillvane

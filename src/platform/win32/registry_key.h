@@ -20,9 +20,11 @@ class RegistryKey {
   static RegistryKey create(Hive hive, const std::string& key, REGSAM access);
 
   RegistryKey() = default;
-  RegistryKey(RegistryKey&& other) noexcept : key_(std::exchange(other.key_, nullptr)) {}
+  RegistryKey(RegistryKey&& other) noexcept
+      : key_(std::exchange(other.key_, nullptr)), status_(other.status_) {}
   RegistryKey& operator=(RegistryKey&& other) noexcept {
     std::swap(key_, other.key_);
+    std::swap(status_, other.status_);
     return *this;
   }
   ~RegistryKey() {
@@ -30,12 +32,15 @@ class RegistryKey {
   }
 
   [[nodiscard]] bool is_open() const { return key_ != nullptr; }
+  // What Windows answered to the opening.
+  [[nodiscard]] LSTATUS status() const { return status_; }
   [[nodiscard]] HKEY get() const { return key_; }
 
  private:
-  explicit RegistryKey(HKEY key) : key_(key) {}
+  RegistryKey(HKEY key, LSTATUS status) : key_(key), status_(status) {}
 
   HKEY key_ = nullptr;
+  LSTATUS status_ = ERROR_INVALID_HANDLE;
 };
 
 }  // namespace quillvane

@@ -17,8 +17,12 @@ constexpr std::size_t kFolderPatternLength = 3;
 
 }  // namespace
 
-TreeReader::TreeReader(const std::vector<std::string>& patterns, FolderTree& tree)
-    : short_names_(FolderListing::ShortNames::kNo), arena_(tree.add_arena()), tree_(tree) {
+TreeReader::TreeReader(const std::vector<std::string>& patterns, FolderTree& tree,
+                       ReadingState& state)
+    : short_names_(FolderListing::ShortNames::kNo),
+      arena_(tree.add_arena()),
+      tree_(tree),
+      state_(state) {
   for (const std::string& pattern : patterns) {
     patterns_.push_back({FilePattern(pattern), utf16_length(pattern)});
     if (!patterns_.back().rule.matches_every_name()) short_names_ = FolderListing::ShortNames::kYes;
@@ -29,8 +33,7 @@ bool TreeReader::read(std::wstring folder) {
   path_ = std::move(folder);
   ListedFolder* root = ListedFolder::make(arena_, {}, nullptr);
   tree_.set_root(root);
-  const bool is_new = guard_.enter(path_, /*is_link=*/false);
-  return is_new && read_folder(*root);
+  return guard_.enter(path_, /*is_link=*/false) == LinkGuard::Step::kEntered && read_folder(*root);
 }
 
 // One listing serves for files and subfolders. Each has a limit of its own, since a path is too
@@ -40,16 +43,21 @@ bool TreeReader::read_folder(ListedFolder& folder) {
   const bool folders_fit = path_.size() + kFolderPatternLength < kPathLimit;
   if (fitting == 0 && !folders_fit) return false;
 
+  if (state_.ended()) return true;
+  state_.enter(folder);
   FolderListing listing(path_ + L'*', short_names_);
   if (!listing.is_open()) return false;
   std::vector<Subfolder> subfolders;
-  while (const WIN32_FIND_DATAW* entry = listing.next()) {
+  std::size_t entries = 0;
+  while (const WIN32_FIND_DATAW* entry = state_.ended() ? nullptr : listing.next()) {
+    ++entries;
     if ((entry->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
       if (fitting != 0) note_file(*entry, fitting);
     } else if (folders_fit) {
       subfolders.push_back(make_subfolder(*entry, folder));
     }
   }
+  guard_.note_read(entries);
   store_files(folder);
 
   ListedFolder* last = nullptr;
@@ -63,15 +71,22 @@ bool TreeReader::read_folder(ListedFolder& folder) {
 }
 
 void TreeReader::read_subfolder(const Subfolder& subfolder) {
+  if (state_.ended()) return;
   const std::size_t length = path_.size();
   path_ += widen(subfolder.folder->name());
   path_ += L'\\';
-  if (guard_.enter(path_, subfolder.is_link)) {
-    // One that cannot be read stays in the tree, empty.
-    static_cast<void>(read_folder(*subfolder.folder));
-    guard_.leave();
-  } else {
-    tree_.set_left_out_loops();
+  switch (guard_.enter(path_, subfolder.is_link)) {
+    case LinkGuard::Step::kEntered:
+      // One that cannot be read stays in the tree, empty.
+      static_cast<void>(read_folder(*subfolder.folder));
+      guard_.leave();
+      break;
+    case LinkGuard::Step::kLoop:
+      tree_.set_left_out_loops();
+      break;
+    case LinkGuard::Step::kPassedOver:
+      tree_.set_left_out_links();
+      break;
   }
   path_.resize(length);
 }
@@ -106,6 +121,7 @@ void TreeReader::note_file(const WIN32_FIND_DATAW& entry, std::uint32_t fitting)
     names_.resize(begin);
     return;
   }
+  state_.add_files(1);
   matches_.push_back(matching);
   records_.push_back({entry.nFileSizeLow,
                       entry.nFileSizeHigh,

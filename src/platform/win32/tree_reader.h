@@ -10,6 +10,7 @@
 
 #include "platform/file_pattern.h"
 #include "platform/folder_tree.h"
+#include "platform/reading_state.h"
 #include "platform/win32/folder_listing.h"
 #include "platform/win32/link_guard.h"
 
@@ -18,11 +19,11 @@ namespace quillvane {
 class TreeReader {
  public:
   // Takes the files that match one of `patterns`, of which there are at most
-  // FolderTree::kMostPatterns; `tree` must outlive the reader.
-  TreeReader(const std::vector<std::string>& patterns, FolderTree& tree);
+  // FolderTree::kMostPatterns; `tree` and `state` must outlive the reader.
+  TreeReader(const std::vector<std::string>& patterns, FolderTree& tree, ReadingState& state);
 
   // Reads the tree from `folder` on, which ends in a backslash. False when the folder cannot be
-  // listed.
+  // listed. When `state` ends the reading, what was read until then stays.
   [[nodiscard]] bool read(std::wstring folder);
 
  private:
@@ -49,6 +50,7 @@ class TreeReader {
   FolderListing::ShortNames short_names_;
   TreeArena& arena_;
   FolderTree& tree_;
+  ReadingState& state_;
   LinkGuard guard_;
   std::wstring path_;  // of the folder being read, with a backslash at its end
 

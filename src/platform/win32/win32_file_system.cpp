@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include "platform/watched_reading.h"
 #include "platform/win32/disk_error.h"
 #include "platform/win32/file_content.h"
 #include "platform/win32/folder_listing.h"
@@ -86,18 +87,17 @@ RemoveResult refused(const std::wstring& path) {
 
 }  // namespace
 
-std::shared_ptr<const FolderTree> Win32FileSystem::read_tree(const std::string& folder,
-                                                             const std::string& pattern) const {
-  return read_tree_for(folder, {pattern});
-}
-
-std::shared_ptr<const FolderTree> Win32FileSystem::read_tree_for(
-    const std::string& folder, const std::vector<std::string>& patterns) const {
+std::shared_ptr<const FolderTree> Win32FileSystem::read_tree_watched(
+    const std::string& folder, const std::vector<std::string>& patterns, TreeReading* watch) const {
   auto prefix = folder_prefix(folder);
   if (!prefix || patterns.empty() || patterns.size() > FolderTree::kMostPatterns) return nullptr;
   auto tree = std::make_shared<FolderTree>();
-  TreeReader reader(patterns, *tree);
-  if (!reader.read(std::move(*prefix))) return nullptr;
+  ReadingState state;
+  TreeReader reader(patterns, *tree, state);
+  bool could_be_listed = false;
+  read_watched(watch, folder, state, [&] { could_be_listed = reader.read(std::move(*prefix)); });
+  if (!could_be_listed) return nullptr;
+  if (state.ended()) tree->set_ended_early();
   return tree;
 }
 

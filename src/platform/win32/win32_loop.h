@@ -28,11 +28,20 @@ class Win32Loop final : public MessageLoop {
   void stop_timer(TimerId timer) override;
   // `done` is asked after each serving.
   void serve_until(const std::function<bool()>& done) override;
+  // Asks the view; without one every reading goes on to its end.
+  [[nodiscard]] bool show_reading(const TreeProgress& progress) override {
+    return !reading_view_ || reading_view_(progress);
+  }
   [[nodiscard]] FileTime local_now() const override;
 
   // `take` sees each message before it is dispatched; what it takes is not. For windows whose keys
   // go through their controls. An empty one takes nothing.
   void set_message_filter(std::function<bool(MSG&)> take) { take_ = std::move(take); }
+  // `show` has the windows answer while a tree is read, without an act of the user being done, and
+  // tells whether to go on. An empty one: there is no window.
+  void set_reading_view(std::function<bool(const TreeProgress&)> show) {
+    reading_view_ = std::move(show);
+  }
 
  private:
   struct RunningTimer {
@@ -52,6 +61,7 @@ class Win32Loop final : public MessageLoop {
 
   std::vector<RunningTimer> timers_;
   std::function<bool(MSG&)> take_;
+  std::function<bool(const TreeProgress&)> reading_view_;
   TimerId last_id_ = 0;
   std::uint64_t served_ms_ = 0;  // the tick of the clock in which the loop was last served
 };

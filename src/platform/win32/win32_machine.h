@@ -6,6 +6,7 @@
 #include "platform/win32/win32_environment.h"
 #include "platform/win32/win32_event_log.h"
 #include "platform/win32/win32_file_system.h"
+#include "platform/win32/win32_instances.h"
 #include "platform/win32/win32_processes.h"
 #include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_security.h"
@@ -33,6 +34,7 @@ class Win32Machine {
             .system = system_,
             .event_log = event_log_,
             .processes = processes_,
+            .instances = instances_,
             .url_cache = url_cache_,
             .security = security_,
             .shell = shell_,
@@ -50,6 +52,7 @@ class Win32Machine {
   Win32SystemInfo system_;
   Win32EventLog event_log_;
   Win32Processes processes_;
+  Win32Instances instances_;
   Win32UrlCache url_cache_;
   Win32Security security_;
   Win32Shell shell_;

@@ -44,6 +44,14 @@ int ConsoleSession::problem(std::string_view what_and_why) const {
   return kNotDone;
 }
 
+std::function<void(std::string_view what, std::string_view why)> ConsoleSession::problem_teller()
+    const {
+  return [this](std::string_view what, std::string_view why) {
+    if (io.clear_line) io.clear_line();
+    problem(std::string(what) + ": " + std::string(why));
+  };
+}
+
 std::unique_ptr<ConsoleMachine> ConsoleSession::open_machine() const {
   std::ostringstream notices;
   auto opened = host.open(machine_folder, notices);

@@ -26,6 +26,10 @@ struct ConsoleSession {
 
   // "quillvane: WHAT: WHY" on standard error; answers kNotDone.
   int problem(std::string_view what_and_why) const;
+  // What tells a problem of the running program in the same way, above the line of progress. The
+  // session outlives it.
+  [[nodiscard]] std::function<void(std::string_view what, std::string_view why)> problem_teller()
+      const;
   // The machine to work on; null when it cannot be opened, which has been told then.
   [[nodiscard]] std::unique_ptr<ConsoleMachine> open_machine() const;
 };

@@ -1,6 +1,10 @@
 // The real program under a script.
 #pragma once
 
+#include <functional>
+#include <string_view>
+#include <utility>
+
 #include "core/program.h"
 #include "view/console/script/driven_program.h"
 
@@ -10,6 +14,11 @@ class ProgramDriver final : public DrivenProgram {
  public:
   // What `platform` refers to must outlive it.
   explicit ProgramDriver(const Platform& platform) : program_(platform) {}
+
+  // Where the program tells what it could not do.
+  void set_problem_teller(std::function<void(std::string_view, std::string_view)> teller) {
+    program_.on_problem = std::move(teller);
+  }
 
   void start(const std::string& command_line) override;
   [[nodiscard]] bool started() const override { return started_; }

@@ -58,7 +58,10 @@ bool ButtonView::press() {
 void ButtonView::commanded(int code) {
   // A double click is a second press.
   if (code != BN_CLICKED && code != BN_DOUBLECLICKED) return;
-  host().act([this] { button_.click(); });
+  // A button that is off by now does nothing when its turn comes.
+  const auto meanwhile =
+      button_.enabled() ? host().layout().while_reading(place().name) : WhileReading::kWaits;
+  host().act([this] { button_.click(); }, meanwhile);
 }
 
 void ButtonView::show_changes(const Changes& changes) {

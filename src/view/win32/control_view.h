@@ -11,6 +11,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "forms/control.h"
 #include "view/win32/look/layout_table.h"
@@ -52,7 +53,8 @@ class ViewHost {
 
   // Runs an act of the user from the message loop, behind those that came before. An act may be a
   // whole scan, which no control's own procedure should wait for.
-  virtual void act(std::function<void()> act) = 0;
+  virtual void act(std::function<void()> act, WhileReading meanwhile) = 0;
+  void act(std::function<void()> run) { act(std::move(run), WhileReading::kWaits); }
   // Some control has noted a change.
   virtual void needs_refresh() = 0;
   // Shows a popup menu at a place of the screen and clicks the chosen entry.
@@ -73,6 +75,8 @@ class ControlView : public ControlObserver {
   void changed(Control& control, Change what) final;
   // Draws what was noted since the last time.
   void refresh();
+  // Shows a folder that is being read, where the control is the line for that.
+  virtual void show_reading(const std::wstring& /*folder*/) {}
   // Fonts, colours or the screen's resolution have changed.
   virtual void restyle();
   // Pixels that the caption needs; 0 when it needs none.

@@ -2,9 +2,11 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "platform/win32/wide_text.h"
+#include "view/win32/dispatch.h"
 #include "view/win32/popup_menu.h"
 #include "view/win32/screen.h"
 #include "view/win32/toolbar_binding.h"
@@ -113,10 +115,10 @@ std::optional<LRESULT> FormWindow::handle_frame(UINT message, WPARAM w, LPARAM l
       return 0;
     case WM_SYSCOMMAND:
       if ((w & 0xFFF0U) != SC_MINIMIZE) return std::nullopt;
-      act([this] { model_.minimise(); });
+      act([this] { model_.minimise(); }, WhileReading::kActsNow);
       return 0;
     case WM_CLOSE:
-      act([this] { model_.close(); });
+      act([this] { model_.close(); }, WhileReading::kEndsIt);
       return 0;
     case WM_ENDSESSION:
       if (w != 0) model_.close();
@@ -203,19 +205,32 @@ std::optional<LRESULT> FormWindow::handle_looks(UINT message, WPARAM w, LPARAM l
   }
 }
 
-void FormWindow::act(std::function<void()> act) {
-  acts_.push_back(std::move(act));
+void FormWindow::act(std::function<void()> act, WhileReading meanwhile) {
+  if (is_reading_ && meanwhile == WhileReading::kActsNow) return act();
+  acts_.push_back({std::move(act), meanwhile});
   PostMessageW(window_, kActMessage, 0, 0);
 }
 
 // One message for each act. An act may serve the message loop itself and so run those that follow.
 void FormWindow::run_acts() {
-  if (acts_.empty() || ended_()) return;
-  const std::function<void()> act = std::move(acts_.front());
+  if (acts_.empty() || ended_() || is_reading_) return;
+  const std::function<void()> act = std::move(acts_.front().run);
   acts_.pop_front();
   note_focus();
   act();
   if (ended_()) ShowWindow(window_, SW_HIDE);
+}
+
+// The messages that ask for the acts are taken here without effect, also by the loops of Windows'
+// own (a window that is being moved); so each act gets a new one.
+bool FormWindow::serve_reading(const std::wstring& folder) {
+  is_reading_ = true;
+  for (const auto& view : views_) view->show_reading(folder);
+  dispatch_waiting(window_, 0, 0, [this](MSG& message) { return take_key(message); });
+  is_reading_ = false;
+  for (std::size_t i = 0; i < acts_.size(); ++i) PostMessageW(window_, kActMessage, 0, 0);
+  return std::none_of(acts_.begin(), acts_.end(),
+                      [](const UserAct& act) { return act.meanwhile == WhileReading::kEndsIt; });
 }
 
 void FormWindow::needs_refresh() {
@@ -246,7 +261,7 @@ void FormWindow::changed(Control& /*control*/, Change what) {
 }
 
 void FormWindow::restyle() {
-  theme_ = make_theme(model_.back_color(), system_colors(), high_contrast());
+  theme_ = make_theme(shown_color(model_.back_color()), system_colors(), high_contrast());
   FontOwner font = make_font(kFontPoints, FW_NORMAL, dpi_);
   FontOwner bold_font = make_font(kFontPoints, FW_SEMIBOLD, dpi_);
   std::swap(font, font_);  // the old ones stay until no control uses them

@@ -37,6 +37,10 @@ class FormWindow final : public ViewHost, private ControlObserver {
   // done with.
   [[nodiscard]] bool take_key(MSG& message);
 
+  // Shows the folder that is being read, paints, and takes what the user does; acts wait in their
+  // row meanwhile. False: one of them is to end the reading.
+  [[nodiscard]] bool serve_reading(const std::wstring& folder);
+
   [[nodiscard]] HWND window() const override { return window_; }
   [[nodiscard]] const WindowLayout& layout() const override { return layout_; }
   [[nodiscard]] const Theme& theme() const override { return theme_; }
@@ -44,11 +48,17 @@ class FormWindow final : public ViewHost, private ControlObserver {
   [[nodiscard]] HFONT font() const override { return font_.get(); }
   [[nodiscard]] HFONT bold_font() const override { return bold_font_.get(); }
   [[nodiscard]] Pictures& pictures() override { return pictures_; }
-  void act(std::function<void()> act) override;
+  using ViewHost::act;
+  void act(std::function<void()> act, WhileReading meanwhile) override;
   void needs_refresh() override;
   void show_menu(const Menu& menu, POINT place) override;
 
  private:
+  struct UserAct {
+    std::function<void()> run;
+    WhileReading meanwhile;
+  };
+
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l);
   void create();
   LRESULT handle(UINT message, WPARAM w, LPARAM l);
@@ -102,7 +112,8 @@ class FormWindow final : public ViewHost, private ControlObserver {
   Hints hints_;
   std::unique_ptr<TabStrip> tabs_;
   std::vector<std::unique_ptr<ControlView>> views_;  // as in the table
-  std::deque<std::function<void()>> acts_;
+  std::deque<UserAct> acts_;
+  bool is_reading_ = false;         // inside serve_reading
   std::vector<Control*> observed_;  // frames that the table names, and the title's label
   std::uint64_t refreshed_ms_ = 0;
   bool refresh_is_due_ = false;

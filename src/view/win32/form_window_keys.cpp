@@ -6,7 +6,8 @@ namespace quillvane {
 
 void FormWindow::click(std::string_view name) {
   if (auto* control = dynamic_cast<Clickable*>(model_.find(name))) {
-    act([control] { control->click(); });
+    const auto meanwhile = control->enabled() ? layout_.while_reading(name) : WhileReading::kWaits;
+    act([control] { control->click(); }, meanwhile);
   }
 }
 

@@ -8,6 +8,8 @@
 #include <memory>
 #include <type_traits>
 
+#include "forms/control.h"
+
 namespace quillvane {
 
 struct DeleteGdiObject {
@@ -65,6 +67,13 @@ inline void fill(HDC dc, const RECT& area, COLORREF color) {
 inline void frame(HDC dc, const RECT& area, COLORREF color) {
   const BrushOwner brush(CreateSolidBrush(color));
   FrameRect(dc, &area, brush.get());
+}
+
+// A colour of the models as drawing takes it. One with the highest bit set is a number of the
+// system's colours.
+inline COLORREF shown_color(Color color) {
+  constexpr Color kOfSystem = 0x80000000U;
+  return (color & kOfSystem) != 0 ? GetSysColor(static_cast<int>(color & 0xFFU)) : color;
 }
 
 }  // namespace quillvane

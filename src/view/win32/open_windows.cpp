@@ -3,6 +3,9 @@
 #include <cstddef>
 #include <utility>
 
+#include "platform/win32/wide_text.h"
+#include "platform/win32/win32_tray.h"
+#include "view/win32/dispatch.h"
 #include "view/win32/form_window.h"
 #include "view/win32/look/layouts.h"
 
@@ -21,6 +24,20 @@ std::shared_ptr<void> OpenWindows::open(Window& model) {
             std::erase_if(windows_,
                           [opened](const auto& window) { return window.get() == opened; });
           }};
+}
+
+// Other windows of this thread are hints, which paint and go by timers, and the tray's, whose
+// double click brings a minimised window back. What else waits for them has to do with the program.
+bool OpenWindows::show_reading(const TreeProgress& progress) {
+  const std::wstring folder = widen(progress.folder);
+  bool goes_on = true;
+  for (std::size_t i = 0; i < windows_.size(); ++i) {
+    goes_on = windows_[i]->serve_reading(folder) && goes_on;
+  }
+  for (const UINT message : {UINT{WM_PAINT}, UINT{WM_TIMER}, kTrayMessage}) {
+    dispatch_waiting(nullptr, message, message);
+  }
+  return goes_on;
 }
 
 bool OpenWindows::take_key(MSG& message) {

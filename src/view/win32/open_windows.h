@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "forms/window.h"
+#include "platform/tree_reading.h"
 
 namespace quillvane {
 
@@ -27,6 +28,10 @@ class OpenWindows {
   // leaves the screen when what is returned is let go: the last opened first. Null: no table is
   // there for it.
   [[nodiscard]] std::shared_ptr<void> open(Window& model);
+
+  // Lets the windows answer while a tree is read: they paint, show the folder in work and take what
+  // the user does. False: the user wants the reading ended.
+  [[nodiscard]] bool show_reading(const TreeProgress& progress);
 
   // A message of the loop before Windows dispatches it. True: done with.
   [[nodiscard]] bool take_key(MSG& message);

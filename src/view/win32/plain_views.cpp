@@ -50,7 +50,17 @@ PathLineView::PathLineView(ViewHost& host, TextBox& box, const ControlPlace& pla
 }
 
 void PathLineView::show_changes(const Changes& changes) {
-  if (changes.has(Change::kText)) show_text(box_.text());
+  if (changes.has(Change::kText)) {
+    folder_.clear();
+    show_text(box_.text());
+  }
+  InvalidateRect(window(), nullptr, FALSE);
+}
+
+void PathLineView::show_reading(const std::wstring& folder) {
+  if (folder == folder_) return;
+  folder_ = folder;
+  SetWindowTextW(window(), folder_.c_str());
   InvalidateRect(window(), nullptr, FALSE);
 }
 
@@ -64,14 +74,15 @@ std::optional<LRESULT> PathLineView::filter(UINT message, WPARAM /*w*/, LPARAM /
 void PathLineView::paint() {
   const PaintScope paint(window());
   const Theme& theme = host().theme();
-  const COLORREF back = theme.high_contrast ? theme.page : box_.back_color();
+  const COLORREF back = theme.high_contrast ? theme.page : shown_color(box_.back_color());
   RECT area = client_area();
   fill(paint.dc(), area, back);
   InflateRect(&area, -scaled(kLinePadding, host().dpi()), 0);
   const Selected font(paint.dc(), host().font());
   SetBkMode(paint.dc(), TRANSPARENT);
   SetTextColor(paint.dc(), theme.high_contrast ? theme.text : readable_on(back));
-  DrawTextW(paint.dc(), widen(box_.text()).c_str(), -1, &area,
+  const std::wstring text = folder_.empty() ? widen(box_.text()) : folder_;
+  DrawTextW(paint.dc(), text.c_str(), -1, &area,
             DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_PATH_ELLIPSIS);
 }
 
@@ -102,7 +113,7 @@ void MarkView::paint() {
   const int top = (area.bottom - size) / 2;
   if (is_mark) {
     const RECT square{left, top, left + size, top + size};
-    fill(paint.dc(), square, theme.high_contrast ? theme.text : model().back_color());
+    fill(paint.dc(), square, theme.high_contrast ? theme.text : shown_color(model().back_color()));
     return;
   }
   host().pictures().draw(paint.dc(), left, top, size, place().picture, CLR_NONE);

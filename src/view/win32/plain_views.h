@@ -33,6 +33,8 @@ class PathLineView final : public ControlView {
  public:
   PathLineView(ViewHost& host, TextBox& box, const ControlPlace& place);
 
+  void show_reading(const std::wstring& folder) override;
+
  protected:
   void show_changes(const Changes& changes) override;
   std::optional<LRESULT> filter(UINT message, WPARAM w, LPARAM l) override;
@@ -41,6 +43,7 @@ class PathLineView final : public ControlView {
   void paint();
 
   TextBox& box_;
+  std::wstring folder_;  // in work; shown in place of the model's text until that changes
 };
 
 // A square of the model's colour, or a picture.

@@ -41,7 +41,13 @@ bool run_program(Program& program, Win32Loop& loop, const std::string& command_l
   const auto main_window = windows.open(program.main_window());
   program.attach_view = [&windows](Window& window) { return windows.open(window); };
   loop.set_message_filter([&windows](MSG& message) { return windows.take_key(message); });
+  loop.set_reading_view([&program, &windows](const TreeProgress& progress) {
+    // Nobody waits for the rest of a tree whose scan was cancelled, or whose program has ended.
+    return windows.show_reading(progress) && !program.ended() &&
+           program.main_window().cancelflag != 1;
+  });
   loop.serve_until([&program] { return program.ended(); });
+  loop.set_reading_view(nullptr);
   loop.set_message_filter(nullptr);
   program.attach_view = nullptr;
   return true;

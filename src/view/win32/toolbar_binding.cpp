@@ -84,7 +84,11 @@ int ToolbarBinding::wanted_width() const {
 }
 
 void ToolbarBinding::click(int number) {
-  host().act([this, number] { bar_.click_button(number); });
+  const ToolbarButton* button = bar_.button(number);
+  const bool is_on = bar_.enabled() && button != nullptr && button->enabled;
+  const auto meanwhile =
+      is_on ? host().layout().while_reading(place().name, number) : WhileReading::kWaits;
+  host().act([this, number] { bar_.click_button(number); }, meanwhile);
 }
 
 void ToolbarBinding::commanded(int code) { click(code - kFirstCommand); }

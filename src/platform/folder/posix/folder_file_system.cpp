@@ -20,6 +20,7 @@
 #include "platform/folder/posix/named_file.h"
 #include "platform/folder/posix/tree_scope.h"
 #include "platform/unicode_case.h"
+#include "platform/watched_reading.h"
 
 namespace quillvane {
 
@@ -137,13 +138,8 @@ FolderFileSystem::FolderFileSystem(const MachineState& machine, unsigned reading
     : paths_(machine),
       reading_threads_(reading_threads == 0 ? worthwhile_threads() : reading_threads) {}
 
-std::shared_ptr<const FolderTree> FolderFileSystem::read_tree(const std::string& folder,
-                                                              const std::string& pattern) const {
-  return read_tree_for(folder, {pattern});
-}
-
-std::shared_ptr<const FolderTree> FolderFileSystem::read_tree_for(
-    const std::string& folder, const std::vector<std::string>& patterns) const {
+std::shared_ptr<const FolderTree> FolderFileSystem::read_tree_watched(
+    const std::string& folder, const std::vector<std::string>& patterns, TreeReading* watch) const {
   const auto path = paths_.parse(folder);
   if (!path || patterns.size() > FolderTree::kMostPatterns) return nullptr;
   const DriveFolder drive = paths_.drive(path->drive);
@@ -158,7 +154,15 @@ std::shared_ptr<const FolderTree> FolderFileSystem::read_tree_for(
   Descriptor readable = open_for_listing(*place);
   if (!readable.is_open()) return nullptr;
   auto tree = std::make_shared<FolderTree>();
-  FolderWalk(scope, reading_threads_, *tree).read(*place, std::move(readable), path_units);
+  std::shared_ptr<FolderTree> given_up;  // `state` may still tell of a folder in it
+  ReadingState state;
+  read_watched(watch, folder, state, [&] {
+    FolderWalk(scope, reading_threads_, *tree, state).read(*place, std::move(readable), path_units);
+    if (reading_threads_ == 1 || !tree->left_out_links()) return;
+    given_up = std::exchange(tree, std::make_shared<FolderTree>());
+    FolderWalk(scope, 1, *tree, state).read(*place, open_for_listing(*place), path_units);
+  });
+  if (state.ended()) tree->set_ended_early();
   return tree;
 }
 

@@ -14,6 +14,7 @@ struct FolderInWork {
   Descriptor descriptor;             // not open: there is nothing to read
   const TreeRoute* route = nullptr;  // how the walk came here
   std::size_t path_units = 0;        // UTF-16 units of its Windows path and the backslash behind it
+  bool is_read_again = false;        // the walk has read it before, by another way
 };
 
 }  // namespace quillvane

@@ -13,6 +13,9 @@ namespace {
 using Entry = DirectoryListing::Entry;
 using Kind = DirectoryListing::Kind;
 
+// So many are told at a time: the count is one word for all reading threads.
+constexpr std::uint32_t kFilesAtATime = 64;
+
 ListedFolder::FixedRecord record_of(const HostStatus& status, FileTime created,
                                     std::size_t name_end) {
   using SplitTime = ListedFolder::SplitTime;
@@ -27,7 +30,11 @@ ListedFolder::FixedRecord record_of(const HostStatus& status, FileTime created,
 }  // namespace
 
 std::size_t FolderReader::read(const FolderInWork& work) {
-  if (!work.descriptor.is_open() || !listing_.read(work.descriptor.number())) return 0;
+  names_read_ = 0;
+  if (state_.ended() || !work.descriptor.is_open()) return 0;
+  state_.enter(*work.folder);
+  if (!listing_.read(work.descriptor.number())) return 0;
+  names_read_ = listing_.entries().size();
   if (listing_.has_links()) {
     follow_links(listing_, scope_.drive, work.route->path_of(*work.folder));
   }
@@ -65,13 +72,15 @@ void FolderReader::add_files(const FolderInWork& work) {
   for (Entry& entry : listing_.entries()) {
     HostStatus status;
     FileTime created;
-    if (!read_file_status(work, entry, status, created)) {
+    if (state_.ended() || !read_file_status(work, entry, status, created)) {
       entry.matches = 0;
       continue;
     }
     name_end += entry.name_length;
     records[kept++] = record_of(status, created, name_end);
+    if (kept % kFilesAtATime == 0) state_.add_files(kFilesAtATime);
   }
+  state_.add_files(kept % kFilesAtATime);
   if (kept < listed) {
     listing_.drop_if([](const Entry& entry) { return entry.matches == 0; });
     work.folder->keep_files(kept);

@@ -22,7 +22,8 @@ class FolderReaderTest : public ::testing::Test {
     const auto place = drive.find({});
     EXPECT_TRUE(place);
     const TreeRoute route("", *folder);
-    return FolderReader(scope, arena).read({folder, open_for_listing(*place), &route, path_units});
+    return FolderReader(scope, arena, state)
+        .read({folder, open_for_listing(*place), &route, path_units});
   }
 
   TempFolder host;
@@ -30,6 +31,7 @@ class FolderReaderTest : public ::testing::Test {
   DriveFolder drive{host.path()};
   TreeScope scope{drive, patterns, {}};
   TreeArena arena;
+  ReadingState state;
   ListedFolder* folder = ListedFolder::make(arena, "", nullptr);
 };
 
@@ -62,7 +64,7 @@ TEST_F(FolderReaderTest, LeavesOutFilesThatAreGoneWhenTheyAreLookedAt) {
     const TreeRoute route("", *folder);
     HostPlace place;
     place.object = Descriptor(open(host.path().c_str(), O_PATH | O_CLOEXEC));
-    FolderReader reader(scope, arena);
+    FolderReader reader(scope, arena, state);
     EXPECT_EQ(reader.read({folder, open_for_listing(place), &route, 3}), 1U);
   });
   EXPECT_EQ(folder->file_count(), 0U);
@@ -71,7 +73,7 @@ TEST_F(FolderReaderTest, LeavesOutFilesThatAreGoneWhenTheyAreLookedAt) {
 TEST_F(FolderReaderTest, GivesNothingToAFolderThatIsNotOpen) {
   host.write("a");
   const TreeRoute route("", *folder);
-  EXPECT_EQ(FolderReader(scope, arena).read({folder, Descriptor(), &route, 3}), 0U);
+  EXPECT_EQ(FolderReader(scope, arena, state).read({folder, Descriptor(), &route, 3}), 0U);
   EXPECT_EQ(folder->file_count(), 0U);
 }
 
@@ -79,6 +81,38 @@ TEST_F(FolderReaderTest, LooksForSubfoldersAsFarAsTheirPatternFits) {
   host.make_folder("sub");
   EXPECT_EQ(read(256), 1U);
   EXPECT_EQ(read(257), 0U);
+}
+
+TEST_F(FolderReaderTest, KeepsTheFilesThatWereLookedAtBeforeTheReadingEnded) {
+  for (int i = 100; i < 300; ++i) host.write(std::to_string(i));
+  const auto place = drive.find({});
+  ASSERT_TRUE(place);
+  const TreeRoute route("", *folder);
+  ReadingState ends_at_70(70);
+  FolderReader reader(scope, arena, ends_at_70);
+  EXPECT_EQ(reader.read({folder, open_for_listing(*place), &route, 3}), 0U);
+  // They are counted by 64: twice that is the first count that reaches 70.
+  EXPECT_EQ(ends_at_70.files(), 128U);
+  ASSERT_EQ(folder->file_count(), 128U);
+  for (std::uint32_t i = 0; i < 128; ++i) {
+    ASSERT_EQ(folder->name_of(i), std::to_string(100 + i));
+  }
+}
+
+TEST_F(FolderReaderTest, TellsTheFolderInWorkAndHowManyFilesItRead) {
+  for (const char* name : {"a", "b", "c"}) host.write(name);
+  read();
+  EXPECT_EQ(state.files(), 3U);
+  EXPECT_EQ(state.folder_in_work("C:\\Temp"), "C:\\Temp");
+}
+
+TEST_F(FolderReaderTest, ReadsNothingMoreOnceTheReadingHasEnded) {
+  host.write("a");
+  host.make_folder("sub");
+  state.end();
+  EXPECT_EQ(read(), 0U);
+  EXPECT_EQ(folder->file_count(), 0U);
+  EXPECT_EQ(folder->first_subfolder(), nullptr);
 }
 
 TEST_F(FolderReaderTest, WalksAFolderOfManyFiles) {

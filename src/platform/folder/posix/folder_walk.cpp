@@ -22,8 +22,9 @@ constexpr int kListFlags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 }  // namespace
 
-FolderWalk::FolderWalk(const TreeScope& scope, unsigned threads, FolderTree& tree)
-    : scope_(scope), tree_(tree), open_(threads) {}
+FolderWalk::FolderWalk(const TreeScope& scope, unsigned threads, FolderTree& tree,
+                       ReadingState& state)
+    : scope_(scope), tree_(tree), state_(state), open_(threads) {}
 
 void FolderWalk::read(const HostPlace& start, Descriptor descriptor, std::size_t path_units) {
   ListedFolder* root = ListedFolder::make(tree_.add_arena(), {}, nullptr);
@@ -33,11 +34,12 @@ void FolderWalk::read(const HostPlace& start, Descriptor descriptor, std::size_t
 }
 
 void FolderWalk::work(std::size_t thread, std::optional<FolderInWork> first) {
-  FolderReader reader(scope_, tree_.add_arena());
+  FolderReader reader(scope_, tree_.add_arena(), state_);
   std::size_t folders_read = 0;
   for (auto folder = first ? std::move(first) : next_folder(thread); folder;
        folder = next_folder(thread)) {
     const std::size_t subfolders = reader.read(*folder);
+    links_.note_read(folder->is_read_again, reader.names_read());
     finish(thread, std::move(*folder), subfolders);
     if (thread == 0 && ++folders_read == kFoldersWorthHelp) start_helpers();
   }
@@ -97,11 +99,11 @@ std::optional<FolderInWork> FolderWalk::take_from_others(std::size_t thread) {
 FolderInWork FolderWalk::enter(const FolderInWork& parent, ListedFolder& folder) {
   const std::string name(folder.name());
   FolderInWork entered{&folder, {}, parent.route, parent.path_units + utf16_length(name) + 1};
-  if (!scope_.can_list(entered.path_units)) return entered;
+  if (state_.ended() || is_given_up() || !scope_.can_list(entered.path_units)) return entered;
   entered.descriptor = Descriptor(openat(parent.descriptor.number(), name.c_str(), kListFlags));
   const bool is_link = !entered.descriptor.is_open() && (errno == ELOOP || errno == ENOTDIR);
   if (is_link) enter_link(parent, entered);
-  if (!may_be_read(entered)) entered.descriptor = {};
+  if (!may_be_read(entered, is_link)) entered.descriptor = {};
   return entered;
 }
 
@@ -118,16 +120,26 @@ void FolderWalk::enter_link(const FolderInWork& parent, FolderInWork& entered) {
   entered.descriptor = open_for_listing(*target);
 }
 
-// Behind a link a folder can lie in itself without a further link: the host is asked which it is.
-bool FolderWalk::may_be_read(const FolderInWork& entered) {
+// Behind a link a folder can lie in itself without a further link, or be one that was read before:
+// the host is asked which it is.
+bool FolderWalk::may_be_read(FolderInWork& entered, bool is_link) {
   if (!entered.descriptor.is_open()) return false;
-  if (scope_.denied.empty() && !entered.route->is_behind_link()) return true;
+  const bool is_behind_link = entered.route->is_behind_link();
+  if (scope_.denied.empty() && !is_behind_link) return true;
   HostStatus status;
   if (!read_status(entered.descriptor.number(), status)) return false;
   const HostIdentity identity = HostIdentity::of(status);
-  const bool is_loop = entered.route->was_entered(identity);
-  if (is_loop) tree_.set_left_out_loops();
-  return !is_loop && !scope_.is_denied(identity);
+  if (scope_.is_denied(identity)) return false;
+  if (!is_behind_link) return true;
+  if (entered.route->was_entered(identity)) {
+    tree_.set_left_out_loops();
+    return false;
+  }
+  const LinkBudget::Entry entry = links_.enter(identity.key(), is_link);
+  entered.is_read_again = entry == LinkBudget::Entry::kAgain;
+  if (entry != LinkBudget::Entry::kPassedOver) return true;
+  tree_.set_left_out_links();
+  return false;
 }
 
 const TreeRoute* FolderWalk::add_route(TreeRoute route) {

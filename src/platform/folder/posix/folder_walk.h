@@ -19,16 +19,21 @@
 #include "platform/folder/posix/tree_route.h"
 #include "platform/folder/posix/tree_scope.h"
 #include "platform/folder_tree.h"
+#include "platform/link_budget.h"
+#include "platform/reading_state.h"
 
 namespace quillvane {
 
 class FolderWalk {
  public:
-  // Requires: threads is at least 1.
-  FolderWalk(const TreeScope& scope, unsigned threads, FolderTree& tree);
+  // All must outlive the walk. Requires: threads is at least 1.
+  FolderWalk(const TreeScope& scope, unsigned threads, FolderTree& tree, ReadingState& state);
 
   // Reads the folder `start`, already open as `descriptor`, into the tree. `path_units` are the
-  // UTF-16 units of its Windows path with a backslash. Called once.
+  // UTF-16 units of its Windows path with a backslash. When `state` ends the reading, what was read
+  // until then stays. Called once.
+  // Which links are passed over (FolderTree::left_out_links) depends on which are met first, so on
+  // the threads: with several of them such a walk gives up, to be done anew with one.
   void read(const HostPlace& start, Descriptor descriptor, std::size_t path_units);
 
  private:
@@ -39,16 +44,19 @@ class FolderWalk {
   [[nodiscard]] std::optional<FolderInWork> next_folder(std::size_t thread);
   [[nodiscard]] std::optional<FolderInWork> take_from_others(std::size_t thread);
 
+  [[nodiscard]] bool is_given_up() const { return open_.size() > 1 && tree_.left_out_links(); }
   [[nodiscard]] FolderInWork enter(const FolderInWork& parent, ListedFolder& folder);
   void enter_link(const FolderInWork& parent, FolderInWork& entered);
-  [[nodiscard]] bool may_be_read(const FolderInWork& entered);
+  [[nodiscard]] bool may_be_read(FolderInWork& entered, bool is_link);
   const TreeRoute* add_route(TreeRoute route);
 
   const TreeScope& scope_;
   FolderTree& tree_;
+  ReadingState& state_;
   std::vector<OpenFolders> open_;  // one for each thread
   std::vector<std::thread> helpers_;
 
+  LinkBudget links_;
   std::mutex adding_route_;
   std::deque<TreeRoute> routes_;
 

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "platform/file_time.h"
+#include "platform/link_budget.h"
 
 namespace quillvane {
 
@@ -63,6 +64,9 @@ struct HostIdentity {
 
   static HostIdentity of(const HostStatus& status) {
     return {status.stx_dev_major, status.stx_dev_minor, status.stx_ino};
+  }
+  [[nodiscard]] FolderIdentity key() const {
+    return {std::uint64_t{device_major} << 32U | device_minor, inode};
   }
   friend bool operator==(const HostIdentity&, const HostIdentity&) = default;
 };

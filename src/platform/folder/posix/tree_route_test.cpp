@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "platform/folder/posix/folder_walk.h"
@@ -109,6 +110,56 @@ TEST_F(TreeRouteTest, EntersAFolderAboveTheWalkOnce) {
   host.write("drive_c/data/2");
   host.make_link("drive_c/data/x/above", "..");
   EXPECT_EQ(walk("C:\\data\\x"), (Names{"above\\2", "1"}));
+}
+
+// --- Links that multiply.
+
+TEST_F(TreeRouteTest, ReadsEveryFolderWhereLinksMultiplyAndPassesTheRestOver) {
+  // 18 folders with two links to the next one: 262,144 ways to the last.
+  for (int i = 1; i <= 18; ++i) {
+    const std::string folder = "drive_c/x/f" + std::to_string(i);
+    host.write(folder + "/" + std::to_string(i) + ".tmp");
+    if (i == 18) break;
+    const std::string next = "../f" + std::to_string(i + 1);
+    host.make_link(folder + "/a", next);
+    host.make_link(folder + "/b", next);
+  }
+  for (const unsigned threads : {1U, 4U}) {
+    const auto tree = FolderFileSystem(machine, threads).read_tree("C:\\x\\f1", "*.*");
+    ASSERT_NE(tree, nullptr);
+    EXPECT_TRUE(tree->left_out_links());
+    EXPECT_FALSE(tree->left_out_loops());
+    EXPECT_FALSE(tree->ended_early());
+    const Names found = files_of(tree);
+    // At most 20,000 entries are read again, a file and two links in each folder.
+    EXPECT_LT(found.size(), 10'000U);
+    for (int i = 1; i <= 18; ++i) {
+      const std::string name = std::to_string(i) + ".tmp";
+      EXPECT_TRUE(std::any_of(found.begin(), found.end(), [&](const std::string& path) {
+        return path == name || path.ends_with("\\" + name);
+      })) << name;
+    }
+  }
+}
+
+TEST_F(TreeRouteTest, WhatIsPassedOverDoesNotDependOnTheThreads) {
+  for (int i = 1; i <= 16; ++i) {
+    const std::string folder = "drive_c/x/f" + std::to_string(i);
+    host.write(folder + "/" + std::to_string(i) + ".tmp");
+    host.make_link(folder + "/a", "../f" + std::to_string(i + 1));
+    host.make_link(folder + "/b", "../f" + std::to_string(i + 1));
+  }
+  host.write("drive_c/x/f17/17.tmp");
+  const Names alone = files_of(FolderFileSystem(machine, 1).read_tree("C:\\x", "*.*"));
+  EXPECT_EQ(files_of(FolderFileSystem(machine, 4).read_tree("C:\\x", "*.*")), alone);
+}
+
+TEST_F(TreeRouteTest, ManyLinksToOneFolderAreAllEntered) {
+  for (int i = 0; i < 20; ++i) host.write("drive_c/store/" + std::to_string(i));
+  for (int i = 0; i < 200; ++i) host.make_link("drive_c/x/" + std::to_string(i), "../store");
+  const auto tree = files.read_tree("C:\\x", "*.*");
+  EXPECT_EQ(files_of(tree).size(), 4000U);
+  EXPECT_FALSE(tree->left_out_links());
 }
 
 }  // namespace quillvane

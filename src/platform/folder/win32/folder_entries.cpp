@@ -23,9 +23,11 @@ bool is_link(const HeldPlace& itself) {
 
 }  // namespace
 
-std::vector<HostFile> read_entries(const HostDrive& drive, const HeldPlace& folder) {
+std::vector<HostFile> read_entries(const HostDrive& drive, const HeldPlace& folder,
+                                   const ReadingState& state) {
   std::vector<HostFile> files;
   for (const std::wstring& name : names_in(folder)) {
+    if (state.ended()) break;
     if (name.find(L'\\') != std::wstring::npos) continue;
     const auto place = drive.follow(folder, name, Access::kTold);
     if (!place) continue;

@@ -10,6 +10,7 @@
 #include <optional>
 #include <string>
 
+#include "platform/link_budget.h"
 #include "platform/win32/system_handle.h"
 
 namespace quillvane {
@@ -25,6 +26,7 @@ struct HostIdentity {
   static HostIdentity of(const HostStatus& status) {
     return {status.dwVolumeSerialNumber, status.nFileIndexHigh, status.nFileIndexLow};
   }
+  [[nodiscard]] FolderIdentity key() const { return {volume, std::uint64_t{high} << 32U | low}; }
   friend bool operator==(const HostIdentity&, const HostIdentity&) = default;
 };
 

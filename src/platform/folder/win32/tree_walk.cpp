@@ -8,6 +8,7 @@
 
 #include "platform/folder/collected_names.h"
 #include "platform/unicode_case.h"
+#include "platform/win32/long_path.h"
 #include "platform/win32/wide_text.h"
 
 namespace quillvane {
@@ -65,42 +66,56 @@ void add_files(CollectedNames& names, const StatusByName& status, bool tells_mat
 void TreeWalk::read(const HeldPlace& start, std::size_t path_units) {
   ListedFolder* root = ListedFolder::make(arena_, {}, nullptr);
   tree_.set_root(root);
-  read_folder(*root, start, path_units);
+  read_folder(*root, {start, path_units});
 }
 
-void TreeWalk::read_folder(ListedFolder& folder, const HeldPlace& place, std::size_t path_units) {
-  const std::vector<HostFile> files = read_entries(drive_, place);
+void TreeWalk::read_folder(ListedFolder& folder, const Step& step) {
+  if (state_.ended()) return;
+  state_.enter(folder);
+  const std::vector<HostFile> files = read_entries(drive_, step.place, state_);
+  links_.note_read(step.is_read_again, files.size());
   CollectedNames names;
   StatusByName status;
   for (const HostFile& file : files) {
     names.add(file.name, is_folder(file.status) ? Kind::kFolder : Kind::kFile);
     status.emplace(file.name, &file.status);
   }
-  patterns_.filter.apply(names, patterns_.usable_patterns(path_units));
-  if (TreePatterns::can_list_subfolders(path_units)) add_subfolders(names, arena_, folder);
+  patterns_.filter.apply(names, patterns_.usable_patterns(step.path_units));
+  if (TreePatterns::can_list_subfolders(step.path_units)) add_subfolders(names, arena_, folder);
   add_files(names, status, patterns_.pattern_units.size() > 1, arena_, folder);
+  state_.add_files(folder.file_count());
 
-  way_.push_back(HostIdentity::of(place.status));
+  way_.push_back(HostIdentity::of(step.place.status));
   for (auto* sub = folder.first_subfolder(); sub != nullptr; sub = sub->next_sibling()) {
-    read_subfolder(*sub, place, path_units);
+    read_subfolder(*sub, step);
   }
   way_.pop_back();
 }
 
 // One that cannot be read stays in the tree, empty.
-void TreeWalk::read_subfolder(ListedFolder& folder, const HeldPlace& parent,
-                              std::size_t path_units) {
+void TreeWalk::read_subfolder(ListedFolder& folder, const Step& parent) {
+  if (state_.ended()) return;
   const std::string name(folder.name());
-  path_units += utf16_length(name) + 1;
+  const std::size_t path_units = parent.path_units + utf16_length(name) + 1;
   if (!patterns_.can_list(path_units)) return;
-  const auto place = drive_.follow(parent, widen(name), Access::kListed);
+  const auto place = drive_.follow(parent.place, widen(name), Access::kListed);
   if (!place || !place->is_folder()) return;
   const HostIdentity identity = HostIdentity::of(place->status);
-  if (contains(way_, identity)) {
-    tree_.set_left_out_loops();
-  } else if (!contains(denied_, identity)) {
-    read_folder(folder, *place, path_units);
+  if (!may_be_read(identity)) return;
+  const bool is_link = place->path != path_below(parent.place.path, widen(name));
+  Step step{*place, path_units, parent.is_behind_link || is_link};
+  if (step.is_behind_link) {
+    const LinkBudget::Entry entry = links_.enter(identity.key(), is_link);
+    if (entry == LinkBudget::Entry::kPassedOver) return tree_.set_left_out_links();
+    step.is_read_again = entry == LinkBudget::Entry::kAgain;
   }
+  read_folder(folder, step);
+}
+
+bool TreeWalk::may_be_read(const HostIdentity& folder) {
+  const bool is_loop = contains(way_, folder);
+  if (is_loop) tree_.set_left_out_loops();
+  return !is_loop && !contains(denied_, folder);
 }
 
 }  // namespace quillvane

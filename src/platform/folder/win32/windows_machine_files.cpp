@@ -10,6 +10,7 @@
 #include "platform/folder/win32/held_file.h"
 #include "platform/folder/win32/tree_walk.h"
 #include "platform/unicode_case.h"
+#include "platform/watched_reading.h"
 #include "platform/win32/disk_error.h"
 #include "platform/win32/file_content.h"
 #include "platform/win32/long_path.h"
@@ -89,13 +90,8 @@ std::vector<HostIdentity> WindowsMachineFiles::denied() const {
   return folders;
 }
 
-std::shared_ptr<const FolderTree> WindowsMachineFiles::read_tree(const std::string& folder,
-                                                                 const std::string& pattern) const {
-  return read_tree_for(folder, {pattern});
-}
-
-std::shared_ptr<const FolderTree> WindowsMachineFiles::read_tree_for(
-    const std::string& folder, const std::vector<std::string>& patterns) const {
+std::shared_ptr<const FolderTree> WindowsMachineFiles::read_tree_watched(
+    const std::string& folder, const std::vector<std::string>& patterns, TreeReading* watch) const {
   const auto path = parse_machine_path(machine_, folder);
   if (!path || patterns.size() > FolderTree::kMostPatterns) return nullptr;
   const HostDrive on = drive(*path);
@@ -107,7 +103,11 @@ std::shared_ptr<const FolderTree> WindowsMachineFiles::read_tree_for(
   const std::size_t path_units = utf16_length(with_backslash(folder));
   if (!looked_for.can_list(path_units)) return nullptr;
   auto tree = std::make_shared<FolderTree>();
-  TreeWalk(on, looked_for, denied_folders, *tree).read(*place, path_units);
+  ReadingState state;
+  read_watched(watch, folder, state, [&] {
+    TreeWalk(on, looked_for, denied_folders, *tree, state).read(*place, path_units);
+  });
+  if (state.ended()) tree->set_ended_early();
   return tree;
 }
 
@@ -119,7 +119,8 @@ std::vector<FolderEntry> WindowsMachineFiles::list_folder(const std::string& fol
   const auto place = on.find(path->names, Access::kListed);
   if (!place || !place->is_folder() || contains(denied(), *place)) return {};
 
-  std::vector<HostFile> files = read_entries(on, *place);
+  ReadingState whole;
+  std::vector<HostFile> files = read_entries(on, *place, whole);
   CollectedNames names;
   for (const HostFile& file : files) {
     names.add(file.name,

@@ -77,6 +77,7 @@ const char* CleaningWatch::reason(const std::string& path, RemoveResult result) 
   if (result == RemoveResult::kInUse) return "another program has it open";
   if (result == RemoveResult::kTooLong) return "its path is too long";
   if (result == RemoveResult::kUnreadable) return "it cannot be looked at";
+  if (result == RemoveResult::kWriteProtected) return "its disk is for reading alone";
   const auto attributes = machine_.files.attributes(path);
   if (attributes && (*attributes & kAttributeReadOnly) != 0) return "it is read-only";
   return "the right to remove it is missing";

@@ -36,6 +36,7 @@ int clean(const ConsoleSession& session, const CleanOptions& options) {
   AttendedCleaning cleaning(io, *machine);
   options.browsers.apply_to(cleaning.dialogs);
   if (options.yes) cleaning.dialogs.answer_in_advance(kRemoveFilesTitle, Answer::kYes);
+  cleaning.program.on_problem = session.problem_teller();
   cleaning.program.start("");
   Form7& form = cleaning.program.main_window();
   if (!form.may_remove()) return kNotDone;  // the box of the start has said why

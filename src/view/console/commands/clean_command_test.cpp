@@ -83,7 +83,7 @@ struct Stage {
     const std::size_t end = text.rfind('\n', text.size() - 2);
     return text.substr(end == std::string::npos ? 0 : end + 1);
   }
-  std::optional<RegistryValue> policy() {
+  RegistryRead<RegistryValue> policy() {
     return machine().platform().registry.value(
         Hive::kLocalMachine, "Software\\Microsoft\\Windows\\CurrentVersion\\Policies\\Explorer",
         "NoThumbnailCache");
@@ -164,6 +164,8 @@ TEST(CleanCommand, APromiseThatCouldNotBeWrittenIsAFailure) {
   EXPECT_EQ(stage.err.str(),
             "quillvane: Some files cannot be deleted now, They will be deleted next time when you "
             "restart your PC.\n"
+            "quillvane: queue of the next restart: not written: it is read-only\n"
+            "quillvane: statistics: not counted: it is read-only\n"
             "quillvane: clean: 1 file could not be removed\n");
 }
 
@@ -182,6 +184,19 @@ TEST(CleanCommand, AFileThatCannotBeLookedAtIsNeverCountedAsGone) {
                                    c.why +
                                    "\nRemoved: 0, queued for the next restart: 0, failed: 3\n");
   }
+}
+
+// The restart could not remove it either.
+TEST(CleanCommand, AFileOnADiskForReadingAloneIsNotQueued) {
+  Stage stage;
+  stage.answer_removals(RemoveResult::kWriteProtected);
+
+  EXPECT_EQ(stage.run({"clean", "--yes"}), 1);
+
+  EXPECT_NE(stage.out.str().find("failed: C:\\Windows\\Temp\\c.tmp: its disk is for reading alone\n"
+                                 "Removed: 0, queued for the next restart: 0, failed: 3\n"),
+            std::string::npos)
+      << stage.out.str();
 }
 
 TEST(CleanCommand, CtrlCInTheScanRemovesNothing) {

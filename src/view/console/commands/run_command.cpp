@@ -83,6 +83,7 @@ int run(const ConsoleSession& session, const std::string& words) {
   if (machine == nullptr) return kNotDone;
   AttendedCleaning cleaning(session.io, *machine);
   Program& program = cleaning.program;
+  program.on_problem = session.problem_teller();
   cleaning.attendance.run([&] { program.start(words); });
   if (kind == SwitchKind::kWindow) return kDone;
 

@@ -20,6 +20,7 @@ int scan(const ConsoleSession& session, const BrowserAnswer& browsers) {
   ConsoleDialogs dialogs(session.io);
   browsers.apply_to(dialogs);
   Program program(machine->platform().with({.dialogs = &dialogs}));
+  program.on_problem = session.problem_teller();
   program.start("");
   Form7& form = program.main_window();
   Attendance attendance(session.io, machine->loop(), program);

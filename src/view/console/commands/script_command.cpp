@@ -18,6 +18,7 @@ int run_script(const ConsoleSession& session, const std::string& file) {
   if (machine == nullptr) return kNotDone;
 
   ProgramDriver program(machine->platform());
+  program.set_problem_teller(session.problem_teller());
   ScriptRunner runner(script.stream(), session.io.out, *machine, program);
   const auto problem = runner.run();
   return problem ? session.problem(*problem) : kDone;

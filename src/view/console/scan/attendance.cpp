@@ -1,10 +1,13 @@
 #include "view/console/scan/attendance.h"
 
 #include <optional>
+#include <string>
 #include <utility>
 
 #include "core/form7.h"
+#include "view/console/readable.h"
 #include "view/console/scan/progress_line.h"
+#include "view/console/scan/scan_progress.h"
 
 namespace quillvane {
 
@@ -24,9 +27,23 @@ void Attendance::run(const std::function<void()>& act) {
   loop_.set_served_hook([&] {
     if (!program_.started()) return;
     serve();
-    if (progress) progress->show(program_.main_window().Text13.text());
+    const Form7& form = program_.main_window();
+    if (progress) progress->show(scan_progress(form, form.Text13.text()));
   });
+  loop_.set_reading_hook([&](const TreeProgress& reading) {
+    if (!program_.started()) return true;
+    const Form7& form = program_.main_window();
+    if (progress) progress->show(scan_progress(form, reading.folder));
+    // Nobody waits for the rest of a tree whose scan was cancelled.
+    return !cancelled() && form.cancelflag != 1;
+  });
+  program_.on_warning = [this](const std::string& warning) {
+    if (io_.clear_line) io_.clear_line();
+    io_.err << "quillvane: " << printable(warning) << '\n';
+  };
   act();
+  program_.on_warning = nullptr;
+  loop_.set_reading_hook(nullptr);
   loop_.set_served_hook(nullptr);
   io_.clear_line = nullptr;
 }

@@ -43,9 +43,10 @@ Json row_json(const ListBox& list, int row) {
 }
 
 Json node_json(const TreeNode& node) {
-  return {{"index", node.index}, {"key", node.key},           {"parent", node.parent},
-          {"text", node.text},   {"image", node.image},       {"checked", node.checked},
-          {"bold", node.bold},   {"expanded", node.expanded}, {"color", node.fore_color}};
+  return {
+      {"index", node.index}, {"key", node.key},           {"parent", node.parent},
+      {"text", node.text},   {"image", node.image},       {"checked", node.checked},
+      {"bold", node.bold},   {"expanded", node.expanded}, {"color", color_number(node.fore_color)}};
 }
 
 Json box_json(const ShownBox& box) {

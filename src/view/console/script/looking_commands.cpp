@@ -22,7 +22,7 @@ Json window_value(const DrivenProgram& program, const std::string& window_name,
   if (const auto field = window.field(name)) return property_json(*field);
   if (same_name(name, "Visible")) return window.visible();
   if (same_name(name, "Caption")) return window.caption();
-  if (same_name(name, "BackColor")) return window.back_color();
+  if (same_name(name, "BackColor")) return color_number(window.back_color());
   throw ScriptError(window.name() + "." + name + ": there is no such field");
 }
 
@@ -112,6 +112,7 @@ void events(ScriptContext& context, ScriptArguments /*arguments*/) {
 void reg(ScriptContext& context, ScriptArguments arguments) {
   const Registry& registry = context.machine.platform().registry;
   const auto value = registry.value(hive_named(arguments[0]), arguments[1], arguments[2]);
+  if (value.failed()) throw ScriptError(value.problem());
   context.output.print(value ? registry_json(*value) : Json(nullptr));
 }
 

@@ -96,13 +96,13 @@ void set_registry(ScriptContext& context, ScriptArguments arguments) {
   if (arguments.size() == 3) throw ScriptError("setreg: a type is missing behind the name");
   const KeptEffects kept(context.machine.effects());
   Registry& registry = context.machine.platform().registry;
-  if (!registry.create_key(hive, key)) throw ScriptError(key + ": the key cannot be made");
+  const RegistryWrite made = registry.create_key(hive, key);
+  if (!made) throw ScriptError(key + ": the key cannot be made: " + made.problem());
   if (arguments.size() == 2) return;
 
   const RegistryValue value = registry_value_of(arguments[3], arguments.subspan(4));
-  if (!registry.set_value(hive, key, arguments[2], value)) {
-    throw ScriptError(key + ": the value cannot be written");
-  }
+  const RegistryWrite written = registry.set_value(hive, key, arguments[2], value);
+  if (!written) throw ScriptError(key + ": the value cannot be written: " + written.problem());
 }
 
 std::uint32_t attribute_bit(char letter) {

@@ -34,6 +34,7 @@ constexpr WindowLayout dialog_layout(int width, int height) {
           .controls = {},
           .hints = {},
           .keys = kDialogKeys,
+          .reading_clicks = {},
           .undrawn = {},
           .margin = kDialogMargin,
           .gap = kDialogGap,

@@ -155,6 +155,13 @@ constexpr KeyClick kKeys[] = {
     {0x1B, "cmd_cancel"},  // Escape
 };
 
+constexpr ReadingClick kReadingClicks[] = {
+    {"cmd_cancel", 0, WhileReading::kEndsIt},
+    {"Toolbar1", 7, WhileReading::kEndsIt},  // Cancel the scan
+    {"chameleonButton9", 0, WhileReading::kEndsIt},
+    {"chameleonButton12", 0, WhileReading::kActsNow},
+};
+
 constexpr std::string_view kUndrawn[] = {
     // Variables and mail boxes; Text3 has no text of its own.
     "Text1",
@@ -233,6 +240,7 @@ constexpr WindowLayout kLayout = {
     .controls = kControls,
     .hints = kHints,
     .keys = kKeys,
+    .reading_clicks = kReadingClicks,
     .undrawn = kUndrawn,
     .margin = 12,
     .gap = 8,

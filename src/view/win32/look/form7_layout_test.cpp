@@ -23,6 +23,20 @@ TEST(Form7Layout, EachButtonOfTheToolBarHasAHintAndNoSeparatorHasOne) {
   }
 }
 
+TEST(Form7Layout, OnlyCancelAndCloseEndTheReadingOfATree) {
+  const WindowLayout& layout = form7_layout();
+  EXPECT_EQ(layout.while_reading("cmd_cancel"), WhileReading::kEndsIt);
+  EXPECT_EQ(layout.while_reading("Toolbar1", 7), WhileReading::kEndsIt);
+  EXPECT_EQ(layout.while_reading("chameleonButton9"), WhileReading::kEndsIt);
+  EXPECT_EQ(layout.while_reading("chameleonButton12"), WhileReading::kActsNow);
+  for (const ControlPlace& place : layout.controls) {
+    if (place.name.starts_with("cmd_") && place.name != "cmd_cancel") {
+      EXPECT_EQ(layout.while_reading(place.name), WhileReading::kWaits) << place.name;
+    }
+  }
+  EXPECT_EQ(layout.while_reading("Toolbar1", 6), WhileReading::kWaits);
+}
+
 TEST(Form7Layout, TheTreeIsOnTheLeftTheListsOnTheRightTheSummaryBelow) {
   const auto controls = form7_layout().controls;
   const auto box_of = [&](const Arrangement& places, std::string_view name) {

@@ -73,6 +73,20 @@ struct KeyClick {
   std::string_view control;
 };
 
+// What an act of the user does while a tree is read, when no handler of the program runs.
+enum class WhileReading {
+  kWaits,    // until the reading is over
+  kEndsIt,   // and then waits likewise; it is done before anything else
+  kActsNow,  // it touches nothing but the window's place on the screen
+};
+
+// A click that does not just wait. `button` is a tool bar's; 0: the control is no tool bar.
+struct ReadingClick {
+  std::string_view control;
+  int button;
+  WhileReading what;
+};
+
 struct WindowLayout {
   std::string_view window;
   // The label whose caption the title bar shows; empty: it shows the window's own.
@@ -84,6 +98,7 @@ struct WindowLayout {
   std::span<const ControlPlace> controls;
   std::span<const ToolbarHint> hints;
   std::span<const KeyClick> keys;
+  std::span<const ReadingClick> reading_clicks;
   // Controls of the window that it does not draw: variables, pages to come, and what stands for
   // itself (timers, menus, the tray icon).
   std::span<const std::string_view> undrawn;
@@ -95,6 +110,13 @@ struct WindowLayout {
   int least_width;  // to which it can be made smaller; with both as at the start, it keeps its size
   int least_height;
 
+  [[nodiscard]] constexpr WhileReading while_reading(std::string_view control,
+                                                     int button = 0) const {
+    for (const ReadingClick& click : reading_clicks) {
+      if (click.control == control && click.button == button) return click.what;
+    }
+    return WhileReading::kWaits;
+  }
   [[nodiscard]] constexpr bool can_be_sized() const {
     return least_width != width || least_height != height;
   }

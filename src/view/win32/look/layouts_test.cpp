@@ -91,6 +91,11 @@ TEST_P(Layouts, WhatItNamesElseIsThereToo) {
   for (const KeyClick& key : layout().keys) {
     EXPECT_NE(dynamic_cast<Clickable*>(window().find(key.control)), nullptr) << key.control;
   }
+  for (const ReadingClick& click : layout().reading_clicks) {
+    Control* control = window().find(click.control);
+    EXPECT_NE(control, nullptr) << click.control;
+    EXPECT_EQ(dynamic_cast<Toolbar*>(control) != nullptr, click.button != 0) << click.control;
+  }
   if (!layout().title.empty()) {
     EXPECT_NE(dynamic_cast<Label*>(window().find(layout().title)), nullptr);
   }

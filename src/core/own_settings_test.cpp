@@ -48,7 +48,7 @@ TEST(OwnSettings, StatisticsAddUpInOneHalf) {
   machine.put(key, "count", "5", "700");
   machine.put(key, "size", "10", "900");
 
-  add_to_statistics(machine.registry, "3", "20");
+  EXPECT_TRUE(add_to_statistics(machine.registry, "3", "20"));
 
   EXPECT_EQ(machine.narrow(key, "count"), "8");
   EXPECT_EQ(machine.narrow(key, "size"), "30");

@@ -39,6 +39,20 @@ TEST_F(ConsoleProcess, ScansAMachineFolder) {
       std::string::npos);
 }
 
+TEST_F(ConsoleProcess, AScanMakesTheTypeTableAndNothingElse) {
+  const std::string data = "machine/drive_c/Program Files/Tidewrack/";
+  folder_.write(data + "tmptype.orv", std::string(101, ' '));
+  const std::string list =
+      "find machine -type f | sort | while read -r file; do cat \"$file\"; echo \"$file\"; done >";
+  ASSERT_EQ(run_shell(list + "before"), 0);
+
+  EXPECT_EQ(run("scan --machine machine >out"), 0);
+
+  ASSERT_EQ(run_shell("mv '" + data + "tmptype.txt' '" + data + "tmptype.orv'"), 0) << err();
+  ASSERT_EQ(run_shell(list + "after"), 0);
+  EXPECT_EQ(folder_.read("after"), folder_.read("before"));
+}
+
 TEST_F(ConsoleProcess, AFullDiskIsAProblem) {
   for (const char* words : {"scan --machine machine", "scan --machine machine --json --list",
                             "machine show machine", "--help"}) {

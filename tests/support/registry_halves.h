@@ -9,25 +9,28 @@ namespace quillvane {
 
 class RegistryHalves final : public Registry {
  public:
-  [[nodiscard]] std::optional<std::vector<std::string>> sub_keys(
+  [[nodiscard]] RegistryRead<std::vector<std::string>> sub_keys(
       Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const override {
     return half(access).sub_keys(hive, key, access);
   }
-  [[nodiscard]] std::optional<std::vector<NamedRegistryValue>> values(
+  [[nodiscard]] RegistryRead<std::vector<NamedRegistryValue>> values(
       Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const override {
     return half(access).values(hive, key, access);
   }
-  [[nodiscard]] std::optional<RegistryValue> value(
+  [[nodiscard]] RegistryRead<RegistryValue> value(
       Hive hive, const std::string& key, const std::string& name,
       KeyAccess access = KeyAccess::kRead) const override {
     return half(access).value(hive, key, name, access);
   }
-  [[nodiscard]] bool create_key(Hive hive, const std::string& key) override {
+  RegistryWrite create_key(Hive hive, const std::string& key) override {
     return narrow.create_key(hive, key);
   }
-  [[nodiscard]] bool set_value(Hive hive, const std::string& key, const std::string& name,
-                               const RegistryValue& value) override {
+  RegistryWrite set_value(Hive hive, const std::string& key, const std::string& name,
+                          const RegistryValue& value) override {
     return narrow.set_value(hive, key, name, value);
+  }
+  RegistryWrite remove_value(Hive hive, const std::string& key, const std::string& name) override {
+    return narrow.remove_value(hive, key, name);
   }
 
   MemoryRegistry narrow;  // the 32-bit half

@@ -48,6 +48,22 @@ if [ "$found" != "$expected" ]; then
   diff <(echo "$expected") <(echo "$found") || fail "the scan lists other files"
 fi
 
+# A script's empty variable never means the real PC.
+refusal() {
+  { quillvane "$@" 2>&1 >/dev/null || echo "status $?"; } | tr -d '\r' | tr '\n' ' '
+}
+said=$(refusal clean --yes --machine "")
+[ "$said" = "quillvane: --machine: is given empty status 2 " ] || fail "an empty --machine: $said"
+said=$(QUILLVANE_MACHINE='' refusal scan)
+[ "$said" = "quillvane: QUILLVANE_MACHINE: is set and empty status 1 " ] ||
+  fail "an empty variable: $said"
+
+# A reader that has seen enough is no problem: more is written than a pipe holds.
+for number in {1..2000}; do : >"$drive/Windows/Temp/Sub/a-name-of-some-length-$number.tmp"; done
+quillvane scan --json --list --machine "$windows_folder\\m" 2>"$folder/err" | head -n 1 >/dev/null
+[ ! -s "$folder/err" ] || fail "a reader that is gone: $(cat "$folder/err")"
+rm -f "$drive"/Windows/Temp/Sub/a-name-*
+
 quillvane clean --yes --machine "$windows_folder\\m" | grep "^Removed: 4," ||
   fail "the cleaning did not remove four files"
 left=$(find "$drive" -type f -printf '%f\n' | sort | tr '\n' ' ')

@@ -29,6 +29,15 @@ CLI::App& group_of(CLI::App& app, const ConsoleCommand& command) {
   return *group;
 }
 
+// What the library calls things in a help.
+void use_own_labels(CLI::App& app) {
+  constexpr std::pair<const char*, const char*> kLabels[] = {{"Positionals", "Words"},
+                                                             {"SUBCOMMAND", "COMMAND"},
+                                                             {"Subcommands", "Commands"},
+                                                             {"REQUIRED", "(needed)"}};
+  for (const auto& [theirs, ours] : kLabels) app.get_formatter()->label(theirs, ours);
+}
+
 void add_common_options(CLI::App& app, ConsoleSession& session) {
   app.add_option(
          "--machine", session.machine_folder,
@@ -63,6 +72,7 @@ int run_words(const std::vector<std::string>& words, ConsoleIo& io, ConsoleSessi
   app.allow_windows_style_options(false);  // the same words mean the same on either system
   app.fallthrough();                       // common options may stand behind the command too
   app.require_subcommand(1);
+  use_own_labels(app);
   add_common_options(app, session);
   const std::vector<PreparedCommand> commands = add_commands(app, session);
   if (const auto wrong = wrong_words(app, words)) {

@@ -6,6 +6,7 @@
 #include "support/file_date.h"
 #include "support/registry_text.h"
 #include "support/text.h"
+#include "support/text_file.h"
 #include "support/val.h"
 
 namespace quillvane {
@@ -74,7 +75,7 @@ void Form7::back_up() {
     files += 1;
     bytes += static_cast<double>(file_system.file_size(path).value_or(0));
   }
-  static_cast<void>(file_system.write_file(folder + ".txt", index));
+  static_cast<void>(write_text_file(platform(), folder + ".txt", index));
   txtfilecont.set_text(number_text(files));
   txtfilesize.set_text(number_text(bytes));
   Bar2.hide();

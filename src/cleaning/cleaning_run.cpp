@@ -26,7 +26,7 @@ bool lies_in_recycle_bin(std::string_view path) {
 }  // namespace
 
 bool Form7::confirm_cleaning() {
-  if (program.cleaning_ended()) return false;
+  if (program.cleaning_ended() || !may_remove()) return false;
   if (cleanmode == 1) return true;
   return platform().dialogs.message_box(kQuestion, kRemoveFilesTitle,
                                         kBoxYesNo | kBoxIconInformation) == Answer::kYes;
@@ -95,7 +95,7 @@ void Form7::promise_restart() {
 
 void Form7::run_cleaning() {
   last_cleaning = {};
-  if (view1.count() < 1 || program.cleaning_ended()) return;
+  if (view1.count() < 1 || program.cleaning_ended() || !may_remove()) return;
   Gif89a2.show();
   pending.loadpending();
   Label11.set_caption("Removing selected files please wait..");

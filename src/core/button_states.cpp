@@ -72,7 +72,9 @@ void Form7::cancel_button() {
 }
 
 void Form7::enable_toolbar(std::initializer_list<int> numbers, bool enabled) {
-  for (const int number : numbers) Toolbar1.set_button_enabled(number, enabled);
+  for (const int number : numbers) {
+    Toolbar1.set_button_enabled(number, enabled && (number != kToolbarClean || may_remove()));
+  }
 }
 
 void Form7::toolbar_start() {
@@ -116,7 +118,7 @@ void Form7::toolbar_button(int number) {
     case 5:
       toolbar_start();
       break;
-    case 6:
+    case kToolbarClean:
       toolbar_clean();
       break;
     case 7:

@@ -35,6 +35,8 @@ inline constexpr Color kGreen = 32768;    // a category that is being scanned
 inline constexpr Color kDarkRed = 192;    // a category in which something was found
 inline constexpr Color kFoundMark = 128;  // Shape1 when the scan found something
 
+inline constexpr int kToolbarClean = 6;  // the button of Toolbar1 that does what cmd_clean does
+
 // The window's shadow; a depth of 0 is none.
 struct Shadow {
   Color color = 0;
@@ -61,6 +63,11 @@ class Form7 final : public Window {
   void pndtxt();              // reads the files queued for the restart into Text15
 
   // --- Cleaning (cleaning/cleaning_run.cpp, cleaning/backup.cpp).
+  // Nothing is removed while the ignore list is there and cannot be read: no file is known to be
+  // junk then. The controls that remove are locked, and the runs behind them do nothing.
+  [[nodiscard]] bool may_remove() const { return ignore_problem.empty(); }
+  // The list's file, why it was not read, and what follows. Requires: !may_remove().
+  [[nodiscard]] std::string ignore_list_message() const;
   // Removes every row of view1, whatever its tick: the run behind orvbutton2.
   void run_cleaning();
   // Copies the ticked rows of view1 aside: the run behind Command14.
@@ -102,6 +109,7 @@ class Form7 final : public Window {
   bool known_second_half = true;     // false after a second half that is none: it never cleans
   int cancelflag = 0;                // 1: the running scan shall stop
   SearchableText ignorelist;         // lower-case ignore entries, each followed by "|"
+  std::string ignore_problem;        // why the ignore list was not read; empty when it was
   SearchableText pending_filter;     // PendingFilter: the text of Text15, with an index
   PendingQueue pending;              // mirror of the queue of the next restart
   ThumbnailPolicy thumbnails;        // off while files are removed
@@ -241,6 +249,7 @@ class Form7 final : public Window {
   void show_year();
   void read_system_temp_option();
   void read_ignore_list();
+  void tell_ignore_list_problem() const;
 
   // suite_command.cpp
   void run_suite_command();

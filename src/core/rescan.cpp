@@ -171,7 +171,7 @@ void Form7::delete_rows(int node) {
 }
 
 void Form7::clean_node() {
-  if (program.cleaning_ended()) return;
+  if (program.cleaning_ended() || !may_remove()) return;
   delete_rows(selnode);
   count_in_statistics();
   txtfilecont.set_text("0");

@@ -1,6 +1,7 @@
 // Load and close of the main window.
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 
 #include "core/form7.h"
@@ -65,6 +66,7 @@ void Form7::load() {
 
 void Form7::activate() {
   if (!program.CommandLineGiven) shadow = {kShadowColor, kShadowDepth};
+  if (!may_remove()) tell_ignore_list_problem();
 }
 
 void Form7::close() {
@@ -111,12 +113,30 @@ void Form7::read_system_temp_option() {
 }
 
 void Form7::read_ignore_list() {
-  std::string list;
-  for (const std::string& line :
-       read_list_lines(platform().files, program.data_file(kIgnoreFile))) {
-    list.append(Trim(line)).push_back('|');
+  const ListLines list = read_list_file(platform(), program.data_file(kIgnoreFile));
+  std::string text;
+  for (const std::string& line : list.lines) text.append(Trim(line)).push_back('|');
+  ignorelist.set_text(lower_case(text));
+  if (!may_remove() && list.problem.empty()) {
+    // What was listed without the list may stand in it.
+    view1.clear();
+    view5.clear();
   }
-  ignorelist.set_text(lower_case(list));
+  ignore_problem = list.problem;
+  for (Control* remover :
+       std::initializer_list<Control*>{&cmd_clean, &orvbutton2, &stc, &b1, &b2}) {
+    remover->set_locked(!may_remove());
+  }
+  if (!may_remove()) enable_toolbar({kToolbarClean}, false);
+}
+
+std::string Form7::ignore_list_message() const {
+  return list_problem_message(program.data_file(kIgnoreFile), ignore_problem,
+                              "Nothing is removed while the ignore list cannot be read.");
+}
+
+void Form7::tell_ignore_list_problem() const {
+  platform().dialogs.message_box(ignore_list_message(), std::string(kProgramName), kBoxIconWarning);
 }
 
 }  // namespace quillvane

@@ -50,6 +50,7 @@ void Form7::open_ignore_list() {
   Form1 dialog(program);
   dialog.load();
   program.show_modal(dialog);
+  if (!may_remove()) read_ignore_list();  // the user may have mended what was in the way
 }
 
 void Form7::open_custom_list() {

@@ -37,7 +37,11 @@ class Form2 final : public ModalWindow {
   [[nodiscard]] bool has_row() const { return row_ >= 1 && row_ <= view1.count(); }
 
   Program& program_;
-  int row_ = 0;  // clicked last; 0: none
+  int row_ = 0;           // clicked last; 0: none
+  bool was_read_ = true;  // at the last reading; a missing list counts as read
 };
+
+// Tells the user that the list of custom folders was not read and is not changed.
+void tell_custom_list_problem(const Program& program, const std::string& problem);
 
 }  // namespace quillvane

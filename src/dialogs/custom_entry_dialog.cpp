@@ -122,7 +122,12 @@ bool Form5::add_row() {
       program_.platform.dialogs.message_box("Are you sure you want to empty this folder ?",
                                             "Custom folder search", kBoxYesNo | kBoxIconQuestion);
   if (sure == Answer::kNo) return false;
-  append_list_line(program_.platform.files, program_.data_file(kCustomFile), line_of(entry()));
+  const std::string problem =
+      append_to_list_file(program_.platform, program_.data_file(kCustomFile), line_of(entry()));
+  if (!problem.empty()) {
+    tell_custom_list_problem(program_, problem);
+    return false;
+  }
   list_.Text1.set_text("1");
   program_.main_window().Text14.set_text("c");
   return true;

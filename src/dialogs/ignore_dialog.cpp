@@ -1,6 +1,7 @@
 #include "dialogs/ignore_dialog.h"
 
 #include <string>
+#include <vector>
 
 #include "core/form7.h"
 #include "dialogs/select_folder.h"
@@ -42,10 +43,14 @@ Form1::Form1(Program& program)
 
 void Form1::load() {
   set_back_color(suite_color(program_.platform));
-  for (const std::string& line :
-       read_list_lines(program_.platform.files, program_.data_file(kIgnoreFile))) {
-    view1.add(line);
-  }
+  const std::string path = program_.data_file(kIgnoreFile);
+  const ListLines list = read_list_file(program_.platform, path);
+  for (const std::string& line : list.lines) view1.add(line);
+  if (list.problem.empty()) return;
+  Command2.set_locked(true);  // what is not shown would be lost
+  program_.platform.dialogs.message_box(
+      list_problem_message(path, list.problem, "The list is not changed while it cannot be read."),
+      "Ignore list", kBoxIconWarning);
 }
 
 // A folder can be added any number of times.
@@ -60,10 +65,10 @@ void Form1::remove_row() {
 }
 
 void Form1::save() {
-  std::string lines;
-  for (int row = 1; row <= view1.count(); ++row) lines += view1.text(row) + "\r\n";
-  // Without a word when it cannot be written: the main window then reads the old list again.
-  static_cast<void>(program_.platform.files.write_file(program_.data_file(kIgnoreFile), lines));
+  std::vector<std::string> lines;
+  for (int row = 1; row <= view1.count(); ++row) lines.push_back(view1.text(row));
+  // When it cannot be written, the main window reads the old list again.
+  write_list_file(program_.platform, program_.data_file(kIgnoreFile), lines);
   program_.main_window().Text14.set_text("i");
   unload();
 }

@@ -35,7 +35,7 @@ class ForwardingFileSystem : public FileSystem {
   [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string& path) const override {
     return next_.file_size(path);
   }
-  [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override {
+  [[nodiscard]] FileContent read_file(const std::string& path) const override {
     return next_.read_file(path);
   }
   [[nodiscard]] bool write_file(const std::string& path, std::string_view content) override {

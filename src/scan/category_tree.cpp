@@ -54,8 +54,7 @@ void Form7::build_tree() {
 
 void Form7::add_custom_nodes() {
   int key_number = kFirstCustomKey;
-  for (const std::string& line :
-       read_list_lines(platform().files, program.data_file(kCustomFile))) {
+  for (const std::string& line : read_list_file(platform(), program.data_file(kCustomFile)).lines) {
     Tv1.add("f", "f-" + std::to_string(key_number), custom_entry_of(line).name, kCustomImage);
     ++key_number;
   }

@@ -63,7 +63,9 @@ void Form7::sort_hits(int column) {
 
 void Form7::read_mail() {
   if (Text14.text() == "i") {
+    const bool could_be_read = may_remove();
     read_ignore_list();
+    if (could_be_read && !may_remove()) tell_ignore_list_problem();
     Text14.set_text("");
   } else if (Text14.text() == "c") {
     build_tree();

@@ -166,9 +166,16 @@ std::optional<std::uint64_t> FolderFileSystem::file_size(const std::string& path
   return place->status.stx_size;
 }
 
-std::optional<std::string> FolderFileSystem::read_file(const std::string& path) const {
-  const auto place = paths_.find(path);
-  return place ? read_drive_file(*place) : std::nullopt;
+FileContent FolderFileSystem::read_file(const std::string& path) const {
+  if (!fits_path_limit(path)) return ReadFailure::kTooLong;
+  const auto parsed = paths_.parse(path);
+  if (!parsed) return ReadFailure::kMissing;
+  const DriveFolder drive = paths_.drive(parsed->drive);
+  if (const auto place = drive.find(parsed->names)) return read_drive_file(*place);
+  const int error = errno;
+  if (!means_missing(error)) return read_failure(error);
+  // A link that leads nowhere bears the name all the same.
+  return drive.find_entry(parsed->names) ? ReadFailure::kUnreadable : ReadFailure::kMissing;
 }
 
 bool FolderFileSystem::write_file(const std::string& path, std::string_view content) {

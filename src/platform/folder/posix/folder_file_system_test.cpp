@@ -134,6 +134,37 @@ TEST_F(FolderFileSystemTest, AFolderThatMayNotBeEnteredHidesWhetherAFileIsThere)
   ASSERT_EQ(chmod(own.path_of("sub").c_str(), 0755), 0);
 }
 
+TEST_F(FolderFileSystemTest, TellsWhyAFileCannotBeRead) {
+  host.make_link("drive_c/Temp/broken.tmp", "missing.tmp");
+  EXPECT_EQ(files.read_file("C:\\Temp\\broken.tmp"), ReadFailure::kUnreadable);
+  EXPECT_EQ(files.read_file("C:\\Temp\\missing.tmp"), ReadFailure::kMissing);
+  const struct {
+    int error;
+    ReadFailure why;
+  } cases[] = {{EIO, ReadFailure::kUnreadable}, {EACCES, ReadFailure::kDenied}};
+  for (const auto& c : cases) {
+    with_failing_calls({SYS_openat2, SYS_openat, SYS_statx}, c.error, [&] {
+      EXPECT_EQ(files.read_file("C:\\Temp\\a.tmp"), c.why);
+      EXPECT_EQ(files.read_file("C:\\Temp\\missing.tmp"), c.why);
+    });
+    with_failing_calls({SYS_read}, c.error,
+                       [&] { EXPECT_EQ(files.read_file("C:\\Temp\\a.tmp"), c.why); });
+  }
+}
+
+TEST_F(FolderFileSystemTest, AFileThatMayNotBeReadIsDeniedAndNotMissing) {
+  const AsOrdinaryUser user;
+  const TempFolder own;
+  own.write("sub/a.tmp");
+  machine.drives[0].folder = own.path();
+  ASSERT_EQ(chmod(own.path_of("sub/a.tmp").c_str(), 0), 0);
+  EXPECT_EQ(files.read_file("C:\\sub\\A.tmp"), ReadFailure::kDenied);
+  ASSERT_EQ(chmod(own.path_of("sub").c_str(), 0), 0);
+  EXPECT_EQ(files.read_file("C:\\sub\\a.tmp"), ReadFailure::kDenied);
+  EXPECT_EQ(files.read_file("C:\\sub\\b.tmp"), ReadFailure::kDenied);
+  ASSERT_EQ(chmod(own.path_of("sub").c_str(), 0755), 0);
+}
+
 TEST_F(FolderFileSystemTest, ReadsAFileInUseAndChangesNothingOfIt) {
   machine.in_use = {"c:\\TEMP\\a.tmp"};
   EXPECT_EQ(files.read_file("C:\\Temp\\a.tmp"), "12345");
@@ -191,7 +222,7 @@ TEST_F(FolderFileSystemTest, TakesALinkOutOfTheDriveForMissing) {
   for (const char* path : {"C:\\folder", "C:\\file.tmp", "C:\\folder\\a.tmp", "C:\\other"}) {
     EXPECT_EQ(files.attributes(path), std::nullopt) << path;
     EXPECT_EQ(files.file_size(path), std::nullopt) << path;
-    EXPECT_EQ(files.read_file(path), std::nullopt) << path;
+    EXPECT_FALSE(files.read_file(path)) << path;
     EXPECT_FALSE(files.set_attributes(path, 0x80)) << path;
     EXPECT_FALSE(files.write_file(path, "x")) << path;
     EXPECT_EQ(files.remove_file(path), RemoveResult::kMissing) << path;
@@ -210,7 +241,7 @@ TEST_F(FolderFileSystemTest, TakesWhatIsNeitherFileNorFolderForMissing) {
   EXPECT_EQ(walk("C:\\Temp"), Names{"a.tmp"});
   EXPECT_EQ(files.attributes("C:\\Temp\\pipe"), std::nullopt);
   EXPECT_EQ(files.file_size("C:\\Temp\\pipe"), std::nullopt);
-  EXPECT_EQ(files.read_file("C:\\Temp\\pipe"), std::nullopt);
+  EXPECT_EQ(files.read_file("C:\\Temp\\pipe"), ReadFailure::kUnreadable);
   EXPECT_FALSE(files.write_file("C:\\Temp\\pipe", "x"));
   EXPECT_EQ(files.remove_file("C:\\Temp\\pipe"), RemoveResult::kMissing);
   EXPECT_TRUE(host.has("drive_c/Temp/pipe"));
@@ -230,7 +261,7 @@ TEST_F(FolderFileSystemTest, CannotOpenWhatIsListedBeyondThePathLimit) {
   host.write("drive_c/" + name + "/" + name + "/" + long_name, "x");
   EXPECT_EQ(list(folder), Names{long_name});
   EXPECT_EQ(files.file_size(folder + "\\" + long_name), std::nullopt);
-  EXPECT_EQ(files.read_file(folder + "\\" + long_name), std::nullopt);
+  EXPECT_EQ(files.read_file(folder + "\\" + long_name), ReadFailure::kTooLong);
   EXPECT_FALSE(files.write_file(folder + "\\" + long_name, "y"));
   EXPECT_EQ(files.remove_file(folder + "\\" + long_name), RemoveResult::kTooLong);
   EXPECT_TRUE(host.has("drive_c/" + name + "/" + name + "/" + long_name));

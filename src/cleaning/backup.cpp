@@ -7,6 +7,7 @@
 #include "support/file_date.h"
 #include "support/registry_text.h"
 #include "support/text.h"
+#include "support/text_file.h"
 #include "support/val.h"
 
 namespace quillvane {
@@ -75,7 +76,7 @@ void back_up(JunkPage& page) {
     files += 1;
     bytes += static_cast<double>(file_system.file_size(path).value_or(0));
   }
-  static_cast<void>(file_system.write_file(folder + ".txt", index));
+  static_cast<void>(write_text_file(page.platform(), folder + ".txt", index));
   page.txtfilecont.set_text(number_text(files));
   page.txtfilesize.set_text(number_text(bytes));
   page.Bar2.hide();

@@ -39,6 +39,19 @@ TEST(Backup, NotesFolderNameAndPathOfEachFileWithoutQuotes) {
   EXPECT_EQ(backup.machine.file_text(kBackup + "\\b,c.tmp"), "b");
 }
 
+TEST(Backup, TheIndexIsInTheSystemsCodePage) {
+  Backup backup;
+  backup.machine.add_text_file("C:\\Windows\\Temp\\Gr\u00F6\u00DFe.tmp", "a");
+  Form7& form = backup.scan();
+  Backup::tick_all(form);
+  form.Command14.click();
+  EXPECT_EQ(backup.machine.file_text(kBackup + ".txt"),
+            "C:\\Windows\\Temp\\,Gr\xF6\xDF"
+            "e.tmp,C:\\Windows\\Temp\\Gr\xF6\xDF"
+            "e.tmp\r\n");
+  EXPECT_EQ(backup.machine.file_text(kBackup + "\\Gr\u00F6\u00DFe.tmp"), "a");
+}
+
 TEST(Backup, TheLaterOfTwoFilesOfOneNameWins) {
   Backup backup;
   backup.machine.add_text_file("C:\\Windows\\Temp\\first\\a.tmp", "1st");

@@ -1,7 +1,6 @@
 #include "cleaning/cleaning_run.h"
 
 #include <string>
-#include <vector>
 
 #include "categories/url_cache_rows.h"
 #include "cleaning/deletion.h"
@@ -18,9 +17,6 @@ namespace {
 constexpr const char* kQuestion = "Are You sure you want to delete the selected file(s)";
 constexpr const char* kQueuedMessage =
     "Some files cannot be deleted now, They will be deleted next time when you restart your PC.";
-
-// Rows that are told ahead at a time. The files that follow are looked at while these go.
-constexpr int kRowsTold = 64;
 
 // The bin's name at the very beginning of a path does not count.
 bool lies_in_recycle_bin(std::string_view path) {
@@ -44,16 +40,6 @@ bool remove_row(JunkPage& page, PendingQueue& pending, const std::string& row_te
   return true;
 }
 
-// Tells the machine's files what is coming, one portion ahead of the rows in hand.
-void expect_removals(const JunkPage& page, int first_row) {
-  const int rows = first_row == 1 ? 2 * kRowsTold : kRowsTold;
-  std::vector<std::string> paths;
-  for (int row = first_row; row < first_row + rows && row <= page.view1.count(); ++row) {
-    paths.push_back(page.view1.text(row));
-  }
-  if (!paths.empty()) page.platform().files.expect_removals(paths);
-}
-
 // Each handled row leaves the list, whatever came of it. Answers how many were queued.
 int remove_all_rows(JunkPage& page, PendingQueue& pending) {
   int queued = 0;
@@ -61,7 +47,6 @@ int remove_all_rows(JunkPage& page, PendingQueue& pending) {
   page.bar3.set_range(0, total + 2);
   page.bar3.show();
   for (int progress = 0; progress < total && page.view1.count() > 0; ++progress) {
-    if (progress % kRowsTold == 0) expect_removals(page, progress == 0 ? 1 : 1 + kRowsTold);
     const std::string path = page.view1.text(1);
     if (remove_row(page, pending, path)) ++queued;
     page.Text13.set_text("Removing : " + path);
@@ -100,7 +85,7 @@ void finish_cleaning(JunkPage& page) {
 }  // namespace
 
 bool confirm_cleaning(const JunkPage& page) {
-  if (page.session.cleaning_ended()) return false;
+  if (page.session.cleaning_ended() || !page.may_remove()) return false;
   if (page.session.cleanmode == 1) return true;
   return page.platform().dialogs.message_box(kQuestion, kRemoveFilesTitle,
                                              kBoxYesNo | kBoxIconInformation) == Answer::kYes;
@@ -109,7 +94,7 @@ bool confirm_cleaning(const JunkPage& page) {
 void run_cleaning(JunkPage& page, CleaningState& state) {
   const Session& session = page.session;
   state.last_cleaning = {};
-  if (page.view1.count() < 1 || session.cleaning_ended()) return;
+  if (page.view1.count() < 1 || session.cleaning_ended() || !page.may_remove()) return;
   page.Gif89a2.show();
   state.pending.loadpending();
   page.Label11.set_caption("Removing selected files please wait..");

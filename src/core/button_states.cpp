@@ -90,8 +90,18 @@ void JunkCommands::enter_rescan(bool running) {
   }
 }
 
+void JunkCommands::lock_removers() {
+  for (Control* remover :
+       std::initializer_list<Control*>{&cmd_clean, &orvbutton2, &stc, &b1, &b2}) {
+    remover->set_locked(!junk_.may_remove());
+  }
+  if (!junk_.may_remove()) enable_toolbar({kToolbarClean}, false);
+}
+
 void JunkCommands::enable_toolbar(std::initializer_list<int> numbers, bool enabled) {
-  for (const int number : numbers) Toolbar1.set_button_enabled(number, enabled);
+  for (const int number : numbers) {
+    Toolbar1.set_button_enabled(number, enabled && (number != kToolbarClean || junk_.may_remove()));
+  }
 }
 
 void JunkCommands::toolbar_start() {
@@ -135,7 +145,7 @@ void JunkCommands::toolbar_button(int number) {
     case 5:
       toolbar_start();
       break;
-    case 6:
+    case kToolbarClean:
       toolbar_clean();
       break;
     case 7:

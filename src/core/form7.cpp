@@ -63,7 +63,9 @@ void Form7::name_session() {
 
 void Form7::read_mail() {
   if (Text14.text() == "i") {
-    read_ignore_list();
+    const bool could_be_read = may_remove();
+    load_ignore_list();
+    if (could_be_read && !may_remove()) tell_ignore_list_problem();
     Text14.set_text("");
   } else if (Text14.text() == "c") {
     build_tree();
@@ -71,11 +73,21 @@ void Form7::read_mail() {
   }
 }
 
+void Form7::load_ignore_list() {
+  read_ignore_list();
+  lock_removers();
+}
+
+void Form7::tell_ignore_list_problem() const {
+  platform().dialogs.message_box(ignore_list_message(), std::string(kProgramName), kBoxIconWarning);
+}
+
 void Form7::open_ignore_list() {
   if (windows.find("Form1") != nullptr) return;  // it is open already
   Form1 dialog(session, Text14);
   dialog.load();
   windows.show(dialog);
+  if (!may_remove()) load_ignore_list();  // the user may have mended what was in the way
 }
 
 void Form7::open_custom_list() {

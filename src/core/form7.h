@@ -67,6 +67,8 @@ class Form7 final : public Window,
   void connect_pages();
   void name_session();
   void read_mail();
+  void load_ignore_list();
+  void tell_ignore_list_problem() const;
   void open_ignore_list();
   void open_custom_list();
   void open_about();

@@ -16,6 +16,8 @@
 
 namespace quillvane {
 
+inline constexpr int kToolbarClean = 6;  // the button of Toolbar1 that does what cmd_clean does
+
 class JunkCommands : public virtual Page {
  public:
   // `junk` is the page they work on.
@@ -24,6 +26,8 @@ class JunkCommands : public virtual Page {
   enum class ButtonState { kFresh, kScanning, kCustomGroup, kDone, kCancelling };
   void enter_state(ButtonState state);
   void enable_report(bool enabled);
+  // Locks what removes while nothing may be removed (JunkPage::may_remove), and only then.
+  void lock_removers();
   // A rescan of one node leaves out the buttons of the lists.
   void enter_rescan(bool running);
 

@@ -166,7 +166,7 @@ void JunkScan::delete_rows(int node) {
 }
 
 void JunkScan::clean_clicked_node() {
-  if (session.cleaning_ended()) return;
+  if (session.cleaning_ended() || !may_remove()) return;
   delete_rows(selnode);
   count_in_statistics(*this);
   txtfilecont.set_text("0");

@@ -9,6 +9,7 @@
 #include "scan/catalogue.h"
 #include "support/size_text.h"
 #include "support/text.h"
+#include "support/text_file.h"
 #include "support/val.h"
 
 namespace quillvane {
@@ -112,7 +113,7 @@ void JunkScan::write_result_file() {
   const std::string line =
       number_text(totals.totalfiles) + "|" + number_text(totals.totalsize) + "\r\n";
   // A result that cannot be written is passed over: the run goes on to its end.
-  static_cast<void>(platform().files.write_file(session.data_file("junst.txt"), line));
+  static_cast<void>(write_text_file(platform(), session.data_file("junst.txt"), line));
 }
 
 }  // namespace quillvane

@@ -1,6 +1,7 @@
 // Load and close of the main window.
 #include <cmath>
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 
 #include "core/form7.h"
@@ -53,7 +54,7 @@ void Form7::load() {
   Frame80.show();
   build_tree();
   Tv1.select(1);
-  read_ignore_list();
+  load_ignore_list();
   if (session.silentmode == 1) {
     Text9.set_text("");
     Text9.set_text("1");
@@ -62,6 +63,7 @@ void Form7::load() {
 
 void Form7::activate() {
   if (!session.CommandLineGiven) shadow = {kShadowColor, kShadowDepth};
+  if (!may_remove()) tell_ignore_list_problem();
 }
 
 void Form7::close() {

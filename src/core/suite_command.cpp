@@ -6,6 +6,7 @@
 #include "scan/hit_rows.h"
 #include "support/registry_text.h"
 #include "support/text.h"
+#include "support/text_file.h"
 #include "support/val.h"
 
 namespace quillvane {
@@ -79,7 +80,7 @@ void Form7::write_junk_list() {
   for (int row = 1; row <= view1.count(); ++row) {
     lines += view1.text(row) + "||" + view1.sub_item(row, kSizeColumn) + "\r\n";
   }
-  static_cast<void>(platform().files.write_file(session.data_file("junktmp.txt"), lines));
+  static_cast<void>(write_text_file(platform(), session.data_file("junktmp.txt"), lines));
 }
 
 }  // namespace quillvane

@@ -33,6 +33,15 @@ TEST(SuiteRun, TheQuickRunListsEachRowWithItsSize) {
   EXPECT_EQ(run.files_left(), 10);
 }
 
+TEST(SuiteRun, TheListOfTheQuickRunIsInTheSystemsCodePage) {
+  ScanFixture run;
+  run.machine.add_file("C:\\Windows\\Temp\\Gr\u00F6\u00DFe.tmp", 5);
+  run.start("w4");
+  EXPECT_EQ(run.program_file("junktmp.txt"),
+            "C:\\Windows\\Temp\\Gr\xF6\xDF"
+            "e.tmp||5 B\r\n");
+}
+
 TEST(SuiteRun, OnlyTheQuickRunListsItsRows) {
   for (const char* line : {"w", "w-c", "w2-c2", "w3-c3", "w4-c4"}) {
     SuiteRun run;

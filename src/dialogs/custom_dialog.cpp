@@ -1,6 +1,7 @@
 #include "dialogs/custom_dialog.h"
 
 #include <string>
+#include <vector>
 
 #include "dialogs/custom_entry_dialog.h"
 #include "support/list_files.h"
@@ -28,21 +29,33 @@ void Form2::load() {
 }
 
 void Form2::read_list() {
-  for (const std::string& line :
-       read_list_lines(session_.platform.files, session_.data_file(kCustomFile))) {
+  const std::string path = session_.data_file(kCustomFile);
+  const ListLines list = read_list_file(session_.platform, path);
+  for (const std::string& line : list.lines) {
     const CustomEntry entry = custom_entry_of(line);
     set_custom_entry(view1, view1.add(""), entry);
   }
+  was_read_ = list.problem.empty();
+  Command3.set_locked(!was_read_);
+  if (!was_read_) tell_custom_list_problem(session_, list.problem);
 }
 
 // The rows take the place of the old file at one stroke. One that cannot be removed cannot be
 // written either, and stays as it was.
 void Form2::write_list() {
-  std::string lines;
+  if (!was_read_) return;  // what is not shown would be lost
+  std::vector<std::string> lines;
   for (int row = 1; row <= view1.count(); ++row) {
-    lines += line_of(custom_entry_at(view1, row)) + "\r\n";
+    lines.push_back(line_of(custom_entry_at(view1, row)));
   }
-  static_cast<void>(session_.platform.files.write_file(session_.data_file(kCustomFile), lines));
+  write_list_file(session_.platform, session_.data_file(kCustomFile), lines);
+}
+
+void tell_custom_list_problem(const Session& session, const std::string& problem) {
+  session.platform.dialogs.message_box(
+      list_problem_message(session.data_file(kCustomFile), problem,
+                           "The list is not changed while it cannot be read."),
+      "Custom file search", kBoxIconWarning);
 }
 
 void Form2::read_mail() {

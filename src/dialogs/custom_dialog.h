@@ -47,7 +47,11 @@ class Form2 final : public ModalWindow {
   Session& session_;
   ModalWindows& windows_;
   TextBox& mail_box_;
-  int row_ = 0;  // clicked last; 0: none
+  int row_ = 0;           // clicked last; 0: none
+  bool was_read_ = true;  // at the last reading; a missing list counts as read
 };
+
+// Tells the user that the list of custom folders was not read and is not changed.
+void tell_custom_list_problem(const Session& session, const std::string& problem);
 
 }  // namespace quillvane

@@ -83,7 +83,12 @@ bool Form5::add_row() {
       session_.platform.dialogs.message_box("Are you sure you want to empty this folder ?",
                                             "Custom folder search", kBoxYesNo | kBoxIconQuestion);
   if (sure == Answer::kNo) return false;
-  append_list_line(session_.platform.files, session_.data_file(kCustomFile), line_of(entry()));
+  const std::string problem =
+      append_to_list_file(session_.platform, session_.data_file(kCustomFile), line_of(entry()));
+  if (!problem.empty()) {
+    tell_custom_list_problem(session_, problem);
+    return false;
+  }
   list_.Text1.set_text("1");
   mail_box_.set_text("c");
   return true;

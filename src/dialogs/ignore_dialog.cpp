@@ -1,6 +1,7 @@
 #include "dialogs/ignore_dialog.h"
 
 #include <string>
+#include <vector>
 
 #include "dialogs/select_folder.h"
 #include "support/list_files.h"
@@ -25,10 +26,14 @@ Form1::Form1(Session& session, TextBox& mail_box)
 
 void Form1::load() {
   set_back_color(suite_color(session_.platform));
-  for (const std::string& line :
-       read_list_lines(session_.platform.files, session_.data_file(kIgnoreFile))) {
-    view1.add(line);
-  }
+  const std::string path = session_.data_file(kIgnoreFile);
+  const ListLines list = read_list_file(session_.platform, path);
+  for (const std::string& line : list.lines) view1.add(line);
+  if (list.problem.empty()) return;
+  Command2.set_locked(true);  // what is not shown would be lost
+  session_.platform.dialogs.message_box(
+      list_problem_message(path, list.problem, "The list is not changed while it cannot be read."),
+      "Ignore list", kBoxIconWarning);
 }
 
 // A folder can be added any number of times.
@@ -43,10 +48,10 @@ void Form1::remove_row() {
 }
 
 void Form1::save() {
-  std::string lines;
-  for (int row = 1; row <= view1.count(); ++row) lines += view1.text(row) + "\r\n";
-  // Without a word when it cannot be written: the main window then reads the old list again.
-  static_cast<void>(session_.platform.files.write_file(session_.data_file(kIgnoreFile), lines));
+  std::vector<std::string> lines;
+  for (int row = 1; row <= view1.count(); ++row) lines.push_back(view1.text(row));
+  // When it cannot be written, the main window reads the old list again.
+  write_list_file(session_.platform, session_.data_file(kIgnoreFile), lines);
   mail_box_.set_text("i");
   unload();
 }

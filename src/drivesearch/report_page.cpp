@@ -6,6 +6,7 @@
 #include "support/file_date.h"
 #include "support/program_name.h"
 #include "support/text.h"
+#include "support/text_file.h"
 
 namespace quillvane {
 
@@ -73,13 +74,13 @@ void ReportPage::write_text_report(const JunkPage& junk) {
   if (Trim(file).empty()) return;
   Text5.set_text(file);
   // Without a word when it cannot be written; what lies there is shown then.
-  static_cast<void>(platform().files.write_file(file, text_report(junk)));
+  static_cast<void>(write_text_file(platform(), file, text_report(junk)));
   platform().shell.open({"", file, {}, kShowNormal});
 }
 
 void ReportPage::write_html_report(const JunkPage& junk) {
   if (Trim(Text5.text()).empty()) return;
-  static_cast<void>(platform().files.write_file(Text5.text(), html_report(*this, junk)));
+  static_cast<void>(write_text_file(platform(), Text5.text(), html_report(*this, junk)));
 }
 
 }  // namespace quillvane

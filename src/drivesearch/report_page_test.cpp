@@ -76,6 +76,46 @@ TEST(TextReport, ReplacesWhatLiesUnderTheName) {
   EXPECT_EQ(found.machine.file_text("C:\\report.txt")->find('?'), std::string::npos);
 }
 
+TEST(TextReport, IsInTheSystemsCodePageAsFarAsThatHoldsItsNames) {
+  ScanFixture fixture;
+  Form7& form = fixture.start();
+  add_hit(form.view1, "C:\\Gr\u00F6\u00DFe.tmp", 2);
+  for (int report = 0; report < 2; ++report)
+    fixture.machine.dialogs().answer_path("C:\\report.txt");
+
+  form.orvbutton3.click();
+  EXPECT_NE(fixture.machine.file_text("C:\\report.txt")
+                ->find("\r\nC:\\Gr\xF6\xDF"
+                       "e.tmp\r\n"),
+            std::string::npos);
+
+  add_hit(form.view1, "C:\\\u041C\u0438\u0440.tmp", 2);
+  form.orvbutton3.click();
+  const std::string report = fixture.machine.file_text("C:\\report.txt").value_or("");
+  EXPECT_TRUE(report.starts_with("\xEF\xBB\xBFReport Time")) << report;
+  EXPECT_NE(report.find("\r\nC:\\Gr\u00F6\u00DFe.tmp\r\nC:\\\u041C\u0438\u0440.tmp\r\n"),
+            std::string::npos)
+      << report;
+}
+
+TEST(HtmlReport, IsInTheSystemsCodePageAndInMarkedUtf8WhereThatIsTooSmall) {
+  ScanFixture fixture;
+  Form7& form = fixture.start();
+  form.Text5.set_text("C:\\report.htm");
+  add_hit(form.view1, "C:\\Gr\u00F6\u00DFe.tmp", 2);
+  form.Command9.click();
+  const std::string report = fixture.machine.file_text("C:\\report.htm").value_or("");
+  EXPECT_TRUE(report.starts_with("<body>\r\n")) << report;
+  EXPECT_NE(report.find(">C:\\Gr\xF6\xDF"
+                        "e.tmp</a>"),
+            std::string::npos)
+      << report;
+
+  add_hit(form.view1, "C:\\\u041C\u0438\u0440.tmp", 2);
+  form.Command9.click();
+  EXPECT_TRUE(fixture.machine.file_text("C:\\report.htm")->starts_with("\xEF\xBB\xBF<body>\r\n"));
+}
+
 // The time begins with its seconds, links have no quotes, "<h/5>" and a stray "</font>" close what
 // they close; after a category scan there is no size.
 TEST(HtmlReport, IsWrittenAsItAlwaysWas) {

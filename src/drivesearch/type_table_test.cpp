@@ -8,6 +8,7 @@
 
 #include "tests/support/no_files.h"
 #include "tests/support/scan_fixture.h"
+#include "tests/support/unreadable_file.h"
 
 namespace quillvane {
 namespace {
@@ -58,9 +59,9 @@ class FullDisk final : public NoFiles {
  public:
   explicit FullDisk(std::string factory_table) : factory_table_(std::move(factory_table)) {}
 
-  [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override {
-    if (path != factory_table_) return std::nullopt;
-    return kFactory;
+  [[nodiscard]] FileContent read_file(const std::string& path) const override {
+    if (path != factory_table_) return ReadFailure::kMissing;
+    return std::string(kFactory);
   }
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override {
     removed.push_back(path);
@@ -79,6 +80,17 @@ TEST(TypeTable, TheFactoryTableIsKeptWhenItsCopyCannotBeWritten) {
   FullDisk disk(plain.data_file("tmptype.orv"));
   put_type_table_in_place(Session(fixture.machine.platform().with({.files = &disk})));
   EXPECT_EQ(disk.removed, Texts{});
+}
+
+TEST(TypeTable, ATableThatCannotBeReadIsNotReplacedByTheFactorys) {
+  ScanFixture fixture;
+  fixture.add_program_file("tmptype.txt", kUsers);
+  fixture.add_program_file("tmptype.orv", kFactory);
+  const Session plain(fixture.machine.platform());
+  UnreadableFile files(fixture.machine.platform().files, plain.data_file("tmptype.txt"));
+  put_type_table_in_place(Session(fixture.machine.platform().with({.files = &files})));
+  EXPECT_EQ(fixture.program_file("tmptype.txt"), kUsers);
+  EXPECT_EQ(fixture.program_file("tmptype.orv"), kFactory);
 }
 
 }  // namespace

@@ -13,9 +13,15 @@ Control::Control(Window& window, std::string_view name, const Design& design)
 }
 
 void Control::set_enabled(bool enabled) {
-  if (enabled_ == enabled) return;
+  const bool before = this->enabled();
   enabled_ = enabled;
-  notify(Change::kEnabled);
+  if (this->enabled() != before) notify(Change::kEnabled);
+}
+
+void Control::set_locked(bool locked) {
+  const bool before = enabled();
+  locked_ = locked;
+  if (enabled() != before) notify(Change::kEnabled);
 }
 
 void Control::set_visible(bool visible) {
@@ -45,7 +51,7 @@ void Control::move(int left, int top) {
 
 std::optional<PropertyValue> Control::property(std::string_view name) const {
   const std::string key = lower_case(name);
-  if (key == "enabled") return enabled_;
+  if (key == "enabled") return enabled();
   if (key == "visible") return visible_;
   if (key == "forecolor") return color_number(fore_color_);
   if (key == "backcolor") return color_number(back_color_);

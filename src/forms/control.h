@@ -70,8 +70,10 @@ class Control {
   [[nodiscard]] const std::string& name() const { return name_; }
   [[nodiscard]] Window& window() const { return window_; }
 
-  [[nodiscard]] bool enabled() const { return enabled_; }
+  [[nodiscard]] bool enabled() const { return enabled_ && !locked_; }
   void set_enabled(bool enabled);
+  // A locked control is disabled, whatever set_enabled says meanwhile.
+  void set_locked(bool locked);
   [[nodiscard]] bool visible() const { return visible_; }
   void set_visible(bool visible);
   void show() { set_visible(true); }
@@ -107,6 +109,7 @@ class Control {
   std::string name_;
   std::vector<ControlObserver*> observers_;
   bool enabled_ = true;
+  bool locked_ = false;
   bool visible_ = true;
   Color fore_color_ = 0;
   Color back_color_ = 0;

@@ -53,6 +53,27 @@ TEST(Control, TellsNothingWhenAPropertyStaysAsItWas) {
   EXPECT_EQ(seen.changes, Changes{});
 }
 
+TEST(Control, StaysDisabledWhileItIsLocked) {
+  Window window("Form");
+  Frame frame(window, "Frame1");
+  ChangeList seen;
+  frame.observe(seen);
+
+  frame.set_locked(true);
+  frame.set_enabled(false);
+  frame.set_enabled(true);
+  EXPECT_FALSE(frame.enabled());
+  EXPECT_EQ(frame.property("Enabled"), PropertyValue(false));
+  frame.set_locked(false);
+  EXPECT_TRUE(frame.enabled());
+  EXPECT_EQ(seen.changes, (Changes{Change::kEnabled, Change::kEnabled}));
+
+  frame.set_locked(true);
+  frame.set_enabled(false);
+  frame.set_locked(false);
+  EXPECT_FALSE(frame.enabled());
+}
+
 TEST(Control, TellsNothingToAnObserverThatWasRemoved) {
   Window window("Form");
   Frame frame(window, "Frame1");

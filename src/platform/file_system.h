@@ -16,6 +16,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/file_content.h"
 #include "platform/file_time.h"
 #include "platform/folder_tree.h"
 #include "platform/tree_reading.h"
@@ -93,8 +94,9 @@ class FileSystem {
   // Size of a file in bytes; nothing when the path is missing or is a folder.
   [[nodiscard]] virtual std::optional<std::uint64_t> file_size(const std::string& path) const = 0;
 
-  // The whole content of a file; nothing when it is missing or cannot be read.
-  [[nodiscard]] virtual std::optional<std::string> read_file(const std::string& path) const = 0;
+  // The whole content of a file, or why it cannot be told. Links are followed; one that leads
+  // nowhere is there and cannot be read.
+  [[nodiscard]] virtual FileContent read_file(const std::string& path) const = 0;
 
   // Makes the file hold exactly `content`. It is written beside and then put in place, so that a
   // failure or a crash leaves the old content or none, never a part of the new.
@@ -111,10 +113,6 @@ class FileSystem {
 
   // Makes one folder; false when it cannot be made or is there already.
   [[nodiscard]] virtual bool make_folder(const std::string& path) = 0;
-
-  // A hint: these files will be removed soon, one by one and in this order. Changes nothing; what
-  // is known ahead may be looked up ahead.
-  virtual void expect_removals(const std::vector<std::string>& paths) { static_cast<void>(paths); }
 
   // Removes one file. Never removes a folder.
   [[nodiscard]] virtual RemoveResult remove_file(const std::string& path) = 0;

@@ -35,7 +35,7 @@ class ForwardingFileSystem : public FileSystem {
   [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string& path) const override {
     return next_.file_size(path);
   }
-  [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override {
+  [[nodiscard]] FileContent read_file(const std::string& path) const override {
     return next_.read_file(path);
   }
   [[nodiscard]] bool write_file(const std::string& path, std::string_view content) override {
@@ -52,9 +52,6 @@ class ForwardingFileSystem : public FileSystem {
   }
   [[nodiscard]] bool make_folder(const std::string& path) override {
     return next_.make_folder(path);
-  }
-  void expect_removals(const std::vector<std::string>& paths) override {
-    next_.expect_removals(paths);
   }
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override {
     return next_.remove_file(path);

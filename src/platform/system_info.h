@@ -3,6 +3,8 @@
 
 #include <string>
 
+#include "platform/code_page.h"
+
 namespace quillvane {
 
 // The order in which the system reads and writes the parts of a short date.
@@ -30,8 +32,12 @@ class SystemInfo {
   // Whether this is a 32-bit program on 64-bit Windows (IsWow64Process); false on any error.
   [[nodiscard]] virtual bool is_wow64() const = 0;
 
-  // The system's 8-bit code page, as GetACP answers.
+  // The system's 8-bit code page, as GetACP answers in a program that does not ask for UTF-8.
   [[nodiscard]] virtual int ansi_code_page() const = 0;
+
+  // A code page by its number; null for one that no system has as its own or that is not installed.
+  // Lives as long as the program.
+  [[nodiscard]] virtual const CodePage* code_page(int number) const = 0;
 
   // The sign between whole and fraction of a number, such as ".".
   [[nodiscard]] virtual std::string decimal_separator() const = 0;

@@ -54,8 +54,7 @@ void JunkPage::build_tree() {
 
 void JunkPage::add_custom_nodes() {
   int key_number = kFirstCustomKey;
-  for (const std::string& line :
-       read_list_lines(platform().files, session.data_file(kCustomFile))) {
+  for (const std::string& line : read_list_file(platform(), session.data_file(kCustomFile)).lines) {
     Tv1.add(catalogue_node(kCustomNode).key, "f-" + std::to_string(key_number),
             custom_entry_of(line).name, kCustomImage);
     ++key_number;

@@ -22,6 +22,7 @@ class Locale final : public SystemInfo {
   [[nodiscard]] std::string program_folder() const override { return "C:\\Program"; }
   [[nodiscard]] bool is_wow64() const override { return false; }
   [[nodiscard]] int ansi_code_page() const override { return 1252; }
+  [[nodiscard]] const CodePage* code_page(int) const override { return nullptr; }
   [[nodiscard]] std::string decimal_separator() const override { return ","; }
   [[nodiscard]] DateOrder date_order() const override { return order_; }
   [[nodiscard]] std::string format_date(const DateTime& date) const override {

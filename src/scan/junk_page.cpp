@@ -43,12 +43,21 @@ void JunkPage::show_summary(double files) {
 }
 
 void JunkPage::read_ignore_list() {
-  std::string list;
-  for (const std::string& line :
-       read_list_lines(platform().files, session.data_file(kIgnoreFile))) {
-    list.append(Trim(line)).push_back('|');
+  const ListLines list = read_list_file(platform(), session.data_file(kIgnoreFile));
+  std::string text;
+  for (const std::string& line : list.lines) text.append(Trim(line)).push_back('|');
+  ignorelist.set_text(lower_case(text));
+  if (!may_remove() && list.problem.empty()) {
+    // What was listed without the list may stand in it.
+    view1.clear();
+    view5.clear();
   }
-  ignorelist.set_text(lower_case(list));
+  ignore_problem = list.problem;
+}
+
+std::string JunkPage::ignore_list_message() const {
+  return list_problem_message(session.data_file(kIgnoreFile), ignore_problem,
+                              "Nothing is removed while the ignore list cannot be read.");
 }
 
 }  // namespace quillvane

@@ -58,8 +58,14 @@ class JunkPage : public virtual Page {
   // Adds to the numbers that stand in txtfilecont and txtfilesize.
   void add_to_count_and_size(double files, double bytes);
   void show_summary(double files);
-  // Reads ignore.tdw; a missing file is an empty list.
+  // Reads ignore.tdw; a missing file is an empty list. What was listed without a list that can be
+  // read at last goes from the views: it may stand in it.
   void read_ignore_list();
+  // Nothing is removed while the ignore list is there and cannot be read: no file is known to be
+  // junk then. The controls that remove are locked, and the runs behind them do nothing.
+  [[nodiscard]] bool may_remove() const { return ignore_problem.empty(); }
+  // The list's file, why it was not read, and what follows. Requires: !may_remove().
+  [[nodiscard]] std::string ignore_list_message() const;
 
   // --- State.
   Field<int> cancelflag{window, "cancelflag"};  // 1: the running scan shall stop
@@ -68,6 +74,7 @@ class JunkPage : public virtual Page {
   // Index of the custom node being scanned
   Field<int> custnode{window, "custnode", kFirstCustomLeaf};
   SearchableText ignorelist;      // lower-case ignore entries, each followed by "|"
+  std::string ignore_problem;     // why the ignore list was not read; empty when it was
   SearchableText pending_filter;  // PendingFilter: the text of Text15, with an index
   ScanTotals totals{window};
   std::map<int, NodeResult> node_results;  // by Index; emptied with the tree

@@ -1,22 +1,46 @@
 #include "support/list_files.h"
 
+#include <utility>
+
 #include "support/text.h"
+#include "support/text_file.h"
 
 namespace quillvane {
 
-std::vector<std::string> read_list_lines(const FileSystem& files, const std::string& path) {
-  std::vector<std::string> lines;
-  if (const auto content = files.read_file(path)) {
-    lines = text_lines(*content);
-    std::erase_if(lines, [](const std::string& line) { return Trim(line).empty(); });
-  }
-  return lines;
+namespace {
+
+constexpr const char* kLineEnd = "\r\n";
+
+}  // namespace
+
+ListLines read_list_file(const Platform& platform, const std::string& path) {
+  FileText file = read_text_file(platform, path);
+  ListLines list{text_lines(file.text), std::move(file.problem)};
+  std::erase_if(list.lines, [](const std::string& line) { return Trim(line).empty(); });
+  return list;
 }
 
-void append_list_line(FileSystem& files, const std::string& path, const std::string& line) {
-  const auto content = files.read_file(path);
-  if (!content && files.attributes(path)) return;  // what cannot be read shall not be replaced
-  static_cast<void>(files.write_file(path, content.value_or("") + line + "\r\n"));
+std::string append_to_list_file(const Platform& platform, const std::string& path,
+                                const std::string& line) {
+  FileText file = read_text_file(platform, path);
+  if (!file.problem.empty()) return std::move(file.problem);
+  const bool is_open =
+      !file.text.empty() && !file.text.ends_with('\n') && !file.text.ends_with('\r');
+  if (is_open) file.text += kLineEnd;
+  static_cast<void>(write_text_file(platform, path, file.text + line + kLineEnd));
+  return {};
+}
+
+std::string list_problem_message(const std::string& path, const std::string& problem,
+                                 std::string_view what_follows) {
+  return path + ": " + problem + ". " + std::string(what_follows);
+}
+
+void write_list_file(const Platform& platform, const std::string& path,
+                     const std::vector<std::string>& lines) {
+  std::string text;
+  for (const std::string& line : lines) text += line + kLineEnd;
+  static_cast<void>(write_text_file(platform, path, text));
 }
 
 CustomEntry custom_entry_of(const std::string& line) {

@@ -26,8 +26,8 @@ class OneIniFile final : public NoFiles {
     if (same_name(path, "C:\\folder")) return kAttributeFolder;
     return std::nullopt;
   }
-  [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override {
-    if (!same_name(path, "C:\\app.ini")) return std::nullopt;
+  [[nodiscard]] FileContent read_file(const std::string& path) const override {
+    if (!same_name(path, "C:\\app.ini")) return ReadFailure::kMissing;
     return content;
   }
 

@@ -115,12 +115,11 @@ std::string replace_all(std::string_view text, std::string_view from, std::strin
 std::vector<std::string> text_lines(std::string_view content) {
   std::vector<std::string> lines;
   while (!content.empty()) {
-    const std::size_t end = content.find('\n');
-    std::string_view line = content.substr(0, end);
-    if (line.ends_with('\r')) line.remove_suffix(1);
-    lines.emplace_back(line);
+    const std::size_t end = content.find_first_of("\r\n");
+    lines.emplace_back(content.substr(0, end));
     if (end == std::string_view::npos) break;
-    content.remove_prefix(end + 1);
+    const bool is_pair = content.substr(end).starts_with("\r\n");
+    content.remove_prefix(end + (is_pair ? 2 : 1));
   }
   return lines;
 }

@@ -24,7 +24,7 @@ namespace quillvane {
 [[nodiscard]] std::string replace_all(std::string_view text, std::string_view from,
                                       std::string_view to);
 
-// Lines of a text file: ended by LF or CR LF, the end of the text ends the last one.
+// Lines of a text file: ended by CR LF, LF or CR; the end of the text ends the last one.
 [[nodiscard]] std::vector<std::string> text_lines(std::string_view content);
 
 // A whole number as the program prints numbers: "12", "-3"; doubles with a fraction in their

@@ -133,9 +133,11 @@ TEST(ReplaceAll, DoesNotLookIntoWhatItPutIn) {
   EXPECT_EQ(replace_all("aaa", "aa", "a"), "aa");
 }
 
-TEST(TextLines, EndWithEitherLineEnd) {
+TEST(TextLines, EndWithAnyLineEnd) {
   EXPECT_EQ(text_lines("a\r\nb\r\n"), (Parts{"a", "b"}));
   EXPECT_EQ(text_lines("a\nb\n"), (Parts{"a", "b"}));
+  EXPECT_EQ(text_lines("a\rb\r"), (Parts{"a", "b"}));
+  EXPECT_EQ(text_lines("a\r\r\nb"), (Parts{"a", "", "b"}));
 }
 
 TEST(TextLines, TheLastLineNeedsNoEnd) {

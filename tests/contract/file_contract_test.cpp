@@ -68,7 +68,7 @@ TEST_F(FileContract, WhatIsMissingHasNothing) {
     EXPECT_FALSE(platform.files.attributes(path).has_value()) << path;
     EXPECT_FALSE(platform.files.set_attributes(path, kAttributeHidden)) << path;
     EXPECT_FALSE(platform.files.file_size(path).has_value()) << path;
-    EXPECT_FALSE(platform.files.read_file(path).has_value()) << path;
+    EXPECT_FALSE(platform.files.read_file(path)) << path;
     EXPECT_EQ(platform.files.remove_file(path), RemoveResult::kMissing) << path;
   }
 }
@@ -78,7 +78,7 @@ TEST_F(FileContract, APathThatIsTooLongIsNotLookedAt) {
   EXPECT_FALSE(platform.files.attributes(path).has_value());
   EXPECT_FALSE(platform.files.set_attributes(path, kAttributeHidden));
   EXPECT_FALSE(platform.files.file_size(path).has_value());
-  EXPECT_FALSE(platform.files.read_file(path).has_value());
+  EXPECT_FALSE(platform.files.read_file(path));
   EXPECT_EQ(platform.files.remove_file(path), RemoveResult::kTooLong);
   EXPECT_EQ(platform.files.remove_file(path.substr(0, 259)), RemoveResult::kMissing);
 }
@@ -86,10 +86,28 @@ TEST_F(FileContract, APathThatIsTooLongIsNotLookedAt) {
 TEST_F(FileContract, AFolderHasNoSizeAndNoContent) {
   machine->add_folder(path_of("sub"));
   EXPECT_FALSE(platform.files.file_size(path_of("sub")).has_value());
-  EXPECT_FALSE(platform.files.read_file(path_of("sub")).has_value());
+  EXPECT_EQ(platform.files.read_file(path_of("sub")), ReadFailure::kFolder);
   EXPECT_FALSE(platform.files.write_file(path_of("sub"), "x"));
   EXPECT_NE(platform.files.remove_file(path_of("sub")), RemoveResult::kRemoved);
   EXPECT_TRUE(platform.files.attributes(path_of("sub")).has_value());
+}
+
+TEST_F(FileContract, WhatCannotBeReadIsToldFromWhatIsMissing) {
+  machine->add_file(path_of("a.txt"), "x");
+  machine->add_folder(path_of("sub"));
+  const struct {
+    std::string path;
+    ReadFailure why;
+  } cases[] = {
+      {path_of("missing"), ReadFailure::kMissing},
+      {path_of("missing\\deeper"), ReadFailure::kMissing},
+      {path_of("a.txt\\deeper"), ReadFailure::kMissing},
+      {"1:\\a", ReadFailure::kMissing},
+      {"", ReadFailure::kMissing},
+      {path_of("SUB"), ReadFailure::kFolder},
+      {path_of(std::string(260, 'a')), ReadFailure::kTooLong},
+  };
+  for (const auto& c : cases) EXPECT_EQ(platform.files.read_file(c.path), c.why) << c.path;
 }
 
 TEST_F(FileContract, ContentIsReadWholeWithItsZerosAndLineEnds) {

@@ -11,7 +11,7 @@ class FileMovesContract : public ContractTest {
   [[nodiscard]] Names names() const {
     return names_of(platform.files.list_folder(machine->folder(), "*.*"));
   }
-  [[nodiscard]] std::optional<std::string> content(const std::string& name) const {
+  [[nodiscard]] FileContent content(const std::string& name) const {
     return platform.files.read_file(path_of(name));
   }
   bool rename(const std::string& from, const std::string& to) {

@@ -7,6 +7,8 @@
 //   #:file BYTES PATH        a file of that length
 //   #:line PATH | TEXT       one more line of a text file
 //   #:left PATH | TEXT       one more line of what a text file must hold when the script has ended
+//   #:line1252, #:left1252   the same in code page 1252
+//   #:text PATH | TEXT       the whole of a text file; <CR> and <LF> are those characters
 // What it must print stands in NAME.expected. A script that ends early has NAME.problem with what
 // is told on standard error.
 
@@ -23,8 +25,10 @@
 #include <vector>
 
 #include "app/make_machine_host.h"
+#include "platform/folder/host_code_page.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_staging.h"
+#include "support/text.h"
 #include "tests/script/expected_output.h"
 #include "tests/support/temp_folder.h"
 #include "view/console/console.h"
@@ -104,17 +108,30 @@ class StagedMachine {
       words >> bytes >> std::ws;
       std::getline(words, rest);
       put(rest, {.text = {}, .bytes = bytes, .time = {}});
-    } else if (std::getline(words, rest); what == "line" || what == "left") {
-      const std::size_t bar = rest.find(" | ");
-      ASSERT_NE(bar, std::string::npos) << remark;
-      Texts& texts = what == "line" ? texts_ : shall_be_left_;
-      texts[rest.substr(0, bar)] += rest.substr(bar + 3) + "\r\n";
+    } else if (std::getline(words, rest); rest.find(" | ") != std::string::npos) {
+      stage_text(what, rest.substr(0, rest.find(" | ")), rest.substr(rest.find(" | ") + 3));
     } else if (what == "machine") {
       folder_.write("machine/machine.json", rest);
     } else if (what == "folder") {
       EXPECT_FALSE(stage_folder(state(), rest)) << rest;
     } else {
       FAIL() << "a remark that stages nothing: " << remark;
+    }
+  }
+
+  void stage_text(const std::string& what, const std::string& path, const std::string& text) {
+    if (what == "text") {
+      texts_[path] = replace_all(replace_all(text, "<CR>", "\r"), "<LF>", "\n");
+      return;
+    }
+    Texts& texts = what.starts_with("left") ? shall_be_left_ : texts_;
+    if (what == "line1252" || what == "left1252") {
+      const auto bytes = host_code_page(1252)->encode(text);
+      ASSERT_TRUE(bytes) << text;
+      texts[path] += *bytes + "\r\n";
+    } else {
+      EXPECT_TRUE(what == "line" || what == "left") << what;
+      texts[path] += text + "\r\n";
     }
   }
 

@@ -30,8 +30,8 @@ class NoFiles : public FileSystem {
   [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string&) const override {
     return std::nullopt;
   }
-  [[nodiscard]] std::optional<std::string> read_file(const std::string&) const override {
-    return std::nullopt;
+  [[nodiscard]] FileContent read_file(const std::string&) const override {
+    return ReadFailure::kMissing;
   }
   [[nodiscard]] bool write_file(const std::string&, std::string_view) override { return false; }
   [[nodiscard]] bool can_open(const std::string&) const override { return false; }

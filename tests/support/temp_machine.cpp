@@ -77,7 +77,8 @@ bool TempMachine::has_folder(const std::string& path) {
 }
 
 std::optional<std::string> TempMachine::file_text(const std::string& path) {
-  return machine_->files().read_file(path);
+  const FileContent content = machine_->files().read_file(path);
+  return content ? std::optional(*content) : std::nullopt;
 }
 
 std::string TempMachine::host_path(const std::string& path) const {

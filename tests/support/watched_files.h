@@ -40,7 +40,7 @@ class WatchedFiles final : public FileSystem {
   [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string& path) const override {
     return files_.file_size(note(path));
   }
-  [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override {
+  [[nodiscard]] FileContent read_file(const std::string& path) const override {
     return files_.read_file(note(path));
   }
   [[nodiscard]] bool write_file(const std::string& path, std::string_view content) override {

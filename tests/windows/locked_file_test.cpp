@@ -41,7 +41,7 @@ class LockedFile : public testing::Test {
 TEST_F(LockedFile, ItCanBeSeenButNotOpened) {
   lock();
   EXPECT_FALSE(files_.can_open(path_));
-  EXPECT_FALSE(files_.read_file(path_).has_value());
+  EXPECT_EQ(files_.read_file(path_), ReadFailure::kInUse);
   EXPECT_EQ(files_.file_size(path_), 3U);
   unlock();
   EXPECT_TRUE(files_.can_open(path_));

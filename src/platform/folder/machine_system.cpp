@@ -1,5 +1,7 @@
 #include "platform/folder/machine_system.h"
 
+#include "platform/folder/host_code_page.h"
+
 namespace quillvane {
 
 namespace {
@@ -13,6 +15,8 @@ std::string MachineSystem::program_folder() const {
   if (folder.ends_with('\\')) folder.pop_back();
   return folder;
 }
+
+const CodePage* MachineSystem::code_page(int number) const { return host_code_page(number); }
 
 std::string MachineSystem::format_date(const DateTime& date) const {
   std::string text =

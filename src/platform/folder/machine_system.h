@@ -16,6 +16,7 @@ class MachineSystem final : public SystemInfo {
   [[nodiscard]] std::string program_folder() const override;
   [[nodiscard]] bool is_wow64() const override { return state_.is_64_bit; }
   [[nodiscard]] int ansi_code_page() const override { return state_.code_page; }
+  [[nodiscard]] const CodePage* code_page(int number) const override;
   [[nodiscard]] std::string decimal_separator() const override { return "."; }
   [[nodiscard]] DateOrder date_order() const override { return DateOrder::kMonthDayYear; }
   [[nodiscard]] std::string format_date(const DateTime& date) const override;

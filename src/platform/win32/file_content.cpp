@@ -1,7 +1,6 @@
 #include "platform/win32/file_content.h"
 
 #include <algorithm>
-#include <limits>
 
 #include "platform/win32/file_beside.h"
 #include "platform/win32/system_handle.h"
@@ -11,19 +10,38 @@ namespace quillvane {
 namespace {
 
 constexpr std::size_t kBlockBytes = std::size_t{64} * 1024;
+
 }  // namespace
 
-std::optional<std::string> read_to_end(HANDLE file, std::uint64_t most) {
+ReadFailure read_failure(DWORD error) {
+  switch (error) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_NAME:
+    case ERROR_INVALID_DRIVE:
+    case ERROR_NO_MORE_FILES:
+      return ReadFailure::kMissing;
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+      return ReadFailure::kInUse;
+    case ERROR_ACCESS_DENIED:
+      return ReadFailure::kDenied;
+    default:
+      return ReadFailure::kUnreadable;
+  }
+}
+
+FileContent read_to_end(HANDLE file, std::uint64_t most) {
   std::string content;
   std::size_t length = 0;
   for (;;) {
     content.resize(length + kBlockBytes);
     DWORD read = 0;
     if (!ReadFile(file, content.data() + length, static_cast<DWORD>(kBlockBytes), &read, nullptr)) {
-      return std::nullopt;
+      return read_failure(GetLastError());
     }
     length += read;
-    if (length > most) return std::nullopt;
+    if (length > most) return ReadFailure::kTooLarge;
     if (read == 0) break;
   }
   content.resize(length);
@@ -40,12 +58,20 @@ bool write_to_disk(HANDLE file, std::string_view content) {
   return FlushFileBuffers(file) != 0;
 }
 
-std::optional<std::string> read_whole_file(const std::wstring& path) {
+FileContent read_whole_file(const std::wstring& path) {
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const FileHandle file(CreateFileW(path.c_str(), GENERIC_READ, kShareAll, nullptr, OPEN_EXISTING,
                                     FILE_FLAG_SEQUENTIAL_SCAN, nullptr));
-  if (!file.is_valid()) return std::nullopt;
-  return read_to_end(file.get(), std::numeric_limits<std::uint64_t>::max());
+  if (file.is_valid()) return read_to_end(file.get());
+  const ReadFailure failure = read_failure(GetLastError());
+  // What bears the name all the same is a folder, or a link that leads nowhere.
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  if (attributes == INVALID_FILE_ATTRIBUTES) return failure;
+  if ((attributes & (FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT)) ==
+      FILE_ATTRIBUTE_DIRECTORY) {
+    return ReadFailure::kFolder;
+  }
+  return failure == ReadFailure::kMissing ? ReadFailure::kUnreadable : failure;
 }
 
 bool replace_whole_file(const std::wstring& path, std::string_view content) {

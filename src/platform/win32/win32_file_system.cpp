@@ -138,10 +138,10 @@ std::optional<std::uint64_t> Win32FileSystem::file_size(const std::string& path)
   return status->size;
 }
 
-std::optional<std::string> Win32FileSystem::read_file(const std::string& path) const {
+FileContent Win32FileSystem::read_file(const std::string& path) const {
   const auto wide = openable_path(path);
-  if (!wide) return std::nullopt;
-  return read_whole_file(*wide);
+  if (wide) return read_whole_file(*wide);
+  return widen(path).size() >= kPathLimit ? ReadFailure::kTooLong : ReadFailure::kMissing;
 }
 
 bool Win32FileSystem::write_file(const std::string& path, std::string_view content) {

@@ -15,7 +15,7 @@ class Win32FileSystem final : public FileSystem {
   [[nodiscard]] std::optional<std::uint32_t> attributes(const std::string& path) const override;
   [[nodiscard]] bool set_attributes(const std::string& path, std::uint32_t bits) override;
   [[nodiscard]] std::optional<std::uint64_t> file_size(const std::string& path) const override;
-  [[nodiscard]] std::optional<std::string> read_file(const std::string& path) const override;
+  [[nodiscard]] FileContent read_file(const std::string& path) const override;
   [[nodiscard]] bool write_file(const std::string& path, std::string_view content) override;
   [[nodiscard]] bool can_open(const std::string& path) const override;
   [[nodiscard]] bool rename_file(const std::string& from, const std::string& to) override;

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "platform/win32/wide_text.h"
+#include "platform/win32/win32_code_page.h"
 
 namespace quillvane {
 
@@ -70,8 +71,11 @@ int Win32SystemInfo::ansi_code_page() const {
   if (own != CP_UTF8) return static_cast<int>(own);
   // That is what the program's manifest asks for, not what the system's language uses.
   const auto page = locale_number(LOCALE_NAME_SYSTEM_DEFAULT, LOCALE_IDEFAULTANSICODEPAGE);
-  return static_cast<int>(page.value_or(own));
+  // A language without a page of its own has 0 there.
+  return static_cast<int>(page.value_or(0) == 0 ? own : *page);
 }
+
+const CodePage* Win32SystemInfo::code_page(int number) const { return win32_code_page(number); }
 
 std::string Win32SystemInfo::decimal_separator() const {
   const std::string separator = locale_text(LOCALE_SDECIMAL);

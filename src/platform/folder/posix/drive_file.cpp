@@ -16,9 +16,6 @@ namespace {
 
 constexpr std::size_t kLeastRead = 4096;
 constexpr std::size_t kCopiedAtATime = std::size_t{1} << 20U;
-// The program's own files are lists and texts. What is larger is none of them, and could take the
-// whole memory.
-constexpr std::size_t kMostRead = std::size_t{1} << 30U;
 
 // The descriptor of a place is good for finding only; this leads to the same file.
 Descriptor open_for_reading(const HostPlace& place) {
@@ -26,7 +23,7 @@ Descriptor open_for_reading(const HostPlace& place) {
   return Descriptor(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
 }
 
-std::optional<std::string> read_to_end(int file, std::size_t expected) {
+FileContent read_to_end(int file, std::size_t expected) {
   std::string content;
   content.resize(expected + kLeastRead);
   std::size_t used = 0;
@@ -35,8 +32,9 @@ std::optional<std::string> read_to_end(int file, std::size_t expected) {
     const ssize_t got = read(file, content.data() + used, content.size() - used);
     if (got < 0 && errno == EINTR) continue;
     if (got == 0) break;
-    if (got < 0 || used + static_cast<std::size_t>(got) > kMostRead) return std::nullopt;
+    if (got < 0) return read_failure(errno);
     used += static_cast<std::size_t>(got);
+    if (used > kMostFileContent) return ReadFailure::kTooLarge;
   }
   content.resize(used);
   return content;
@@ -75,14 +73,20 @@ bool copy_extents(int from, int to) {
 
 }  // namespace
 
+ReadFailure read_failure(int error) {
+  return error == EACCES || error == EPERM ? ReadFailure::kDenied : ReadFailure::kUnreadable;
+}
+
 bool can_read_drive_file(const HostPlace& place) {
   return is_file(place.status) && open_for_reading(place).is_open();
 }
 
-std::optional<std::string> read_drive_file(const HostPlace& place) {
-  if (!is_file(place.status) || place.status.stx_size > kMostRead) return std::nullopt;
+FileContent read_drive_file(const HostPlace& place) {
+  if (is_folder(place.status)) return ReadFailure::kFolder;
+  if (!is_file(place.status)) return ReadFailure::kUnreadable;
+  if (place.status.stx_size > kMostFileContent) return ReadFailure::kTooLarge;
   const Descriptor file = open_for_reading(place);
-  if (!file.is_open()) return std::nullopt;
+  if (!file.is_open()) return read_failure(errno);
   return read_to_end(file.number(), place.status.stx_size);
 }
 

@@ -2,16 +2,18 @@
 #pragma once
 
 #include <functional>
-#include <optional>
-#include <string>
 #include <string_view>
 
+#include "platform/file_content.h"
 #include "platform/folder/posix/drive_folder.h"
 
 namespace quillvane {
 
-// Nothing when it is no file, cannot be read, or is larger than 1 GiB.
-[[nodiscard]] std::optional<std::string> read_drive_file(const HostPlace& place);
+// Why something could not be read, from the host's error.
+[[nodiscard]] ReadFailure read_failure(int error);
+
+// What the file holds. What Windows does not know, a pipe say, is unreadable.
+[[nodiscard]] FileContent read_drive_file(const HostPlace& place);
 
 // Whether it is a file whose content may be read now.
 [[nodiscard]] bool can_read_drive_file(const HostPlace& place);

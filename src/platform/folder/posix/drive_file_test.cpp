@@ -25,20 +25,20 @@ TEST_F(DriveFile, IsReadWhole) {
   host.write("drive_c/empty.txt");
   EXPECT_TRUE(files.read_file("C:\\A.txt") == content);
   EXPECT_EQ(files.read_file("C:\\empty.txt"), "");
-  EXPECT_EQ(files.read_file("C:\\missing.txt"), std::nullopt);
-  EXPECT_EQ(files.read_file("C:\\"), std::nullopt);
+  EXPECT_EQ(files.read_file("C:\\missing.txt"), ReadFailure::kMissing);
+  EXPECT_EQ(files.read_file("C:\\"), ReadFailure::kFolder);
 }
 
 TEST_F(DriveFile, IsNothingWhenTheDiskCannotBeRead) {
   host.write("drive_c/a.txt", "text");
   with_failing_calls({SYS_read}, EIO,
-                     [this] { EXPECT_EQ(files.read_file("C:\\a.txt"), std::nullopt); });
+                     [this] { EXPECT_EQ(files.read_file("C:\\a.txt"), ReadFailure::kUnreadable); });
 }
 
 TEST_F(DriveFile, IsNothingWhenItIsTooLargeToBeHeld) {
   host.write_sparse("drive_c/huge.dat", std::uintmax_t{5} << 30U);
   EXPECT_EQ(files.file_size("C:\\huge.dat"), std::uint64_t{5} << 30U);
-  EXPECT_EQ(files.read_file("C:\\huge.dat"), std::nullopt);
+  EXPECT_EQ(files.read_file("C:\\huge.dat"), ReadFailure::kTooLarge);
 }
 
 TEST_F(DriveFile, IsReplacedAtOneStroke) {
@@ -120,7 +120,7 @@ TEST_F(DriveFile, IsNotWrittenThroughALinkThatLeadsNowhere) {
   EXPECT_FALSE(files.write_file("C:\\out.txt", "new"));
   EXPECT_FALSE(files.write_file("C:\\broken.txt", "new"));
   EXPECT_EQ(host.read("outside.txt"), "old");
-  EXPECT_EQ(files.read_file("C:\\out.txt"), std::nullopt);
+  EXPECT_EQ(files.read_file("C:\\out.txt"), ReadFailure::kUnreadable);
   EXPECT_FALSE(host.has("drive_c/missing.txt"));
 }
 

@@ -13,9 +13,6 @@ namespace {
 
 constexpr std::uint32_t kSettable =
     kAttributeReadOnly | kAttributeHidden | kAttributeSystem | kAttributeArchive;
-// The program's own files are lists and texts. What is larger is none of them, and could take the
-// whole memory.
-constexpr std::uint64_t kMostRead = std::uint64_t{1} << 30U;
 
 bool change_basics(HANDLE handle, std::uint32_t attributes, std::optional<FILETIME> written) {
   FILE_BASIC_INFO info{};  // what is 0 stays as it is
@@ -55,13 +52,13 @@ bool move_to(HANDLE file, const HeldPlace& folder, const std::wstring& name, Tak
   return move_file(file, path_below(folder.path, name), taken == Taken::kIsReplaced);
 }
 
-std::optional<std::string> read_content(const HeldPlace& file) {
+FileContent read_content(const HeldPlace& file) {
+  if (file.is_folder()) return ReadFailure::kFolder;
   const auto& status = file.status;
-  if (file.is_folder() ||
-      (std::uint64_t{status.nFileSizeHigh} << 32U | status.nFileSizeLow) > kMostRead) {
-    return std::nullopt;
+  if ((std::uint64_t{status.nFileSizeHigh} << 32U | status.nFileSizeLow) > kMostFileContent) {
+    return ReadFailure::kTooLarge;
   }
-  return read_to_end(file.handle.get(), kMostRead);
+  return read_to_end(file.handle.get());
 }
 
 bool put_file(const HeldEntry& entry, Taken taken, std::uint32_t attributes,

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/file_content.h"
 #include "platform/file_time.h"
 #include "platform/folder/win32/host_drive.h"
 
@@ -27,9 +28,8 @@ enum class Taken { kFails, kIsReplaced };
 [[nodiscard]] bool move_to(HANDLE file, const HeldPlace& folder, const std::wstring& name,
                            Taken taken);
 
-// The content of a file opened with Access::kRead; nothing when it cannot be read or is larger than
-// 1 GiB.
-[[nodiscard]] std::optional<std::string> read_content(const HeldPlace& file);
+// The content of a file opened with Access::kRead.
+[[nodiscard]] FileContent read_content(const HeldPlace& file);
 
 // Puts a file of this content under the entry's name, with these attributes. It is written beside
 // and then takes the place of the file of that name, if there may be one. On failure the old file

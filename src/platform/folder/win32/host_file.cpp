@@ -25,9 +25,10 @@ std::variant<std::string, std::error_code> read_host_file(const std::string& pat
   if (static_cast<std::uint64_t>(size.QuadPart) > most_bytes) {
     return std::make_error_code(std::errc::file_too_large);
   }
-  auto content = read_to_end(file.get(), most_bytes);
-  if (!content) return last_host_error();
-  return *std::move(content);
+  const FileContent content = read_to_end(file.get(), most_bytes);
+  if (content) return *content;
+  if (content == ReadFailure::kTooLarge) return std::make_error_code(std::errc::file_too_large);
+  return last_host_error();
 }
 
 std::error_code replace_host_file(const std::string& path, std::string_view content) {

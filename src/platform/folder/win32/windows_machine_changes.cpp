@@ -90,7 +90,7 @@ bool WindowsMachineFiles::rename_file(const std::string& from, const std::string
 
 bool WindowsMachineFiles::copy_file(const std::string& from, const std::string& to) {
   const auto original = find(from, Access::kRead);
-  const auto content = original ? read_content(*original) : std::nullopt;
+  const FileContent content = original ? read_content(*original) : ReadFailure::kMissing;
   if (!content || !write_file(to, *content)) return false;
   // The copy is there; a time or attribute that it cannot take is left out.
   if (const auto copy = find(to, Access::kChanged)) {

@@ -11,6 +11,8 @@
 #include "platform/folder/win32/tree_walk.h"
 #include "platform/unicode_case.h"
 #include "platform/watched_reading.h"
+#include "platform/win32/disk_error.h"
+#include "platform/win32/file_content.h"
 #include "platform/win32/long_path.h"
 #include "platform/win32/windows_time.h"
 
@@ -154,9 +156,27 @@ std::optional<std::uint64_t> WindowsMachineFiles::file_size(const std::string& p
   return size_of(place->status);
 }
 
-std::optional<std::string> WindowsMachineFiles::read_file(const std::string& path) const {
-  const auto place = find(path, Access::kRead);
-  return place ? read_content(*place) : std::nullopt;
+FileContent WindowsMachineFiles::read_file(const std::string& path) const {
+  if (!fits_path_limit(path)) return ReadFailure::kTooLong;
+  const auto parsed = parse_machine_path(machine_, path);
+  if (!parsed) return ReadFailure::kMissing;
+  const HostDrive on = drive(*parsed);
+  SetLastError(ERROR_FILE_NOT_FOUND);  // what stands when the search ends without an error
+  const auto not_found = [] {
+    const DWORD error = GetLastError();
+    return cannot_be_told(error) ? read_failure(error) : ReadFailure::kMissing;
+  };
+  if (parsed->names.empty()) {
+    return on.find({}, Access::kTold) ? ReadFailure::kFolder : not_found();
+  }
+  const auto entry = on.find_entry(parsed->names);
+  if (!entry) return not_found();
+  if (const auto place = on.follow(entry->folder, entry->name, Access::kRead)) {
+    return read_content(*place);
+  }
+  // A link that leads nowhere bears the name all the same.
+  const ReadFailure failure = read_failure(GetLastError());
+  return failure == ReadFailure::kMissing ? ReadFailure::kUnreadable : failure;
 }
 
 bool WindowsMachineFiles::can_open(const std::string& path) const {

@@ -70,7 +70,7 @@ TEST_F(WindowsMachineFilesTest, EachDriveHasItsFolder) {
   host.write("drive_d/a.txt", "d");
   EXPECT_EQ(files.read_file("C:\\a.txt"), "c");
   EXPECT_EQ(files.read_file("d:/A.TXT"), "d");
-  EXPECT_EQ(files.read_file("E:\\a.txt"), std::nullopt);
+  EXPECT_EQ(files.read_file("E:\\a.txt"), ReadFailure::kMissing);
   EXPECT_EQ(files.attributes("C:\\"), kAttributeFolder);
   EXPECT_EQ(files.attributes("E:\\"), std::nullopt);
 }
@@ -97,10 +97,11 @@ TEST_F(WindowsMachineFilesTest, ALinkOutOfTheDriveLeadsNowhere) {
   EXPECT_EQ(files.read_tree("C:\\link", "*.*"), nullptr);
   EXPECT_EQ(list("C:\\link\\deep"), Names{});
   EXPECT_EQ(files.attributes("C:\\link"), std::nullopt);
+  EXPECT_EQ(files.read_file("C:\\link"), ReadFailure::kUnreadable);
   EXPECT_EQ(files.attributes("C:\\link\\a.tmp"), std::nullopt);
   EXPECT_FALSE(files.set_attributes("C:\\link\\a.tmp", kAttributeHidden));
   EXPECT_EQ(files.file_size("C:\\link\\a.tmp"), std::nullopt);
-  EXPECT_EQ(files.read_file("C:\\link\\a.tmp"), std::nullopt);
+  EXPECT_EQ(files.read_file("C:\\link\\a.tmp"), ReadFailure::kMissing);
   EXPECT_FALSE(files.can_open("C:\\link\\a.tmp"));
   EXPECT_FALSE(files.write_file("C:\\link\\a.tmp", "y"));
   EXPECT_FALSE(files.write_file("C:\\link\\new.tmp", "y"));
@@ -205,7 +206,7 @@ TEST_F(WindowsMachineFilesTest, NamesThatMeanSomethingToWindowsAreNoFiles) {
   host.write("drive_c/a.txt", "x");
   for (const char* path : {"C:\\a.txt:stream", "C:\\?.txt", "C:\\a.*", "C:\\a.txt::$DATA"}) {
     EXPECT_EQ(files.attributes(path), std::nullopt) << path;
-    EXPECT_EQ(files.read_file(path), std::nullopt) << path;
+    EXPECT_FALSE(files.read_file(path)) << path;
     EXPECT_FALSE(files.write_file(path, "y")) << path;
     EXPECT_EQ(files.remove_file(path), RemoveResult::kMissing) << path;
   }

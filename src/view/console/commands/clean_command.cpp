@@ -39,6 +39,7 @@ int clean(const ConsoleSession& session, const CleanOptions& options) {
   cleaning.program.session.on_problem = session.problem_teller();
   cleaning.program.start("");
   Form7& form = cleaning.program.main_window();
+  if (!form.may_remove()) return kNotDone;  // the box of the start has said why
   cleaning.attendance.run([&] { form.cmd_start.click(); });
   tell_skipped(io.err, form);
 

@@ -87,9 +87,14 @@ int run(const ConsoleSession& session, const std::string& words) {
   cleaning.attendance.run([&] { program.start(words); });
   if (kind == SwitchKind::kWindow) return kDone;
 
+  const Form7& form = program.main_window();
   const CleaningResult result = cleaning.watch.result();
-  const Outcome outcome = outcome_of_run(result, cleaning.attendance.cancelled());
-  print_result(session, program.main_window(), result, outcome);
+  const Outcome outcome = form.may_remove()
+                              ? outcome_of_run(result, cleaning.attendance.cancelled())
+                              : Outcome::kFailed;
+  print_result(session, form, result, outcome);
+  // The suite's run shows no box.
+  if (!form.may_remove()) return session.problem(form.ignore_list_message());
   tell_outcome(session.io, "run", result, outcome);
   return exit_status(outcome);
 }

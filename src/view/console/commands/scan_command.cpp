@@ -36,7 +36,9 @@ int scan(const ConsoleSession& session, const BrowserAnswer& browsers) {
   } else {
     print_scan_table(session.io, report, files);
   }
-  return cancelled ? session.problem("scan: cancelled, this is what was found until then") : kDone;
+  if (cancelled) return session.problem("scan: cancelled, this is what was found until then");
+  // The box of the start has said that the ignore list is not in these results.
+  return form.may_remove() ? kDone : kNotDone;
 }
 
 }  // namespace

@@ -53,6 +53,22 @@ TEST(ScanCommand, ShowsCategoriesTotalsAndTheSummary) {
   EXPECT_EQ(stage.err.str(), "");
 }
 
+// Nothing is removed, nor is a result told as whole.
+TEST(ScanCommand, AnIgnoreListThatCannotBeReadIsAProblemOfEachCommandThatScans) {
+  const std::string problem =
+      "quillvane: C:\\Program Files\\Tidewrack\\ignore.tdw: a folder has its name. Nothing is "
+      "removed while the ignore list cannot be read.\n";
+  for (const std::vector<std::string>& words :
+       {std::vector<std::string>{"scan"}, {"clean", "--yes"}, {"run", "w"}, {"run", "w2-c2"}}) {
+    Stage stage;
+    TempMachine& machine = stage.host.machine.temp();
+    machine.add_folder("C:\\Program Files\\Tidewrack\\ignore.tdw");
+    EXPECT_EQ(stage.run(words), 1) << words.back();
+    EXPECT_EQ(stage.err.str(), problem) << words.back();
+    EXPECT_TRUE(machine.has_file("C:\\Windows\\Temp\\a.tmp")) << words.back();
+  }
+}
+
 TEST(ScanCommand, ListsEachFileWhenAsked) {
   Stage stage;
 

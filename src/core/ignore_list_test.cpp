@@ -81,7 +81,7 @@ TEST(UnreadableIgnoreList, LocksEveryCommandThatRemoves) {
       form.Tv1.on_node_click(node);
       for (MenuEntry* entry : {&form.b1, &form.b2, &form.stc}) entry->click();
     }
-    form.run_cleaning();
+    run_cleaning(form, form);
   };
   try_all();
   form.Toolbar1.click_button(5);  // a scan enables the buttons behind it

@@ -79,7 +79,7 @@ TEST(UnreadableCustomList, TakesNoNewEntryAndTheWindowStays) {
   stage.files.why = std::nullopt;
   stage.in_dialog([&](Form2& dialog) {
     stage.files.why = ReadFailure::kUnreadable;
-    Form5 entry(*stage.program, dialog);
+    Form5 entry(stage.program->session, dialog, stage.program->main_window().Text14);
     entry.Text2.set_text("C:\\Mine");
     stage.machine.dialogs().answer(Answer::kYes);
     entry.Command2.click();

@@ -75,8 +75,50 @@ bool make_files(const Folder& folder, std::uint32_t count, Random& random) {
   return true;
 }
 
+bool make_folder(const std::string& path) { return mkdir(path.c_str(), 0755) == 0 || report(path); }
+
+bool make_one_file_a_folder(const Folder& top, std::uint32_t count, Random& random) {
+  for (std::uint32_t i = 0; i < count; ++i) {
+    const Folder folder{top.path + "/" + random.name(i, 12), 1};
+    if (!make_folder(folder.path) || !make_files(folder, 1, random)) return false;
+  }
+  return true;
+}
+
+// Folders of one letter and short file names, so that the deepest path stays below 260 characters.
+bool make_deep(Folder folder, std::uint32_t count) {
+  constexpr std::uint32_t kLevels = 100;
+  for (std::uint32_t level = 1; level <= kLevels; ++level) {
+    folder = {folder.path + "/" + static_cast<char>('a' + level % 26), level};
+    if (!make_folder(folder.path)) return false;
+    const std::uint32_t here = count / (kLevels - level + 1);
+    for (std::uint32_t i = 0; i < here; ++i) {
+      if (!make_file(folder.path + "/" + std::to_string(i) + ".tmp", i)) return false;
+    }
+    count -= here;
+  }
+  return true;
+}
+
+bool make_tree_of_folders(const TreePlan& plan, Random& random);
+
 bool make_contents(const TreePlan& plan) {
   Random random(plan.seed);
+  const Folder top{plan.folder + "/tree", 0};
+  switch (plan.shape) {
+    case TreeShape::kTree:
+      return make_tree_of_folders(plan, random);
+    case TreeShape::kFlat:
+      return make_folder(top.path) && make_files(top, plan.files, random);
+    case TreeShape::kFolders:
+      return make_folder(top.path) && make_one_file_a_folder(top, plan.files, random);
+    case TreeShape::kDeep:
+      return make_folder(top.path) && make_deep(top, plan.files);
+  }
+  return false;
+}
+
+bool make_tree_of_folders(const TreePlan& plan, Random& random) {
   std::vector<Folder> folders = {{plan.folder + "/tree", 0}};
   if (mkdir(folders[0].path.c_str(), 0755) != 0) return report(folders[0].path);
   std::uint32_t left = plan.files;
@@ -100,7 +142,8 @@ bool make_contents(const TreePlan& plan) {
 
 bool make_tree(const TreePlan& plan) {
   const std::string mark = plan.folder + "/made";
-  const std::string made = std::to_string(plan.files) + " " + std::to_string(plan.seed);
+  const std::string made = std::to_string(plan.files) + " " + std::to_string(plan.seed) + " " +
+                           std::to_string(static_cast<int>(plan.shape));
   std::string found;
   if (std::getline(std::ifstream(mark), found) && found == made) return true;
   if (mkdir(plan.folder.c_str(), 0755) != 0) return report(plan.folder);

@@ -9,10 +9,18 @@
 
 namespace quillvane::bench {
 
+enum class TreeShape {
+  kTree,     // as told above
+  kFlat,     // all files in one folder
+  kFolders,  // each file in a subfolder of its own, all of them in one folder
+  kDeep,     // the files spread over 100 folders, each in the one before
+};
+
 struct TreePlan {
   std::string folder;  // host path; made when missing
   std::uint32_t files = 0;
   std::uint32_t seed = 1;
+  TreeShape shape = TreeShape::kTree;
 };
 
 // Makes the tree unless it is there already, complete. Anything half made or of another size is

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdio>
+#include <utility>
 
 #include "bench/make_tree.h"
 
@@ -55,6 +56,22 @@ struct Results {
 
 }  // namespace
 
+namespace {
+
+bool read_shape(std::string_view text, TreeShape& shape) {
+  constexpr std::pair<std::string_view, TreeShape> kShapes[] = {{"tree", TreeShape::kTree},
+                                                                {"flat", TreeShape::kFlat},
+                                                                {"folders", TreeShape::kFolders},
+                                                                {"deep", TreeShape::kDeep}};
+  for (const auto& [name, named] : kShapes) {
+    if (text == name) shape = named;
+    if (text == name) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
 bool read_options(int count, char** words, Options& options) {
   for (int i = 1; i + 1 < count; i += 2) {
     const std::string_view name = words[i];
@@ -63,6 +80,7 @@ bool read_options(int count, char** words, Options& options) {
                       : name == "--threads" ? read_number(value, options.threads)
                       : name == "--pairs"   ? read_number(value, options.pairs)
                       : name == "--lists"   ? read_number(value, options.list_megabytes)
+                      : name == "--shape"   ? read_shape(value, options.shape)
                       : name == "--dir"     ? !(options.folder = value).empty()
                                             : false;
     if (!good) return false;
@@ -72,7 +90,9 @@ bool read_options(int count, char** words, Options& options) {
 
 bool have_tree(const Options& options) {
   const auto made = measure({.work = [&] {
-    return make_tree({options.folder, options.files}) ? std::size_t{options.files} : 0;
+    return make_tree({options.folder, options.files, /*seed=*/1, options.shape})
+               ? std::size_t{options.files}
+               : 0;
   }});
   return made && made->files == options.files;
 }

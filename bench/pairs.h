@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "bench/make_tree.h"
 #include "bench/measured_run.h"
 
 namespace quillvane::bench {
@@ -17,10 +18,12 @@ struct Options {
   std::string folder;  // gets the tree when it is not there yet, and is left to whoever named it
   std::uint32_t threads = 1;
   std::uint32_t pairs = 9;
+  TreeShape shape = TreeShape::kTree;
   std::uint32_t list_megabytes = 0;  // length of the ignore list and of the pending queue
 };
 
-// --dir DIR, --files N, --threads N, --pairs N, --lists MB. False when the words are off.
+// --dir DIR, --files N, --threads N, --pairs N, --lists MB, --shape tree|flat|folders|deep. False
+// when the words are off.
 [[nodiscard]] bool read_options(int count, char** words, Options& options);
 
 // Makes the tree unless it is there. In a process of its own too: memory that this one has had

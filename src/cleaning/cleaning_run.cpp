@@ -1,7 +1,6 @@
 // The cleaning run: every row of the hit list goes, whatever its tick. A file that stays is queued
 // for the next restart.
 #include <string>
-#include <vector>
 
 #include "categories/url_cache_rows.h"
 #include "cleaning/deletion.h"
@@ -18,9 +17,6 @@ namespace {
 constexpr const char* kQuestion = "Are You sure you want to delete the selected file(s)";
 constexpr const char* kQueuedMessage =
     "Some files cannot be deleted now, They will be deleted next time when you restart your PC.";
-
-// Rows that are told ahead at a time. The files that follow are looked at while these go.
-constexpr int kRowsTold = 64;
 
 // The bin's name at the very beginning of a path does not count.
 bool lies_in_recycle_bin(std::string_view path) {
@@ -65,16 +61,6 @@ bool Form7::remove_row(const std::string& row_text) {
   return true;
 }
 
-// Tells the machine's files what is coming, one portion ahead of the rows in hand.
-void Form7::expect_removals(int first_row) {
-  const int rows = first_row == 1 ? 2 * kRowsTold : kRowsTold;
-  std::vector<std::string> paths;
-  for (int row = first_row; row < first_row + rows && row <= view1.count(); ++row) {
-    paths.push_back(view1.text(row));
-  }
-  if (!paths.empty()) platform().files.expect_removals(paths);
-}
-
 // Each handled row leaves the list, whatever came of it. Answers how many were queued.
 int Form7::remove_all_rows() {
   int queued = 0;
@@ -82,7 +68,6 @@ int Form7::remove_all_rows() {
   bar3.set_range(0, total + 2);
   bar3.show();
   for (int progress = 0; progress < total && view1.count() > 0; ++progress) {
-    if (progress % kRowsTold == 0) expect_removals(progress == 0 ? 1 : 1 + kRowsTold);
     const std::string path = view1.text(1);
     if (remove_row(path)) ++queued;
     Text13.set_text("Removing : " + path);

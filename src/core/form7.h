@@ -287,7 +287,6 @@ class Form7 final : public Window {
   void promise_restart();
   void count_in_statistics();
   void finish_cleaning();  // what follows when every row was handled
-  void expect_removals(int first_row);
 
   // window_commands.cpp
   [[nodiscard]] int row_in_hand() const;

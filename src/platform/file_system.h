@@ -114,10 +114,6 @@ class FileSystem {
   // Makes one folder; false when it cannot be made or is there already.
   [[nodiscard]] virtual bool make_folder(const std::string& path) = 0;
 
-  // A hint: these files will be removed soon, one by one and in this order. Changes nothing; what
-  // is known ahead may be looked up ahead.
-  virtual void expect_removals(const std::vector<std::string>& paths) { static_cast<void>(paths); }
-
   // Removes one file. Never removes a folder.
   [[nodiscard]] virtual RemoveResult remove_file(const std::string& path) = 0;
 };

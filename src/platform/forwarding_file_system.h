@@ -53,9 +53,6 @@ class ForwardingFileSystem : public FileSystem {
   [[nodiscard]] bool make_folder(const std::string& path) override {
     return next_.make_folder(path);
   }
-  void expect_removals(const std::vector<std::string>& paths) override {
-    next_.expect_removals(paths);
-  }
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override {
     return next_.remove_file(path);
   }

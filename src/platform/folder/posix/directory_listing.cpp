@@ -1,15 +1,13 @@
 #include "platform/folder/posix/directory_listing.h"
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <optional>
 
-#include "platform/folder/posix/descriptor.h"
 #include "platform/folder/posix/host_status.h"
-#include "platform/unicode_case.h"
 
 namespace quillvane {
 
@@ -77,22 +75,6 @@ void DirectoryListing::add_entries(int folder, std::size_t begin, std::size_t en
     has_links_ |= *kind == Kind::kLink;
     add_entry(name, *kind);
   }
-}
-
-std::optional<std::string> stored_name(int folder, const std::string& name) {
-  HostStatus status;
-  if (read_status(folder, name.c_str(), status)) return name;
-  const int error = errno;
-  const Descriptor readable(openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  DirectoryListing listing;
-  if (!readable.is_open() || !listing.read(readable.number())) return std::nullopt;
-  std::optional<std::string> found;
-  for (const auto& entry : listing.entries()) {
-    const std::string_view stored = listing.name(entry);
-    if (same_name(stored, name) && (!found || stored < *found)) found = stored;
-  }
-  errno = error;
-  return found;
 }
 
 }  // namespace quillvane

@@ -5,8 +5,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
-#include <string>
 
 #include "platform/folder/name_listing.h"
 
@@ -33,10 +31,5 @@ class DirectoryListing final : public NameListing {
 
   bool has_links_ = false;
 };
-
-// The name as stored, for a name in any case: itself when an entry is named exactly so, otherwise
-// the first in the order of the listing that differs only by case. Nothing when there is none or
-// when that cannot be told; errno has the reason.
-[[nodiscard]] std::optional<std::string> stored_name(int folder, const std::string& name);
 
 }  // namespace quillvane

@@ -133,15 +133,4 @@ TEST_F(DirectoryListingTest, TellsThatAFolderCannotBeRead) {
   EXPECT_TRUE(listing.entries().empty());
 }
 
-TEST_F(DirectoryListingTest, FindsTheStoredNameForANameInAnyCase) {
-  for (const char* name : {"Report.TXT", "temp", "Temp", "\xC3\x84rger"}) host.write(name);
-  const Descriptor folder = open_folder(host.path());
-  EXPECT_EQ(stored_name(folder.number(), "report.txt"), "Report.TXT");
-  EXPECT_EQ(stored_name(folder.number(), "\xC3\xA4RGER"), "\xC3\x84rger");
-  // An exact match wins; without one the first of the listing does.
-  EXPECT_EQ(stored_name(folder.number(), "temp"), "temp");
-  EXPECT_EQ(stored_name(folder.number(), "TEMP"), "Temp");
-  EXPECT_EQ(stored_name(folder.number(), "missing"), std::nullopt);
-}
-
 }  // namespace quillvane

@@ -14,7 +14,6 @@
 #include <memory>
 
 #include "platform/file_system.h"
-#include "platform/folder/posix/directory_listing.h"
 #include "platform/folder/posix/ntfs_disk.h"
 
 namespace quillvane {
@@ -48,15 +47,6 @@ void push_names(std::string_view path, std::vector<std::string>& still_to_go) {
     if (begin < path.size()) still_to_go.emplace_back(path.substr(begin));
     path = path.substr(0, begin == 0 ? 0 : slash);
   }
-}
-
-std::string joined(std::span<const std::string> names) {
-  std::string path;
-  for (const std::string& name : names) {
-    if (!path.empty()) path += '/';
-    path += name;
-  }
-  return path;
 }
 
 std::string without_links(const std::string& host_folder) {
@@ -132,7 +122,7 @@ class DriveFolder::Way {
 
   bool down(const std::string& name) {
     if (!is_folder(here_.status)) return leads_nowhere();
-    auto stored = stored_name(here_.object.number(), name);
+    auto stored = stored_name(here_.object.number(), name, *drive_.names_);
     if (!stored) return false;
     HostEntry entry{std::move(here_), std::move(*stored)};
     auto next = open_entry(entry);
@@ -171,11 +161,13 @@ class DriveFolder::Way {
   int links_ = 0;
 };
 
-DriveFolder::DriveFolder(const std::string& host_folder, char letter)
+DriveFolder::DriveFolder(const std::string& host_folder, char letter,
+                         std::shared_ptr<NameIndex> names)
     : host_folder_(host_folder),
       letter_(letter),
       folder_(open(host_folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC)),
-      error_(folder_.is_open() ? 0 : errno) {
+      error_(folder_.is_open() ? 0 : errno),
+      names_(std::move(names)) {
   if (folder_.is_open() && read_status(folder_.number(), status_)) {
     on_ntfs_ = lies_on_ntfs(folder_.number());
   }
@@ -211,8 +203,8 @@ std::optional<HostPlace> DriveFolder::find_stored(const std::string& path) const
   return place;
 }
 
-std::optional<HostPlace> DriveFolder::find_as_spelt(std::span<const std::string> names) const {
-  const std::string path = joined(names);
+std::optional<HostPlace> DriveFolder::find_as_stored(const std::string& path) const {
+  if (path.empty()) return root();
   HostPlace place{path, open_at_once(folder_.number(), path), {}};
   if (!place.object.is_open() || !read_status(place.object.number(), place.status)) {
     return std::nullopt;
@@ -224,7 +216,8 @@ std::optional<HostPlace> DriveFolder::find_as_spelt(std::span<const std::string>
 
 std::optional<HostPlace> DriveFolder::find(std::span<const std::string> names) const {
   if (names.empty()) return root();
-  if (auto place = find_as_spelt(names)) return place;
+  // Most paths are spelt as stored.
+  if (auto place = find_as_stored(joined_names(names))) return place;
   // What is missing or spelt otherwise mostly is so in its last name only.
   auto folder = find(names.first(names.size() - 1));
   if (!folder) return std::nullopt;
@@ -236,7 +229,7 @@ std::optional<HostEntry> DriveFolder::find_entry(std::span<const std::string> na
   auto folder = find(names.first(names.size() - 1));
   if (!folder) return std::nullopt;
   if (!is_folder(folder->status)) return missing();
-  auto name = stored_name(folder->object.number(), names.back());
+  auto name = stored_name(folder->object.number(), names.back(), *names_);
   if (!name) return std::nullopt;
   return HostEntry{std::move(*folder), std::move(*name)};
 }
@@ -255,6 +248,15 @@ std::optional<HostPlace> DriveFolder::follow(const std::string& path,
   auto start = find_stored(path);
   if (!start) return std::nullopt;
   return Way(*this, std::move(*start)).go({name});
+}
+
+std::string joined_names(std::span<const std::string> names) {
+  std::string path;
+  for (const std::string& name : names) {
+    if (!path.empty()) path += '/';
+    path += name;
+  }
+  return path;
 }
 
 std::optional<HostPlace> open_entry(const HostEntry& entry) {

@@ -7,6 +7,7 @@
 // Where nothing is found errno has the reason: one that means_missing, or why it cannot be told.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -15,6 +16,7 @@
 
 #include "platform/folder/posix/descriptor.h"
 #include "platform/folder/posix/host_status.h"
+#include "platform/folder/posix/name_index.h"
 
 namespace quillvane {
 
@@ -37,8 +39,10 @@ class DriveFolder {
  public:
   // A folder that cannot be opened is a drive on which nothing is found.
   // `letter` is the drive's, in upper case: links on an NTFS disk lead to letters. One that leads
-  // to another drive leads nowhere.
-  explicit DriveFolder(const std::string& host_folder, char letter = 0);
+  // to another drive leads nowhere. Drives may share the index by which names of another case are
+  // found; without one it has its own.
+  explicit DriveFolder(const std::string& host_folder, char letter = 0,
+                       std::shared_ptr<NameIndex> names = std::make_shared<NameIndex>());
 
   // Whether its folder lies on a mounted NTFS disk.
   [[nodiscard]] bool is_on_ntfs() const { return on_ntfs_; }
@@ -52,6 +56,10 @@ class DriveFolder {
   // The entry by which a place is stored. Nothing for the drive itself.
   [[nodiscard]] std::optional<HostEntry> entry_of(const HostPlace& place) const;
 
+  // What lies at a path spelt as HostPlace::path has it, no link and reached through none, in one
+  // step; "" is the drive. Nothing also means: look closer.
+  [[nodiscard]] std::optional<HostPlace> find_as_stored(const std::string& path) const;
+
   // Where the stored name `name` of the folder at `path` leads, a path as HostPlace has it.
   [[nodiscard]] std::optional<HostPlace> follow(const std::string& path,
                                                 const std::string& name) const;
@@ -62,8 +70,6 @@ class DriveFolder {
   [[nodiscard]] std::optional<HostPlace> root() const;
   // Goes straight down stored names, none of them a link.
   [[nodiscard]] std::optional<HostPlace> find_stored(const std::string& path) const;
-  // The same in one step; most paths are spelt as stored. Nothing also means: look closer.
-  [[nodiscard]] std::optional<HostPlace> find_as_spelt(std::span<const std::string> names) const;
 
   // What the host alone does not tell of a place that was just opened.
   void settle(HostPlace& place) const;
@@ -74,7 +80,11 @@ class DriveFolder {
   int error_;  // why it is not open
   HostStatus status_{};
   bool on_ntfs_ = false;
+  std::shared_ptr<NameIndex> names_;
 };
+
+// The names as a path below the drive.
+[[nodiscard]] std::string joined_names(std::span<const std::string> names);
 
 // What bears the name: a link itself and not where it leads. Nothing when it is gone.
 [[nodiscard]] std::optional<HostPlace> open_entry(const HostEntry& entry);

@@ -1,7 +1,9 @@
 #include "platform/folder/posix/file_attributes.h"
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
 #include <array>
 #include <cerrno>
@@ -32,6 +34,24 @@ std::optional<std::string> stored_text(const std::string& path, decltype(&getxat
   const ssize_t length = read(path.c_str(), kName, text.data(), text.size());
   if (length < 0) return std::nullopt;
   return std::string(text.data(), static_cast<std::size_t>(length));
+}
+
+// The same of what bears the name in an open folder, in one step where the kernel has one (6.13 and
+// later).
+std::optional<std::string> stored_text(const HostPlace& folder, const std::string& name) {
+  struct Arguments {  // as the kernel defines them
+    std::uint64_t value;
+    std::uint32_t size;
+    std::uint32_t flags;
+  };
+  constexpr long kGetxattrat = 464;
+  std::array<char, 256> text;
+  Arguments arguments{reinterpret_cast<std::uintptr_t>(text.data()), text.size(), 0};
+  const long length = syscall(kGetxattrat, folder.object.number(), name.c_str(),
+                              AT_SYMLINK_NOFOLLOW, kName, &arguments, sizeof arguments);
+  if (length >= 0) return std::string(text.data(), static_cast<std::size_t>(length));
+  if (errno != ENOSYS && errno != EPERM) return std::nullopt;
+  return stored_text(path_of(folder) + "/" + name, lgetxattr);
 }
 
 // The number at the front; other programs may put more behind it.
@@ -92,7 +112,7 @@ std::uint32_t read_file_attributes(const HostPlace& folder, const std::string& n
   if (folder.on_ntfs) {
     return ntfs_attributes_of(status, NtfsObject(folder.object.number(), name));
   }
-  return attributes_of(status, stored_text(path_of(folder) + "/" + name, lgetxattr));
+  return attributes_of(status, stored_text(folder, name));
 }
 
 bool write_file_attributes(const HostPlace& place, std::uint32_t bits) {

@@ -8,7 +8,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <span>
-#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -60,40 +59,6 @@ RemoveResult remove_name(int folder, const std::string& name) {
 }
 
 bool is_read_only(std::uint32_t attributes) { return (attributes & kAttributeReadOnly) != 0; }
-
-// Whether the name stands for nothing but itself in a path.
-bool is_plain_name(std::string_view name) {
-  return !name.empty() && name != "." && name != ".." && name.find('/') == std::string_view::npos;
-}
-
-// Finds the folders of paths; neighbours share theirs, and all on a drive share the drive.
-class LookedAtFolders {
- public:
-  explicit LookedAtFolders(const MachinePaths& paths) : paths_(paths) {}
-
-  // `text` ends in a backslash and outlives this object. Null when it is no path.
-  const std::shared_ptr<const LookedAtFolder>& find(std::string_view text) {
-    if (text == text_) return folder_;
-    text_ = text;
-    folder_.reset();
-    auto parsed = paths_.parse(text);
-    if (!parsed) return folder_;
-    if (!drive_ || letter_ != parsed->drive) {
-      letter_ = parsed->drive;
-      drive_ = std::make_shared<const DriveFolder>(paths_.drive(letter_));
-    }
-    folder_ =
-        std::make_shared<const LookedAtFolder>(LookedAtFolder{drive_, std::move(parsed->names)});
-    return folder_;
-  }
-
- private:
-  const MachinePaths& paths_;
-  std::string_view text_;
-  std::shared_ptr<const LookedAtFolder> folder_;
-  char letter_ = 0;
-  std::shared_ptr<const DriveFolder> drive_;
-};
 
 // A name that is there, and what stands under it.
 struct FoundFile {
@@ -188,7 +153,6 @@ std::optional<std::uint32_t> FolderFileSystem::attributes(const std::string& pat
 }
 
 bool FolderFileSystem::set_attributes(const std::string& path, std::uint32_t bits) {
-  forget_seen();
   const auto found = find_named(paths_, path);
   if (!found || found->file.is_link()) return false;
   if (paths_.is_in_use(HostIdentity::of(found->file.named.status))) return false;
@@ -219,7 +183,6 @@ bool FolderFileSystem::write_file(const std::string& path, std::string_view cont
 }
 
 bool FolderFileSystem::put_file(const std::string& path, const FillFile& fill) {
-  forget_seen();
   const auto found = find_named(paths_, path);
   if (!found) return write_new_file(paths_, path, fill);
   const HostPlace& old = found->file.place();
@@ -236,7 +199,6 @@ bool FolderFileSystem::can_open(const std::string& path) const {
 }
 
 bool FolderFileSystem::rename_file(const std::string& from, const std::string& to) {
-  forget_seen();
   const auto found = find_named(paths_, from);
   if (!found || !is_file(found->file.place().status)) return false;
   if (paths_.is_in_use(HostIdentity::of(found->file.place().status))) return false;
@@ -262,50 +224,40 @@ bool FolderFileSystem::copy_file(const std::string& from, const std::string& to)
 }
 
 bool FolderFileSystem::make_folder(const std::string& path) {
-  forget_seen();
   const auto entry = free_name(paths_, path);
   return entry && mkdirat(entry->folder.object.number(), entry->name.c_str(), 0777) == 0;
 }
 
 void FolderFileSystem::remove_contents(const std::string& folder) {
-  forget_seen();
   const auto place = paths_.find(folder);
   if (!place || !is_folder(place->status)) return;
   remove_folder_contents(*place,
                          [this](const HostIdentity& file) { return paths_.is_in_use(file); });
 }
 
-void FolderFileSystem::expect_removals(const std::vector<std::string>& paths) {
-  std::vector<RemovalAhead::Expected> files;
-  files.reserve(paths.size());
-  LookedAtFolders folders(paths_);
-  for (const std::string& path : paths) {
-    const std::size_t name = path.rfind('\\') + 1;
-    if (!is_plain_name(std::string_view(path).substr(name)) || !fits_path_limit(path)) continue;
-    const auto& folder = folders.find(std::string_view(path).substr(0, name));
-    if (folder) files.push_back({path, folder, path.substr(name)});
-  }
-  try {
-    if (!ahead_) ahead_ = std::make_unique<RemovalAhead>();
-    ahead_->expect(std::move(files));
-  } catch (const std::system_error&) {
-    // The host gives no thread; each file is looked at when it is removed.
-  }
-}
-
+// What is known of the file is asked for at this moment, by the handle of its folder.
 RemoveResult FolderFileSystem::remove_file(const std::string& path) {
   removed_path_.clear();
-  auto seen = ahead_ ? ahead_->take(path) : std::nullopt;
-  return seen ? remove_seen(path, std::move(*seen)) : remove_looking(path);
+  if (const HostPlace* folder = in_hand_.folder_of(path)) {
+    const std::string name = FolderInHand::name_in(path);
+    HostStatus status;
+    if (read_status(folder->object.number(), name.c_str(), status) && is_file(status)) {
+      return remove_in_hand(path, *folder, name, status);
+    }
+  }
+  return remove_looking(path);
 }
 
-RemoveResult FolderFileSystem::remove_seen(const std::string& path, SeenFile file) {
-  if (paths_.is_in_use(HostIdentity::of(file.status))) return RemoveResult::kInUse;
-  if (is_read_only(file.attributes)) return RemoveResult::kDenied;
-  const RemoveResult result = remove_name(file.folder->object.number(), file.name);
+RemoveResult FolderFileSystem::remove_in_hand(const std::string& path, const HostPlace& folder,
+                                              const std::string& name, const HostStatus& status) {
+  if (paths_.is_in_use(HostIdentity::of(status))) return RemoveResult::kInUse;
+  if (is_read_only(read_file_attributes(folder, name, status))) return RemoveResult::kDenied;
+  paths_.names().forget_if_twin(folder.object.number(), name, name);
+  const NameIndex::State before = paths_.names().state();
+  const RemoveResult result = remove_name(folder.object.number(), name);
   if (result == RemoveResult::kRemoved) {
     removed_path_ = path;
-    removed_ = std::move(file);
+    removed_since_ = before;
   }
   return result;
 }
@@ -317,20 +269,15 @@ RemoveResult FolderFileSystem::remove_looking(const std::string& path) {
   if (!is_file(status)) return RemoveResult::kDenied;
   if (paths_.is_in_use(HostIdentity::of(status))) return RemoveResult::kInUse;
   if (is_read_only(found->file.attributes())) return RemoveResult::kDenied;
-  return remove_name(found->entry.folder.object.number(), found->entry.name);
+  const int folder = found->entry.folder.object.number();
+  paths_.names().forget_if_twin(folder, found->entry.name, FolderInHand::name_in(path));
+  return remove_name(folder, found->entry.name);
 }
 
+// Nothing has come to any watched folder since, nor has one been moved.
 bool FolderFileSystem::is_just_removed(const std::string& path) const {
-  if (removed_path_.empty() || path != removed_path_ || !removed_.only_name) return false;
-  if (!is_fresh(removed_)) return false;
-  HostStatus status;
-  return !read_status(removed_.folder->object.number(), removed_.name.c_str(), status) &&
-         errno == ENOENT;
-}
-
-void FolderFileSystem::forget_seen() {
-  removed_path_.clear();
-  if (ahead_) ahead_->forget();
+  return !removed_path_.empty() && path == removed_path_ &&
+         paths_.names().state() == removed_since_;
 }
 
 std::unique_ptr<MachineFiles> make_machine_files(const MachineState& machine) {

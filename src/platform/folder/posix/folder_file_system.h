@@ -11,9 +11,8 @@
 #include "platform/folder/machine_files.h"
 #include "platform/folder/machine_state.h"
 #include "platform/folder/posix/drive_file.h"
+#include "platform/folder/posix/folder_in_hand.h"
 #include "platform/folder/posix/machine_paths.h"
-#include "platform/folder/posix/removal_ahead.h"
-#include "platform/folder/posix/seen_file.h"
 
 namespace quillvane {
 
@@ -40,25 +39,23 @@ class FolderFileSystem final : public MachineFiles {
   // The copy has the attributes and the time of the last writing too.
   [[nodiscard]] bool copy_file(const std::string& from, const std::string& to) override;
   [[nodiscard]] bool make_folder(const std::string& path) override;
-  void expect_removals(const std::vector<std::string>& paths) override;
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override;
   void remove_contents(const std::string& folder) override;
 
  private:
   // Puts a file at the path or in the place of the one that is there.
   [[nodiscard]] bool put_file(const std::string& path, const FillFile& fill);
-  [[nodiscard]] RemoveResult remove_seen(const std::string& path, SeenFile file);
+  [[nodiscard]] RemoveResult remove_in_hand(const std::string& path, const HostPlace& folder,
+                                            const std::string& name, const HostStatus& status);
   [[nodiscard]] RemoveResult remove_looking(const std::string& path);
-  // Whether it is the file that was removed last and nothing has come in its place.
+  // Whether it is the file that was removed last and nothing can have come in its place.
   [[nodiscard]] bool is_just_removed(const std::string& path) const;
-  // Before anything else changes on the drives.
-  void forget_seen();
 
   MachinePaths paths_;
   unsigned reading_threads_;
-  std::unique_ptr<RemovalAhead> ahead_;  // from the first expected removal on
-  std::string removed_path_;             // "" when it is not known
-  SeenFile removed_;
+  FolderInHand in_hand_{paths_};
+  std::string removed_path_;  // "" when it is not known
+  NameIndex::State removed_since_;
 };
 
 }  // namespace quillvane

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 
 #include <cerrno>
+#include <compare>
 #include <cstdint>
 #include <optional>
 
@@ -68,7 +69,7 @@ struct HostIdentity {
   [[nodiscard]] FolderIdentity key() const {
     return {std::uint64_t{device_major} << 32U | device_minor, inode};
   }
-  friend bool operator==(const HostIdentity&, const HostIdentity&) = default;
+  friend auto operator<=>(const HostIdentity&, const HostIdentity&) = default;
 };
 
 [[nodiscard]] inline FileTime file_time(const statx_timestamp& time) {

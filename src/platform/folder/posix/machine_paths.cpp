@@ -10,8 +10,12 @@ std::optional<WindowsPath> MachinePaths::parse(std::string_view text) const {
   return parse_machine_path(machine_, text);
 }
 
+std::string MachinePaths::host_folder(char letter) const {
+  return drive_host_folder(machine_, letter);
+}
+
 DriveFolder MachinePaths::drive(char letter) const {
-  return DriveFolder(drive_host_folder(machine_, letter), letter);
+  return DriveFolder(host_folder(letter), letter, names_);
 }
 
 std::optional<HostPlace> MachinePaths::find(std::string_view path) const {

@@ -153,8 +153,8 @@ TEST_F(DemoMachine, HasAnIgnoredFolderACustomEntryAndAQueuedFile) {
   const std::string program = machine_->state().program_folder;
   EXPECT_EQ(files.read_file(program + "\\custom.tdw"), "Old backups|D:\\Backup|*.tmp,*.bak||1\r\n");
   const auto ignored = files.read_file(program + "\\ignore.tdw");
-  ASSERT_TRUE(ignored.has_value());
-  EXPECT_FALSE(files.list_folder(ignored->substr(0, ignored->size() - 2), "*.*").empty());
+  ASSERT_TRUE(ignored);
+  EXPECT_FALSE(files.list_folder((*ignored).substr(0, (*ignored).size() - 2), "*.*").empty());
 
   const auto queue = machine_->registry().value(
       Hive::kLocalMachine, "SYSTEM\\CurrentControlSet\\Control\\Session Manager",

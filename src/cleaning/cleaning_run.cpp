@@ -41,17 +41,18 @@ bool remove_row(JunkPage& page, PendingQueue& pending, const std::string& row_te
 }
 
 // Each handled row leaves the list, whatever came of it. Answers how many were queued.
-int remove_all_rows(JunkPage& page, PendingQueue& pending) {
+int remove_all_rows(JunkPage& page, CleaningState& state) {
   int queued = 0;
   const int total = page.view1.count();
   page.bar3.set_range(0, total + 2);
   page.bar3.show();
   for (int progress = 0; progress < total && page.view1.count() > 0; ++progress) {
     const std::string path = page.view1.text(1);
-    if (remove_row(page, pending, path)) ++queued;
+    if (remove_row(page, state.pending, path)) ++queued;
     page.Text13.set_text("Removing : " + path);
     page.Text13.set_text(path);
     page.view1.remove(1);
+    if (state.observer != nullptr) state.observer->row_done(path);
     page.bar3.set_value(progress);
     page.session.do_events();
     if (page.session.cleaning_ended()) break;
@@ -100,13 +101,15 @@ void run_cleaning(JunkPage& page, CleaningState& state) {
   page.Label11.set_caption("Removing selected files please wait..");
   state.thumbnails.disablethumbcache();
   page.Text3.show();
+  if (state.observer != nullptr) state.observer->cleaning_begins(page.view1.count());
   pndtxt(page);
-  const int queued = remove_all_rows(page, state.pending);
+  const int queued = remove_all_rows(page, state);
   state.last_cleaning.queued = queued;
   if (queued > 0 && session.forceclean == 0 && session.suitemode == 0) promise_restart(page, state);
   page.bar3.hide();
   state.thumbnails.enablethumbcache();
   page.Text3.hide();
+  if (state.observer != nullptr) state.observer->cleaning_ends();
   if (!session.cleaning_ended()) finish_cleaning(page);
   page.Gif89a2.hide();
   if (session.forceclean == 1) page.session.end();

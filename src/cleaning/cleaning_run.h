@@ -2,6 +2,8 @@
 // for the next restart.
 #pragma once
 
+#include <string>
+
 #include "cleaning/pending_queue.h"
 #include "cleaning/restart_queue_result.h"
 #include "cleaning/thumbnail_policy.h"
@@ -10,6 +12,19 @@ namespace quillvane {
 
 class JunkPage;
 
+// Looks on at a run that has rows to remove.
+class CleaningObserver {
+ public:
+  virtual ~CleaningObserver() = default;
+
+  // Nothing was removed or queued yet.
+  virtual void cleaning_begins(int rows) = 0;
+  // The row of this path is done with, whatever came of its file.
+  virtual void row_done(const std::string& path) = 0;
+  // The queue is written, and the thumbnail policy set back.
+  virtual void cleaning_ends() = 0;
+};
+
 // What a cleaning keeps from one run to the next.
 struct CleaningState {
   explicit CleaningState(const Platform& platform) : pending(platform), thumbnails(platform) {}
@@ -17,6 +32,8 @@ struct CleaningState {
   PendingQueue pending;              // mirror of the queue of the next restart
   ThumbnailPolicy thumbnails;        // off while files are removed
   RestartQueueResult last_cleaning;  // of the last run behind orvbutton2
+
+  CleaningObserver* observer = nullptr;  // told of each run; must outlive it
 };
 
 // The title of the question before a run, by which a view that answers in advance knows it.

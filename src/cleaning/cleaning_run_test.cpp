@@ -42,6 +42,42 @@ TEST(CleaningRun, ARecycleBinBehindTheFirstLetterIsTheBin) {
   EXPECT_EQ(count_of(fixture.machine.effects().take(), "empty-recycle-bin"), 1);
 }
 
+// Writes down what it is told.
+class NotedCleaning final : public CleaningObserver {
+ public:
+  void cleaning_begins(int rows) override { told += "begins " + std::to_string(rows) + "\n"; }
+  void row_done(const std::string& path) override { told += path + "\n"; }
+  void cleaning_ends() override { told += "ends\n"; }
+
+  std::string told;
+};
+
+TEST(CleaningRun, TellsWhoLooksOnOfEachRow) {
+  ScanFixture fixture;
+  fixture.machine.add_file("C:\\Windows\\Temp\\a.tmp", 5);
+  Form7& form = fixture.start();
+  add_hit(form.view1, "C:\\Windows\\Temp\\a.tmp", 2);
+  add_hit(form.view1, "C:\\Windows\\Temp\\missing.tmp", 2);
+  NotedCleaning noted;
+  form.observer = &noted;
+
+  form.orvbutton2.click();
+
+  EXPECT_EQ(noted.told,
+            "begins 2\nC:\\Windows\\Temp\\a.tmp\nC:\\Windows\\Temp\\missing.tmp\nends\n");
+}
+
+TEST(CleaningRun, OfAnEmptyListNobodyIsTold) {
+  ScanFixture fixture;
+  Form7& form = fixture.start();
+  NotedCleaning noted;
+  form.observer = &noted;
+
+  form.orvbutton2.click();
+
+  EXPECT_EQ(noted.told, "");
+}
+
 TEST(CleaningRun, AQueueThatCannotBeWrittenIsPromisedAllTheSame) {
   ScanFixture fixture;
   MemoryRegistry registry;

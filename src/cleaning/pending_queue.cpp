@@ -18,14 +18,32 @@ void allow_access(const Platform& platform) {
   platform.security.set_key_access(Hive::kLocalMachine, kKey, platform.environment.get("UserName"));
 }
 
+RegistryRead<std::vector<std::string>> stored_texts(const Registry& registry) {
+  const auto value = registry.value(Hive::kLocalMachine, kKey, kValue);
+  if (value.failed()) return RegistryRead<std::vector<std::string>>::failure(value.problem());
+  if (!value || value->type != RegistryType::kMultiSz) return std::nullopt;
+  return multi_string_list(value->data);
+}
+
 }  // namespace
 
 RegistryRead<std::vector<std::string>> read_pending_value(const Platform& platform) {
   allow_access(platform);
-  const auto value = platform.registry.value(Hive::kLocalMachine, kKey, kValue);
-  if (value.failed()) return RegistryRead<std::vector<std::string>>::failure(value.problem());
-  if (!value || value->type != RegistryType::kMultiSz) return std::nullopt;
-  return multi_string_list(value->data);
+  return stored_texts(platform.registry);
+}
+
+std::set<std::string> removal_requests(const Registry& registry) {
+  const auto texts = stored_texts(registry);
+  if (!texts) return {};
+  std::set<std::string> requests;
+  for (std::size_t i = 0; i < texts->size(); i += 2) {
+    const std::string& source = (*texts)[i];
+    const bool removal = i + 1 == texts->size() || (*texts)[i + 1].empty();
+    if (removal && source.starts_with(kNativePrefix)) {
+      requests.insert(source.substr(kNativePrefix.size()));
+    }
+  }
+  return requests;
 }
 
 void pndtxt(JunkPage& page) {

@@ -2,6 +2,7 @@
 // of source and target, where an empty target means removal.
 #pragma once
 
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,10 @@ class JunkPage;
 // where a value of another type stands. Before it is read the account of the environment is given
 // access to the key.
 [[nodiscard]] RegistryRead<std::vector<std::string>> read_pending_value(const Platform& platform);
+
+// The files whose removal the value asks for: of each pair without a target the source. Empty where
+// the value cannot be read. Changes nothing, not even who has access.
+[[nodiscard]] std::set<std::string> removal_requests(const Registry& registry);
 
 // Reads the files queued for the restart into Text15, so that no scan lists them again. A queue
 // that cannot be read is told.

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -109,6 +110,20 @@ TEST_F(PendingQueueTest, GoesOnFromTheOldCountWhenNothingCanBeRead) {
   queue.loadpending();  // nothing was written, so there is no value
   queue.add("C:\\two");
   EXPECT_EQ(queue.PendingOperations(), (Texts{"\\??\\C:\\one", "", "\\??\\C:\\two", "", ""}));
+}
+
+TEST_F(PendingQueueTest, ARemovalIsASourceWithoutATarget) {
+  machine.set_registry_strings(
+      Hive::kLocalMachine, kKey, kValue,
+      {"\\??\\C:\\gone", "", "\\??\\C:\\moved", "\\??\\C:\\to", "C:\\odd", "", "\\??\\C:\\last"});
+  EXPECT_EQ(removal_requests(platform.registry), (std::set<std::string>{"C:\\gone", "C:\\last"}));
+  EXPECT_EQ(machine.effects().take().size(), 0U);
+}
+
+TEST_F(PendingQueueTest, WithoutAValueNoRemovalIsAskedFor) {
+  EXPECT_EQ(removal_requests(platform.registry), std::set<std::string>{});
+  machine.set_registry_text(Hive::kLocalMachine, kKey, kValue, "\\??\\C:\\one");
+  EXPECT_EQ(removal_requests(platform.registry), std::set<std::string>{});
 }
 
 TEST_F(PendingQueueTest, AsksForAccessToTheKeyEachTime) {

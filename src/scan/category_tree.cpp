@@ -61,6 +61,8 @@ void JunkPage::add_custom_nodes() {
   }
 }
 
+std::string caption_of(const std::string& node_text) { return part(Split(node_text, " ("), 0); }
+
 void JunkPage::append_result(int node, double files, double bytes) {
   const TreeNode* found = Tv1.find(node);
   if (found == nullptr) return;
@@ -81,7 +83,7 @@ NodeResult JunkPage::node_totals(int node) const {
 void JunkPage::reset_node_text(int node) {
   const TreeNode* found = Tv1.find(node);
   if (found == nullptr) return;
-  Tv1.set_text(node, part(Split(found->text, " ("), 0));
+  Tv1.set_text(node, caption_of(found->text));
 }
 
 void JunkPage::node_checked(int index) {

@@ -246,6 +246,13 @@ TEST(TreeTick, UntickingAGroupClearsWhatTickingItSets) {
   }
 }
 
+TEST(CategoryTree, ACaptionIsTheTextWithoutTheResultBehindIt) {
+  EXPECT_EQ(caption_of("Log Files"), "Log Files");
+  EXPECT_EQ(caption_of("Log Files ( 3 files, 1.8 KB )"), "Log Files");
+  EXPECT_EQ(caption_of("Log(s) ( 3 files, 1.8 KB ) ( 1 file, 2 B )"), "Log(s)");
+  EXPECT_EQ(caption_of(""), "");
+}
+
 TEST(TreeTick, AChildNeverChangesItsParent) {
   Ticked staged;
   staged.form().Tv1.tick_node(1, true);

@@ -26,6 +26,9 @@ inline constexpr Color kGreen = 32768;    // a category that is being scanned
 inline constexpr Color kDarkRed = 192;    // a category in which something was found
 inline constexpr Color kFoundMark = 128;  // Shape1 when the scan found something
 
+// The caption in the text of a tree's node, without the result that a scan writes behind it.
+[[nodiscard]] std::string caption_of(const std::string& node_text);
+
 class JunkPage : public virtual Page {
  public:
   JunkPage(Window& window, Session& session);

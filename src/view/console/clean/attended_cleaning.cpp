@@ -14,7 +14,7 @@ AttendedCleaning::AttendedCleaning(ConsoleIo& io, ConsoleMachine& machine)
         if (!watch.cleaning()) return;
         if (const auto registry = machine.another_registry()) enablethumbcache(*registry);
       }) {
-  attendance.on_window = [this](Form7& form) { watch.attach(form); };
+  attendance.on_window = [this](Form7& form) { form.observer = &watch; };
 }
 
 }  // namespace quillvane

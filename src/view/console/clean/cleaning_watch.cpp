@@ -1,22 +1,12 @@
 #include "view/console/clean/cleaning_watch.h"
 
 #include <algorithm>
-#include <string_view>
 #include <utility>
 
+#include "cleaning/pending_queue.h"
 #include "cleaning/permission.h"
-#include "platform/multi_string.h"
 
 namespace quillvane {
-
-namespace {
-
-// What the run shows of a row that it has done with.
-constexpr std::string_view kRowDone = "Removing : ";
-
-constexpr std::string_view kNativePrefix = "\\??\\";
-
-}  // namespace
 
 int CleaningResult::queued() const {
   return static_cast<int>(
@@ -28,27 +18,11 @@ int CleaningResult::failed() const { return static_cast<int>(left.size()) - queu
 CleaningWatch::CleaningWatch(const Platform& machine)
     : ForwardingFileSystem(machine.files), machine_(machine) {}
 
-void CleaningWatch::attach(JunkPage& page) {
-  page_ = &page;
-  page.Text3.observe(*this);
-  page.Text13.observe(*this);
-}
-
-// The line beside the animation is shown by a cleaning run alone.
-void CleaningWatch::changed(Control& control, Change what) {
-  if (what == Change::kVisible && &control == &page_->Text3) {
-    cleaning_ = control.visible();
-    if (control.visible()) begin();
-  }
-  if (what != Change::kText || &control != &page_->Text13 || !begun_) return;
-  const std::string& text = page_->Text13.text();
-  if (text.starts_with(kRowDone)) row_done(text.substr(kRowDone.size()));
-}
-
-void CleaningWatch::begin() {
+void CleaningWatch::cleaning_begins(int rows) {
+  cleaning_ = true;
   begun_ = true;
-  rows_ = page_->view1.count();
-  requests_before_ = requests();
+  rows_ = rows;
+  requests_before_ = removal_requests(machine_.registry);
 }
 
 void CleaningWatch::row_done(const std::string& path) {
@@ -56,22 +30,7 @@ void CleaningWatch::row_done(const std::string& path) {
   if (in_recycle_bin(path)) bin_files_.insert(path);
 }
 
-// The queue is a list of pairs; an empty target asks for the removal of the source.
-std::set<std::string> CleaningWatch::requests() const {
-  const auto value = machine_.registry.value(Hive::kLocalMachine,
-                                             "SYSTEM\\CurrentControlSet\\Control\\Session Manager",
-                                             "PendingFileRenameOperations");
-  if (!value || value->type != RegistryType::kMultiSz) return {};
-  const std::vector<std::string> texts = multi_string_list(value->data);
-  std::set<std::string> requests;
-  for (std::size_t i = 0; i < texts.size(); i += 2) {
-    const bool removal = i + 1 == texts.size() || texts[i + 1].empty();
-    if (removal && texts[i].starts_with(kNativePrefix)) {
-      requests.insert(texts[i].substr(kNativePrefix.size()));
-    }
-  }
-  return requests;
-}
+void CleaningWatch::cleaning_ends() { cleaning_ = false; }
 
 const char* CleaningWatch::reason(const std::string& path, RemoveResult result) const {
   if (result == RemoveResult::kInUse) return "another program has it open";
@@ -85,7 +44,7 @@ const char* CleaningWatch::reason(const std::string& path, RemoveResult result) 
 
 CleaningResult CleaningWatch::result() const {
   CleaningResult result{begun_, removed_, rows_ - rows_done_, {}};
-  const std::set<std::string> now = requests();
+  const std::set<std::string> now = removal_requests(machine_.registry);
   for (const auto& [path, removal] : stayed_) {
     const bool queued = now.contains(path) && !requests_before_.contains(path);
     result.left.push_back({path, queued, reason(path, removal)});

@@ -8,10 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "forms/control.h"
+#include "cleaning/cleaning_run.h"
 #include "platform/forwarding_file_system.h"
 #include "platform/platform.h"
-#include "scan/junk_page.h"
 
 namespace quillvane {
 
@@ -34,12 +33,9 @@ struct CleaningResult {
 
 // Stands between the program and the machine's files and notes what becomes of removals. All other
 // calls pass through.
-class CleaningWatch final : public ForwardingFileSystem, private ControlObserver {
+class CleaningWatch final : public ForwardingFileSystem, public CleaningObserver {
  public:
   explicit CleaningWatch(const Platform& machine);
-
-  // Looks on at the cleaning of this page, whose end this must outlive.
-  void attach(JunkPage& page);
 
   // Whether a cleaning is in progress. May be asked from another thread.
   [[nodiscard]] bool cleaning() const { return cleaning_; }
@@ -49,15 +45,14 @@ class CleaningWatch final : public ForwardingFileSystem, private ControlObserver
 
   [[nodiscard]] RemoveResult remove_file(const std::string& path) override;
 
+  void cleaning_begins(int rows) override;
+  void row_done(const std::string& path) override;
+  void cleaning_ends() override;
+
  private:
-  void changed(Control& control, Change what) override;
-  void begin();
-  void row_done(const std::string& path);
-  [[nodiscard]] std::set<std::string> requests() const;
   [[nodiscard]] const char* reason(const std::string& path, RemoveResult result) const;
 
   Platform machine_;
-  JunkPage* page_ = nullptr;
   std::atomic<bool> cleaning_ = false;
   bool begun_ = false;
   int rows_ = 0;       // of the list when the run began

@@ -4,13 +4,6 @@
 
 namespace quillvane {
 
-namespace {
-
-// What stands before the result that a scan writes behind a caption.
-constexpr std::string_view kResultBegin = " (";
-
-}  // namespace
-
 ScanReport read_report(const JunkPage& page) {
   ScanReport report{{page.totals.totalfiles, page.totals.totalsize},
                     page.Label11.caption(),
@@ -19,8 +12,7 @@ ScanReport read_report(const JunkPage& page) {
   for (int index = 1; index <= page.Tv1.count(); ++index) {
     const TreeNode& node = page.Tv1.node(index);
     report.categories.push_back({index, node.key, node.parent.empty(), node.text,
-                                 node.text.substr(0, node.text.find(kResultBegin)),
-                                 page.node_totals(index)});
+                                 caption_of(node.text), page.node_totals(index)});
   }
   return report;
 }

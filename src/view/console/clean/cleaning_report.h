@@ -12,7 +12,7 @@ enum class Outcome {
   kDone,
   kDeclined,   // the answer to the question was No
   kCancelled,  // Ctrl-C came before the last row was reached
-  kFailed,     // a file is still there and does not go at the restart either
+  kFailed,     // a file is still there and does not go at the restart either, or nothing was begun
 };
 
 // How a run that was begun, or had nothing to do, ended. `cancelled`: Ctrl-C came at some time.

@@ -29,6 +29,17 @@ Outcome outcome_of(const AttendedCleaning& cleaning, const CleaningResult& resul
   return outcome_of_run(result, cleaning.attendance.cancelled());
 }
 
+// Nothing is scanned and removed without the ignore list; the box of the start has said why.
+int refuse(const ConsoleSession& session, const Form7& form) {
+  if (session.json) {
+    std::ostream& out = session.io.out;
+    print_scan_json_open(out, read_report(form), session.list ? &form.view1 : nullptr);
+    print_cleaning_json(out, {}, Outcome::kFailed);
+    out << "}\n";
+  }
+  return kNotDone;
+}
+
 int clean(const ConsoleSession& session, const CleanOptions& options) {
   const std::unique_ptr<ConsoleMachine> machine = session.open_machine();
   if (machine == nullptr) return kNotDone;
@@ -39,7 +50,7 @@ int clean(const ConsoleSession& session, const CleanOptions& options) {
   cleaning.program.session.on_problem = session.problem_teller();
   cleaning.program.start("");
   Form7& form = cleaning.program.main_window();
-  if (!form.may_remove()) return kNotDone;  // the box of the start has said why
+  if (!form.may_remove()) return refuse(session, form);
   cleaning.attendance.run([&] { form.cmd_start.click(); });
   tell_skipped(io.err, form);
 

@@ -199,6 +199,32 @@ TEST(CleanCommand, AFileOnADiskForReadingAloneIsNotQueued) {
       << stage.out.str();
 }
 
+TEST(CleanCommand, WithoutItsIgnoreListFailsAndRemovesNothing) {
+  Stage stage;
+  stage.machine().add_folder("C:\\Program Files\\Tidewrack\\ignore.tdw");
+
+  EXPECT_EQ(stage.run({"clean", "--yes", "--json", "--list"}), 1);
+
+  EXPECT_TRUE(stage.has(kA) && stage.has(kB) && stage.has(kC));
+  const Json document = stage.document();
+  EXPECT_EQ(json_text(document["totals"]), R"j({"files":0,"bytes":0})j");
+  EXPECT_EQ(document["categories"].size(), 24U);
+  EXPECT_EQ(document["files"], Json::array());
+  EXPECT_EQ(json_text(document["cleaned"]), R"j({"removed":0,"queued":0,"failed":0})j");
+  EXPECT_EQ(document["left"], Json::array());
+  EXPECT_EQ(document["outcome"], "failed");
+  EXPECT_TRUE(stage.err.str().starts_with(
+      "quillvane: C:\\Program Files\\Tidewrack\\ignore.tdw: a folder has its name."))
+      << stage.err.str();
+}
+
+TEST(CleanCommand, WithoutItsIgnoreListPrintsNoTable) {
+  Stage stage;
+  stage.machine().add_folder("C:\\Program Files\\Tidewrack\\ignore.tdw");
+  EXPECT_EQ(stage.run({"clean", "--yes"}), 1);
+  EXPECT_EQ(stage.out.str(), "");
+}
+
 TEST(CleanCommand, CtrlCInTheScanRemovesNothing) {
   Stage stage;
   stage.interrupt_scan();

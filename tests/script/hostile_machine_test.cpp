@@ -102,6 +102,12 @@ TEST_F(HostileMachine, AFolderIsNeitherAScriptNorARegistryFile) {
   EXPECT_EQ(err(), "quillvane: machine: cannot be read\n");
 }
 
+// Nothing lies at the beginning of a process's memory, so that reading it fails.
+TEST_F(HostileMachine, AScriptThatCannotBeReadToItsEndIsAProblem) {
+  EXPECT_EQ(run("script /proc/self/mem --machine machine"), 1);
+  EXPECT_EQ(err(), "quillvane: line 1: cannot be read\n");
+}
+
 TEST_F(HostileMachine, AFileThatMayNotGrowIsAProblemLikeAFullDisk) {
   folder_.write("keys.reg", "Windows Registry Editor Version 5.00\n\n[HKEY_CURRENT_USER\\A]\n");
   EXPECT_EQ(run("registry import machine keys.reg", "ulimit -f 1"), 1);

@@ -17,7 +17,7 @@ bool ScriptReader::read_line(std::string& text) {
     if (c == '\n') return true;
     text.push_back(c);
   }
-  return !text.empty();
+  return !text.empty() && !source_.bad();
 }
 
 std::optional<ScriptLine> ScriptReader::next() {
@@ -31,6 +31,11 @@ std::optional<ScriptLine> ScriptReader::next() {
     return ScriptLine{number_, std::move(text)};
   }
   return std::nullopt;
+}
+
+std::optional<int> ScriptReader::unread_line() const {
+  if (!source_.bad()) return std::nullopt;
+  return number_ + 1;
 }
 
 }  // namespace quillvane

@@ -25,11 +25,15 @@ class ScriptReader {
   explicit ScriptReader(std::istream& source) : source_(source) {}
 
   // The next line that is neither blank nor a comment (its first character that isn't a blank is
-  // "#"); nothing at the end.
+  // "#"); nothing at the end, and where the source cannot be read.
   [[nodiscard]] std::optional<ScriptLine> next();
 
+  // The number of the line in which the source could not be read on, if it ended there. What was
+  // read of that line is no command.
+  [[nodiscard]] std::optional<int> unread_line() const;
+
  private:
-  // False behind the last line.
+  // False behind the last line that can be read.
   [[nodiscard]] bool read_line(std::string& text);
 
   std::istream& source_;

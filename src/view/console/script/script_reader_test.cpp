@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <istream>
 #include <sstream>
+#include <streambuf>
 #include <vector>
 
 namespace quillvane {
@@ -42,6 +44,41 @@ TEST(ScriptReader, OfALineWithoutEndReadsTheBeginning) {
   EXPECT_EQ(reader.next(), (ScriptLine{1, "ended"}));
 
   EXPECT_EQ(reader.next(), (ScriptLine{2, std::string(kLongestScriptLine + 1, '\0')}));
+}
+
+// A file on a disk that fails behind this text.
+class FailingFile final : public std::stringbuf {
+ public:
+  explicit FailingFile(const std::string& text) : std::stringbuf(text, std::ios::in) {}
+
+ protected:
+  int_type underflow() override {
+    const int_type next = std::stringbuf::underflow();
+    if (next == traits_type::eof()) throw std::ios_base::failure("the disk fails");
+    return next;
+  }
+};
+
+TEST(ScriptReader, WhereTheSourceFailsIsNoEndAndNoLine) {
+  for (const char* text : {"start\n# two\n", "start\n# two\nclick Form7.cmd_cl"}) {
+    FailingFile file(text);
+    std::istream source(&file);
+    ScriptReader reader(source);
+    EXPECT_EQ(reader.next(), (ScriptLine{1, "start"}));
+    EXPECT_EQ(reader.unread_line(), std::nullopt);
+
+    EXPECT_EQ(reader.next(), std::nullopt);
+
+    EXPECT_EQ(reader.unread_line(), 3);
+  }
+}
+
+TEST(ScriptReader, NothingIsUnreadAtTheEnd) {
+  std::istringstream source("start\n");
+  ScriptReader reader(source);
+  (void)reader.next();
+  EXPECT_EQ(reader.next(), std::nullopt);
+  EXPECT_EQ(reader.unread_line(), std::nullopt);
 }
 
 TEST(ScriptReader, AnEmptyScriptHasNoLines) { EXPECT_EQ(lines_of(""), Lines{}); }

@@ -38,7 +38,10 @@ std::optional<std::string> ScriptRunner::run() {
 void ScriptRunner::run_until(const std::function<bool()>& done) {
   while (!problem_ && out_ && !done()) {
     const auto line = reader_.next();
-    if (!line) return;
+    if (!line) {
+      if (const auto unread = reader_.unread_line()) fail(*unread, "cannot be read");
+      return;
+    }
     if (line->text.size() > kLongestScriptLine) return fail(line->number, "is too long");
     try {
       execute(line->number, split_words(line->text));

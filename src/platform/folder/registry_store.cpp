@@ -65,7 +65,9 @@ std::optional<std::string> FolderRegistry::connect() const {
   auto opened = SqliteDatabase::open(file_, SqliteDatabase::Missing::kFails, lock_wait_);
   if (const auto* reason = std::get_if<std::string>(&opened)) return "cannot be opened: " + *reason;
   auto& database = std::get<SqliteDatabase>(opened);
-  const auto content = inspect_store(database);
+  // Another program may be making it just now.
+  std::variant<StoreContent, std::string> content = StoreContent::kNothing;
+  database.at_one_moment([&] { content = inspect_store(database); });
   if (const auto* problem = std::get_if<std::string>(&content)) return *problem;
   if (std::get<StoreContent>(content) == StoreContent::kRegistry) database_ = std::move(database);
   return std::nullopt;

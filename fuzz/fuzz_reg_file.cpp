@@ -11,7 +11,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/folder/reg_file.h"
+#include "machine/reg_file.h"
 
 namespace {
 

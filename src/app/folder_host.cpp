@@ -3,10 +3,10 @@
 #include <utility>
 
 #include "app/folder_console_machine.h"
-#include "platform/folder/create_machine.h"
-#include "platform/folder/demo_machine.h"
+#include "machine/create_machine.h"
+#include "machine/demo_machine.h"
+#include "machine/reg_file.h"
 #include "platform/folder/drive_words.h"
-#include "platform/folder/reg_file.h"
 #include "platform/folder/registry_store.h"
 
 namespace quillvane {

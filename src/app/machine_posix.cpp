@@ -14,7 +14,7 @@
 
 #include "app/folder_host.h"
 #include "app/make_machine_host.h"
-#include "platform/folder/demo_folder.h"
+#include "machine/demo_folder.h"
 #include "platform/folder/posix/descriptor.h"
 
 namespace quillvane {

@@ -12,6 +12,7 @@
 //   lang
 //   controls
 //   forms
+//   machine
 //   support
 //   platform, and beside it platform/win32, platform/folder and platform/virtual
 //

@@ -14,8 +14,8 @@
 
 #include "core/form7.h"
 #include "core/program.h"
-#include "platform/folder/create_machine.h"
-#include "platform/folder/demo_machine.h"
+#include "machine/create_machine.h"
+#include "machine/demo_machine.h"
 #include "platform/folder/folder_machine.h"
 #include "platform/unicode_case.h"
 #include "platform/virtual/queued_dialogs.h"

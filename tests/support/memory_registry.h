@@ -46,9 +46,9 @@ class MemoryRegistry final : public Registry {
 
   [[nodiscard]] RegistryRead<std::vector<NamedRegistryValue>> values(
       Hive hive, const std::string& key, KeyAccess access = KeyAccess::kRead) const override {
-    using Answer = RegistryRead<std::vector<NamedRegistryValue>>;
+    using Read = RegistryRead<std::vector<NamedRegistryValue>>;
     accesses.push_back(access);
-    if (!unreadable.empty()) return Answer::failure(unreadable);
+    if (!unreadable.empty()) return Read::failure(unreadable);
     const auto found = keys_.find({hive, lower_case(key)});
     if (found == keys_.end()) return std::nullopt;
     return found->second;

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -18,5 +20,9 @@ namespace quillvane {
 // Makes the file hold exactly `content`: written beside and then put in place, so that a failure
 // at any point leaves the old file whole. Its permissions stay.
 [[nodiscard]] std::error_code replace_host_file(const std::string& path, std::string_view content);
+
+// How many names lead to what is there, a link itself and not where it leads; nothing when nothing
+// is there (any more) or it cannot be asked.
+[[nodiscard]] std::optional<std::uint64_t> host_link_count(const std::string& path);
 
 }  // namespace quillvane

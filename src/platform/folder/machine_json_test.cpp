@@ -269,15 +269,6 @@ TEST(MachineJson, DeepNestingIsNoDanger) {
   EXPECT_EQ(refusal(deep), "machine.json: is nested too deeply");
 }
 
-TEST(MachineJson, APipeOrADeviceIsNoDescription) {
-  const TempFolder folder;
-  folder.make_link("machine.json", "/dev/zero");
-  const auto result = load_machine_json(folder.path());
-  const auto* error = std::get_if<std::string>(&result);
-  ASSERT_NE(error, nullptr);
-  EXPECT_EQ(*error, "machine.json: cannot be read: is no file");
-}
-
 TEST(MachineJson, ADriveWhoseNamedFolderIsNotThereIsAMistake) {
   TempFolder folder;
   const auto refusal_of = [&folder](const char* drives) {

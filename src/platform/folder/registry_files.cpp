@@ -5,6 +5,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "platform/folder/host_file.h"
 #include "platform/folder/host_path.h"
 
 namespace quillvane {
@@ -37,7 +38,8 @@ std::optional<std::string> registry_files_problem(const std::string& file) {
     beside += part;
     const fs::file_status found = fs::symlink_status(beside, failed);
     if (!fs::exists(found)) continue;
-    if (!fs::is_regular_file(found) || fs::hard_link_count(beside, failed) != 1) {
+    // Another program that writes now may have taken its journal away in the meantime.
+    if (!fs::is_regular_file(found) || host_link_count(file + part).value_or(1) != 1) {
       return std::string(part) + " beside it is no file of its own";
     }
     if (ends_as_shared_journal(beside)) return std::string(part) + " beside it names other files";

@@ -65,7 +65,9 @@ std::optional<std::string> FolderRegistry::connect() const {
   auto opened = SqliteDatabase::open(file_, SqliteDatabase::Missing::kFails, lock_wait_);
   if (const auto* reason = std::get_if<std::string>(&opened)) return "cannot be opened: " + *reason;
   auto& database = std::get<SqliteDatabase>(opened);
-  const auto content = inspect_store(database);
+  // Another program may be making it just now.
+  std::variant<StoreContent, std::string> content = StoreContent::kNothing;
+  database.at_one_moment([&] { content = inspect_store(database); });
   if (const auto* problem = std::get_if<std::string>(&content)) return *problem;
   if (std::get<StoreContent>(content) == StoreContent::kRegistry) database_ = std::move(database);
   return std::nullopt;
@@ -101,16 +103,16 @@ RegistryWrite FolderRegistry::make_store() {
 
 RegistryRead<std::vector<std::string>> FolderRegistry::sub_keys(Hive hive, const std::string& key,
                                                                 KeyAccess) const {
-  using Answer = RegistryRead<std::vector<std::string>>;
+  using Read = RegistryRead<std::vector<std::string>>;
   std::vector<std::string> names;
   const auto id = find_key(hive, key);
-  if (id.failed()) return Answer::failure(id.problem());
+  if (id.failed()) return Read::failure(id.problem());
   if (!id) return std::nullopt;
   if (!database_) return names;
   SqliteQuery query = database_->query("SELECT name FROM reg_key WHERE parent = ?");
   query.bind(*id);
   while (query.next()) names.push_back(query.bytes(0));
-  if (!query.succeeded()) return Answer::failure(read_problem());
+  if (!query.succeeded()) return Read::failure(read_problem());
   std::sort(names.begin(), names.end(), [](const std::string& left, const std::string& right) {
     return compare_names(left, right) < 0;
   });
@@ -120,10 +122,10 @@ RegistryRead<std::vector<std::string>> FolderRegistry::sub_keys(Hive hive, const
 RegistryRead<std::vector<NamedRegistryValue>> FolderRegistry::values(Hive hive,
                                                                      const std::string& key,
                                                                      KeyAccess) const {
-  using Answer = RegistryRead<std::vector<NamedRegistryValue>>;
+  using Read = RegistryRead<std::vector<NamedRegistryValue>>;
   std::vector<NamedRegistryValue> list;
   const auto id = find_key(hive, key);
-  if (id.failed()) return Answer::failure(id.problem());
+  if (id.failed()) return Read::failure(id.problem());
   if (!id) return std::nullopt;
   if (!database_) return list;
   SqliteQuery query =
@@ -132,15 +134,15 @@ RegistryRead<std::vector<NamedRegistryValue>> FolderRegistry::values(Hive hive,
   while (query.next()) {
     list.push_back({query.bytes(0), {static_cast<RegistryType>(query.number(1)), query.bytes(2)}});
   }
-  if (!query.succeeded()) return Answer::failure(read_problem());
+  if (!query.succeeded()) return Read::failure(read_problem());
   return list;
 }
 
 RegistryRead<RegistryValue> FolderRegistry::value(Hive hive, const std::string& key,
                                                   const std::string& name, KeyAccess) const {
-  using Answer = RegistryRead<RegistryValue>;
+  using Read = RegistryRead<RegistryValue>;
   const auto id = find_key(hive, key);
-  if (id.failed()) return Answer::failure(id.problem());
+  if (id.failed()) return Read::failure(id.problem());
   if (!id || !database_) return std::nullopt;
   const std::string folded = upper_case(name);
   SqliteQuery query =
@@ -148,7 +150,7 @@ RegistryRead<RegistryValue> FolderRegistry::value(Hive hive, const std::string& 
   if (query.bind(*id).bind(folded).next()) {
     return RegistryValue{static_cast<RegistryType>(query.number(0)), query.bytes(1)};
   }
-  return query.succeeded() ? Answer(std::nullopt) : Answer::failure(read_problem());
+  return query.succeeded() ? Read(std::nullopt) : Read::failure(read_problem());
 }
 
 RegistryWrite FolderRegistry::create_key(Hive hive, const std::string& key) {
@@ -219,10 +221,10 @@ bool FolderRegistry::is_hive(std::string_view key) { return path_names(key).empt
 // Where there is no store yet, the hives are the only keys.
 RegistryRead<FolderRegistry::KeyId> FolderRegistry::find_key(Hive hive,
                                                              std::string_view key) const {
-  using Answer = RegistryRead<KeyId>;
-  if (const auto problem = connect()) return Answer::failure("the registry " + *problem);
-  if (!database_) return is_hive(key) ? Answer(hive_id(hive)) : Answer(std::nullopt);
-  Answer id = hive_id(hive);
+  using Read = RegistryRead<KeyId>;
+  if (const auto problem = connect()) return Read::failure("the registry " + *problem);
+  if (!database_) return is_hive(key) ? Read(hive_id(hive)) : Read(std::nullopt);
+  Read id = hive_id(hive);
   for (const std::string_view name : path_names(key)) {
     id = find_sub_key(*id, name);
     if (!id) break;
@@ -232,11 +234,11 @@ RegistryRead<FolderRegistry::KeyId> FolderRegistry::find_key(Hive hive,
 
 RegistryRead<FolderRegistry::KeyId> FolderRegistry::find_sub_key(KeyId parent,
                                                                  std::string_view name) const {
-  using Answer = RegistryRead<KeyId>;
+  using Read = RegistryRead<KeyId>;
   const std::string folded = upper_case(name);
   SqliteQuery query = database_->query("SELECT id FROM reg_key WHERE parent = ? AND folded = ?");
   if (query.bind(parent).bind(folded).next()) return query.number(0);
-  return query.succeeded() ? Answer(std::nullopt) : Answer::failure(read_problem());
+  return query.succeeded() ? Read(std::nullopt) : Read::failure(read_problem());
 }
 
 std::optional<FolderRegistry::KeyId> FolderRegistry::make_key(Hive hive, std::string_view key) {

@@ -91,6 +91,12 @@ bool SqliteDatabase::at_one_stroke(const std::function<bool()>& steps) {
   return false;
 }
 
+void SqliteDatabase::at_one_moment(const std::function<void()>& questions) {
+  const bool begun = run("BEGIN");
+  questions();
+  if (begun) sqlite3_exec(database_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
 bool SqliteDatabase::is_locked() const {
   const int code = sqlite3_errcode(database_.get()) & 0xFF;
   return code == SQLITE_BUSY || code == SQLITE_LOCKED;

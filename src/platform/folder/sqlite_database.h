@@ -40,6 +40,10 @@ class SqliteDatabase {
   // dropped together otherwise. Inside of other steps it is a part of those. True when kept.
   [[nodiscard]] bool at_one_stroke(const std::function<bool()>& steps);
 
+  // Lets all `questions` be answered by one state of the file, whatever other programs write
+  // meanwhile. What cannot be read is seen by the questions.
+  void at_one_moment(const std::function<void()>& questions);
+
   [[nodiscard]] bool is_locked() const;          // the last failure: another program holds the file
   [[nodiscard]] std::string last_error() const;  // the last failure in words
   // Why the last steps at one stroke were not kept; empty when they themselves answered false.

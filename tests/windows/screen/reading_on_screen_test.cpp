@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr wchar_t kFolder[] = L"C:\\windows\\Temp\\qv-deep";
 // It takes Windows several seconds to read so many, and a hand less to click.
-constexpr int kGroups = 60;
+constexpr int kGroups = 250;
 constexpr int kFoldersOfAGroup = 100;
 
 class ManyFolders {

@@ -57,4 +57,10 @@ std::error_code replace_host_file(const std::string& path, std::string_view cont
   return beside.put_in_place(whole.filename().string());
 }
 
+std::optional<std::uint64_t> host_link_count(const std::string& path) {
+  struct stat status = {};
+  if (::lstat(path.c_str(), &status) != 0) return std::nullopt;
+  return status.st_nlink;
+}
+
 }  // namespace quillvane

@@ -11,9 +11,14 @@
 
 namespace quillvane {
 
+namespace {
+
+constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+
+}  // namespace
+
 std::variant<std::string, std::error_code> read_host_file(const std::string& path,
                                                           std::size_t most_bytes) {
-  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const FileHandle file(CreateFileW(long_path(path).c_str(), GENERIC_READ, kShareAll, nullptr,
                                     OPEN_EXISTING, 0, nullptr));
   if (!file.is_valid()) return last_host_error();
@@ -34,6 +39,14 @@ std::variant<std::string, std::error_code> read_host_file(const std::string& pat
 std::error_code replace_host_file(const std::string& path, std::string_view content) {
   if (replace_whole_file(long_path(path), content)) return {};
   return last_host_error();
+}
+
+std::optional<std::uint64_t> host_link_count(const std::string& path) {
+  const FileHandle file(CreateFileW(long_path(path).c_str(), 0, kShareAll, nullptr, OPEN_EXISTING,
+                                    FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+  BY_HANDLE_FILE_INFORMATION facts;
+  if (!file.is_valid() || !GetFileInformationByHandle(file.get(), &facts)) return std::nullopt;
+  return facts.nNumberOfLinks;
 }
 
 }  // namespace quillvane

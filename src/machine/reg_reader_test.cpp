@@ -8,7 +8,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/folder/reg_file.h"
+#include "machine/reg_file.h"
 #include "platform/utf8.h"
 #include "tests/support/temp_folder.h"
 

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "platform/folder/reg_file.h"
-#include "platform/folder/reg_words.h"
+#include "machine/reg_file.h"
+#include "machine/reg_words.h"
 #include "platform/utf8.h"
 
 namespace quillvane {

@@ -1,4 +1,4 @@
-#include "platform/folder/demo_files.h"
+#include "machine/demo_files.h"
 
 namespace quillvane {
 

@@ -1,4 +1,4 @@
-#include "platform/folder/demo_folder.h"
+#include "machine/demo_folder.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,9 @@
 #include <cstdint>
 #include <utility>
 
-#include "platform/folder/reg_cursor.h"
-#include "platform/folder/reg_file.h"
-#include "platform/folder/reg_words.h"
+#include "machine/reg_cursor.h"
+#include "machine/reg_file.h"
+#include "machine/reg_words.h"
 
 namespace quillvane {
 

@@ -1,4 +1,4 @@
-#include "platform/folder/reg_words.h"
+#include "machine/reg_words.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/folder/create_machine.h"
+#include "machine/create_machine.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -8,11 +8,11 @@
 #include <variant>
 #include <vector>
 
+#include "machine/registry_setup.h"
 #include "platform/folder/host_file.h"
 #include "platform/folder/host_path.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_staging.h"
-#include "platform/folder/registry_setup.h"
 #include "platform/folder/registry_store.h"
 
 namespace quillvane {

@@ -1,4 +1,4 @@
-#include "platform/folder/registry_setup.h"
+#include "machine/registry_setup.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/folder/create_machine.h"
+#include "machine/create_machine.h"
 
 #include <gtest/gtest.h>
 

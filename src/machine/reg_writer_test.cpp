@@ -7,7 +7,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/folder/reg_file.h"
+#include "machine/reg_file.h"
 #include "platform/multi_string.h"
 #include "tests/support/temp_folder.h"
 

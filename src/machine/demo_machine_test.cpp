@@ -1,4 +1,4 @@
-#include "platform/folder/demo_machine.h"
+#include "machine/demo_machine.h"
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -15,8 +15,8 @@
 #include <variant>
 #include <vector>
 
-#include "platform/folder/create_machine.h"
-#include "platform/folder/demo_files.h"
+#include "machine/create_machine.h"
+#include "machine/demo_files.h"
 #include "platform/folder/folder_machine.h"
 #include "platform/folder/machine_files.h"
 #include "platform/folder/registry_store.h"

@@ -1,4 +1,4 @@
-#include "platform/folder/reg_cursor.h"
+#include "machine/reg_cursor.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "platform/folder/demo_machine.h"
+#include "machine/demo_machine.h"
 
 #include <cstdint>
 #include <filesystem>
@@ -9,7 +9,7 @@
 #include <variant>
 #include <vector>
 
-#include "platform/folder/demo_files.h"
+#include "machine/demo_files.h"
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_path.h"
 #include "platform/folder/machine_json.h"

@@ -32,6 +32,9 @@ bool is_empty_or_missing(const std::string& dir) {
   return !std::filesystem::exists(dir, failed) || std::filesystem::is_empty(dir, failed);
 }
 
+// What is made in a folder beside its place. A folder that holds anything else is somebody's own.
+constexpr const char* kMaking = ".quillvane-machine";
+
 // A folder beside another, for this program alone as long as it lives. What a program that was
 // killed left in one is taken away.
 class FolderBeside {
@@ -42,26 +45,26 @@ class FolderBeside {
       path_ = dir + ".new-" + std::to_string(number);
       if (mkdir(path_.c_str(), 0700) != 0 && errno != EEXIST) return;
       lock_ = Descriptor(open(path_.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-      if (!is_taken()) lock_ = Descriptor();
+      if (!is_taken() || !holds_nothing_else()) lock_ = Descriptor();
     }
-    if (lock_.is_open()) remove_content();
+    if (lock_.is_open()) remove_made();
   }
   ~FolderBeside() {
-    if (!lock_.is_open() || in_place_) return;
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
+    if (!lock_.is_open()) return;
+    remove_made();
+    rmdir(path_.c_str());
   }
   FolderBeside(const FolderBeside&) = delete;
   FolderBeside& operator=(const FolderBeside&) = delete;
 
   [[nodiscard]] bool is_made() const { return lock_.is_open(); }
-  [[nodiscard]] const std::string& path() const { return path_; }
+  // Where to make what shall be put in place; not there yet.
+  [[nodiscard]] std::string path() const { return path_ + "/" + kMaking; }
 
-  // Gives it another name, which only an empty folder may have.
-  [[nodiscard]] std::error_code put_in_place(const std::string& dir) {
+  // Puts it at `dir`, which may be an empty folder.
+  [[nodiscard]] std::error_code put_in_place(const std::string& dir) const {
     std::error_code failed;
-    std::filesystem::rename(path_, dir, failed);
-    in_place_ = !failed;
+    std::filesystem::rename(path(), dir, failed);
     return failed;
   }
 
@@ -74,17 +77,20 @@ class FolderBeside {
            fstat(lock_.number(), &mine) == 0 && lstat(path_.c_str(), &named) == 0 &&
            mine.st_dev == named.st_dev && mine.st_ino == named.st_ino && mine.st_uid == geteuid();
   }
-  void remove_content() const {
-    std::error_code ignored;
-    for (const auto& entry : std::filesystem::directory_iterator(path_, ignored)) {
-      std::error_code stays;
-      std::filesystem::remove_all(entry.path(), stays);
+  [[nodiscard]] bool holds_nothing_else() const {
+    std::error_code failed;
+    for (const auto& entry : std::filesystem::directory_iterator(path_, failed)) {
+      if (entry.path().filename() != kMaking) return false;
     }
+    return !failed;
+  }
+  void remove_made() const {
+    std::error_code ignored;
+    std::filesystem::remove_all(path(), ignored);
   }
 
   std::string path_;
   Descriptor lock_;
-  bool in_place_ = false;
 };
 
 // Makes the demo machine beside its place and then puts it there, so that it is there whole or not

@@ -182,12 +182,23 @@ TEST_F(MachineFolderHost, AFileThatIsNoRegistryChangesNothing) {
 }
 
 TEST_F(MachineFolderHost, TakesAwayWhatAKilledProgramLeftOfADemoMachine) {
-  folder_.write("data/quillvane/demo.new-1/drive_c/half", "x");
+  folder_.write("data/quillvane/demo.new-1/.quillvane-machine/drive_c/half", "x");
   const Opened opened = host_->open(std::nullopt, notices_);
   EXPECT_EQ(problem_of(opened), "");
   EXPECT_TRUE(has(opened, "C:\\Windows"));
   EXPECT_FALSE(has(opened, "C:\\half"));
   EXPECT_FALSE(folder_.has("data/quillvane/demo.new-1"));
+}
+
+TEST_F(MachineFolderHost, LeavesAFolderOfTheUsersWhereTheDemoMachineWouldBeMade) {
+  folder_.write("data/quillvane/demo.new-1/mine.txt", "x");
+  folder_.write("data/quillvane/demo.new-1/.quillvane-machine/mine too.txt", "x");
+  const Opened opened = host_->open(std::nullopt, notices_);
+  EXPECT_EQ(problem_of(opened), "");
+  EXPECT_TRUE(has(opened, "C:\\Windows"));
+  EXPECT_TRUE(folder_.has("data/quillvane/demo.new-1/mine.txt"));
+  EXPECT_TRUE(folder_.has("data/quillvane/demo.new-1/.quillvane-machine/mine too.txt"));
+  EXPECT_FALSE(folder_.has("data/quillvane/demo.new-2"));
 }
 
 }  // namespace

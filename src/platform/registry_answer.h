@@ -19,9 +19,9 @@ class RegistryRead {
   RegistryRead(T value) : value_(std::move(value)) {}
   RegistryRead(std::nullopt_t /*absent*/) {}
   // `problem` says in a few words what hindered it ("is locked by another program").
-  [[nodiscard]] static RegistryRead failure(std::string problem) {
+  [[nodiscard]] static RegistryRead failure(const std::string& problem) {
     RegistryRead read(std::nullopt);
-    read.problem_ = std::move(problem);
+    read.problem_ = problem;
     return read;
   }
 
@@ -47,9 +47,9 @@ class RegistryRead {
 class [[nodiscard]] RegistryWrite {
  public:
   RegistryWrite() = default;
-  [[nodiscard]] static RegistryWrite failure(std::string problem) {
+  [[nodiscard]] static RegistryWrite failure(const std::string& problem) {
     RegistryWrite write;
-    write.problem_ = std::move(problem);
+    write.problem_ = problem;
     return write;
   }
 

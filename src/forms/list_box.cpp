@@ -13,6 +13,11 @@ void ListBox::add(std::string_view text) {
   notify(Change::kItems);
 }
 
+void ListBox::remove_first(int count) {
+  items_.erase(items_.begin(), items_.begin() + count);
+  notify(Change::kItems);
+}
+
 void ListBox::clear() {
   items_.clear();
   notify(Change::kItems);

@@ -17,6 +17,12 @@ void Window::set_state(WindowState state) {
   if (on_view_change) on_view_change();
 }
 
+void Window::set_topmost(bool topmost) {
+  if (topmost_ == topmost) return;
+  topmost_ = topmost;
+  if (on_view_change) on_view_change();
+}
+
 Control* Window::find(std::string_view name) const {
   const auto found = by_name_.find(lower_case(name));
   return found == by_name_.end() ? nullptr : found->second;
@@ -30,6 +36,10 @@ std::optional<PropertyValue> Window::field(std::string_view name) const {
 
 void Window::add_field(std::string_view name, std::function<PropertyValue()> read) {
   fields_[lower_case(name)] = std::move(read);
+}
+
+void Window::add_second_name(std::string_view name, Control& control) {
+  by_name_[lower_case(name)] = &control;
 }
 
 void Window::add_control(Control& control) {

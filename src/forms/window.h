@@ -36,6 +36,10 @@ class Window {
   [[nodiscard]] Color back_color() const { return back_color_; }
   void set_back_color(Color color) { back_color_ = color; }
 
+  // Whether it stands before the windows of all programs.
+  [[nodiscard]] bool topmost() const { return topmost_; }
+  void set_topmost(bool topmost);
+
   // Acts of the user on the window's own buttons.
   void minimise() { set_state(WindowState::kMinimised); }
   void restore() { set_state(WindowState::kNormal); }
@@ -51,7 +55,11 @@ class Window {
   // Makes a field readable by name.
   void add_field(std::string_view name, std::function<PropertyValue()> read);
 
-  // Called when visible or state change.
+  // Lets a control be found by a second name: an array of controls without an index means one of
+  // them.
+  void add_second_name(std::string_view name, Control& control);
+
+  // Called when visible, state or topmost change.
   std::function<void()> on_view_change;
 
  protected:
@@ -66,6 +74,7 @@ class Window {
   std::string caption_;
   bool visible_ = false;
   WindowState state_ = WindowState::kNormal;
+  bool topmost_ = false;
   Color back_color_ = 0;
   std::vector<Control*> controls_;
   std::map<std::string, Control*> by_name_;  // keys in lower case

@@ -56,7 +56,6 @@ class ListView::OwnRows final : public RowSource {
 ListView::ListView(Window& window, std::string_view name, std::vector<std::string> columns,
                    const Design& design)
     : Control(window, name, design),
-      tool_tip_(design.tool_tip),
       columns_(std::move(columns)),
       column_widths_(columns_.size()),
       own_(std::make_shared<OwnRows>()) {

@@ -42,8 +42,6 @@ class ListView : public Control {
   ListView(Window& window, std::string_view name, std::vector<std::string> columns,
            const Design& design = {});
 
-  [[nodiscard]] const std::string& tool_tip() const { return tool_tip_; }
-
   // --- Columns.
   [[nodiscard]] const std::vector<std::string>& columns() const { return columns_; }
   void set_column(int column, std::string_view caption);
@@ -130,7 +128,6 @@ class ListView : public Control {
   void sort_rows();
   void drop_sources();
 
-  std::string tool_tip_;
   std::vector<std::string> columns_;
   std::vector<int> column_widths_;
   std::deque<Row> rows_;

@@ -17,12 +17,6 @@ void Window::set_state(WindowState state) {
   if (on_view_change) on_view_change();
 }
 
-void Window::set_topmost(bool topmost) {
-  if (topmost_ == topmost) return;
-  topmost_ = topmost;
-  if (on_view_change) on_view_change();
-}
-
 Control* Window::find(std::string_view name) const {
   const auto found = by_name_.find(lower_case(name));
   return found == by_name_.end() ? nullptr : found->second;

@@ -36,10 +36,6 @@ class Window {
   [[nodiscard]] Color back_color() const { return back_color_; }
   void set_back_color(Color color) { back_color_ = color; }
 
-  // Whether it stands before the windows of all programs.
-  [[nodiscard]] bool topmost() const { return topmost_; }
-  void set_topmost(bool topmost);
-
   // Acts of the user on the window's own buttons.
   void minimise() { set_state(WindowState::kMinimised); }
   void restore() { set_state(WindowState::kNormal); }
@@ -59,7 +55,7 @@ class Window {
   // them.
   void add_second_name(std::string_view name, Control& control);
 
-  // Called when visible, state or topmost change.
+  // Called when visible or state change.
   std::function<void()> on_view_change;
 
  protected:
@@ -74,7 +70,6 @@ class Window {
   std::string caption_;
   bool visible_ = false;
   WindowState state_ = WindowState::kNormal;
-  bool topmost_ = false;
   Color back_color_ = 0;
   std::vector<Control*> controls_;
   std::map<std::string, Control*> by_name_;  // keys in lower case

@@ -40,9 +40,6 @@ class Dialogs {
 
   // Lets the user name a file to be written, which may be there already; empty when cancelled.
   virtual std::string save_file(const FileQuestion& question) = 0;
-
-  // Lets the user choose a file that is there; empty when cancelled.
-  virtual std::string open_file(const FileQuestion& question) = 0;
 };
 
 }  // namespace quillvane

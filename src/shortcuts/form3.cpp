@@ -3,6 +3,7 @@
 #include <string>
 
 #include "dialogs/about_window.h"
+#include "shortcuts/shortcut_report.h"
 #include "support/registry_text.h"
 #include "support/suite_color.h"
 #include "support/val.h"

@@ -57,10 +57,4 @@ std::string QueuedDialogs::save_file(const FileQuestion& question) {
   return path;
 }
 
-std::string QueuedDialogs::open_file(const FileQuestion& question) {
-  std::string path = next_path();
-  boxes_.push_back({"open", "", question.title, 0, path, question.file, question.filter});
-  return path;
-}
-
 }  // namespace quillvane

@@ -16,7 +16,7 @@ namespace quillvane {
 
 // A box that came up. Texts, so that dialogs which are answered by a path or an input fit in.
 struct ShownBox {
-  std::string kind;  // "message", "question", "folder", "save" or "open"
+  std::string kind;  // "message", "question", "folder" or "save"
   std::string text;
   std::string title;
   std::uint32_t style = 0;
@@ -43,7 +43,6 @@ class QueuedDialogs final : public Dialogs {
   std::string browse_folder(const std::string& title, std::uint32_t flags,
                             const std::string& root) override;
   std::string save_file(const FileQuestion& question) override;
-  std::string open_file(const FileQuestion& question) override;
 
   // Answers to file and folder dialogs and to input boxes; an empty path cancels.
   void answer_path(std::string path) { paths_.push_back(std::move(path)); }

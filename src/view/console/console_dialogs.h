@@ -31,7 +31,6 @@ class ConsoleDialogs final : public Dialogs {
 
   // Nor for a file.
   std::string save_file(const FileQuestion& /*question*/) override { return {}; }
-  std::string open_file(const FileQuestion& /*question*/) override { return {}; }
 
  private:
   [[nodiscard]] Answer ask(const std::string& text);

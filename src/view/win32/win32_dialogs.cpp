@@ -46,27 +46,6 @@ IdListOwner id_list_of(const std::string& folder) {
   return IdListOwner(list);
 }
 
-using FileDialog = BOOL(WINAPI*)(OPENFILENAMEW* request);
-
-std::string ask_for_file(const FileQuestion& question, FileDialog dialog, DWORD flags) {
-  const std::wstring title = widen(question.title);
-  std::wstring filter = widen(question.filter) + L'|';
-  std::replace(filter.begin(), filter.end(), L'|', L'\0');  // as Windows parts and ends them
-  wchar_t path[kLongestPath] = L"";
-  const std::wstring file = widen(question.file);
-  file.copy(path, kLongestPath - 1);
-  OPENFILENAMEW request{};
-  request.lStructSize = sizeof(request);
-  request.hwndOwner = owner_window();
-  request.lpstrFilter = filter.c_str();
-  request.lpstrFile = path;
-  request.nMaxFile = kLongestPath;
-  request.lpstrTitle = title.empty() ? nullptr : title.c_str();  // null: Windows' own
-  // The working folder of the program stays what it is.
-  request.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | flags;
-  return dialog(&request) != FALSE ? narrow(path) : std::string();
-}
-
 }  // namespace
 
 Answer Win32Dialogs::message_box(const std::string& text, const std::string& title,
@@ -94,11 +73,22 @@ std::string Win32Dialogs::browse_folder(const std::string& title, std::uint32_t 
 }
 
 std::string Win32Dialogs::save_file(const FileQuestion& question) {
-  return ask_for_file(question, GetSaveFileNameW, OFN_OVERWRITEPROMPT);
-}
-
-std::string Win32Dialogs::open_file(const FileQuestion& question) {
-  return ask_for_file(question, GetOpenFileNameW, OFN_FILEMUSTEXIST);
+  const std::wstring title = widen(question.title);
+  std::wstring filter = widen(question.filter) + L'|';
+  std::replace(filter.begin(), filter.end(), L'|', L'\0');  // as Windows parts and ends them
+  wchar_t path[kLongestPath] = L"";
+  const std::wstring file = widen(question.file);
+  file.copy(path, kLongestPath - 1);
+  OPENFILENAMEW request{};
+  request.lStructSize = sizeof(request);
+  request.hwndOwner = owner_window();
+  request.lpstrFilter = filter.c_str();
+  request.lpstrFile = path;
+  request.nMaxFile = kLongestPath;
+  request.lpstrTitle = title.c_str();
+  // The working folder of the program stays what it is.
+  request.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_OVERWRITEPROMPT;
+  return GetSaveFileNameW(&request) != FALSE ? narrow(path) : std::string();
 }
 
 }  // namespace quillvane

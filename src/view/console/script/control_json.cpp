@@ -55,7 +55,7 @@ Json box_json(const ShownBox& box) {
                {"title", box.title},
                {"style", box.style},
                {"answer", box.answer}};
-  if (box.kind == "save" || box.kind == "open") {
+  if (box.kind == "save") {
     json["file"] = box.file;
     json["filter"] = box.filter;
   }

@@ -11,8 +11,8 @@ namespace quillvane {
 
 namespace {
 
-constexpr std::array<std::string_view, 6> kWindows = {"Form7", "Form3", "Form1",
-                                                      "Form2", "Form5", "frmabout"};
+constexpr std::array<std::string_view, 7> kWindows = {"Form7", "Form3", "Form1",   "Form2",
+                                                      "Form4", "Form5", "frmabout"};
 
 }  // namespace
 

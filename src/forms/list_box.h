@@ -20,6 +20,8 @@ class ListBox : public Control {
   void add(std::string_view text);
   // Those behind them move up. Requires: there are so many.
   void remove_first(int count);
+  // Does nothing when there is no such item.
+  void remove(int index);
   void clear();
 
   // Besides the common ones: Count.

@@ -40,6 +40,17 @@ Form3& Program::load_shortcut_window() {
   return *form3_;
 }
 
+// A cancel of the main window's stays noted until its next scan; it is none of the other window's.
+bool Program::awaits_reading() const {
+  if (ended()) return false;
+  return (form3_ != nullptr && form3_->is_searching()) || form7_->cancelflag != 1;
+}
+
+void Program::let_go_of_views() {
+  attach_view = nullptr;
+  form3_view_ = nullptr;
+}
+
 Window* Program::find_window(std::string_view name) const {
   if (form7_ != nullptr && same_name(form7_->name(), name)) return form7_.get();
   if (form3_ != nullptr && same_name(form3_->name(), name)) return form3_.get();

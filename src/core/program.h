@@ -27,6 +27,9 @@ class Program {
 
   [[nodiscard]] bool started() const { return form7_ != nullptr; }
   [[nodiscard]] bool ended() const { return session.ended(); }
+  // Whether anybody waits for the rest of a tree that is being read: not when its scan was
+  // cancelled, or the program has ended. Requires: start has begun.
+  [[nodiscard]] bool awaits_reading() const;
 
   // The window of that name, without regard to case; null while it isn't loaded.
   [[nodiscard]] Window* find_window(std::string_view name) const;
@@ -41,8 +44,9 @@ class Program {
   Form3& load_shortcut_window();
 
   // How a view gets a window on the screen that stands beside the main one: called when it has been
-  // loaded. What it returns is kept as long as the window.
+  // loaded. What it returns is kept as long as the window, or until let_go_of_views.
   std::function<std::shared_ptr<void>(Window& window)> attach_view;
+  void let_go_of_views();
 
   Session session;
   ModalWindows windows;

@@ -13,6 +13,7 @@ namespace quillvane {
 namespace {
 
 constexpr const char* kWizardKey = "software\\Quillvane\\Tidewrack Deluxe\\wizard\\";
+constexpr int kTwipsOfPathColumn = 5000;
 constexpr Color kShadowColor = 0x808080;
 constexpr int kShadowDepth = 5;
 
@@ -69,6 +70,7 @@ void Form3::name_arrays() {
 void Form3::load() {
   apply_color();
   Gif89a1.set_file(session.data_file("search.gif"));
+  for (const int column : {2, 3}) view1.set_column_width(column, kTwipsOfPathColumn);
   fill_drive_list();
   read_destination();
   Command3.raise_click();

@@ -29,6 +29,9 @@ class Form3 final : public Window,
   void activate();        // the window was shown
   void close() override;  // stores the options, ends the program
 
+  // Whether a scan or a search for targets is in progress.
+  [[nodiscard]] bool is_searching() const { return is_scanning() || is_reading_drive(); }
+
   ModalWindows& windows;  // the small windows that are open
   Shadow shadow;
 

@@ -15,13 +15,11 @@ namespace {
 
 constexpr int kHelpTopic = 19;
 
-// Indexes 2, 6 and 10 are separators.
+// Indexes 2, 6 and 10 are separators; the others carry the pictures of the tool bars' list.
 std::vector<ToolbarButton> design_toolbar() {
   std::vector<ToolbarButton> buttons;
-  int image = 0;
-  for (int number = 1; number <= 11; ++number) {
-    const bool separator = number == 2 || number == 6 || number == 10;
-    buttons.push_back({separator ? 0 : ++image, separator});
+  for (const int image : {14, 0, 4, 16, 5, 0, 6, 7, 15, 0, 8}) {
+    buttons.push_back({.image = image, .separator = image == 0});
   }
   return buttons;
 }

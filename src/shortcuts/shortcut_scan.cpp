@@ -108,7 +108,9 @@ void ShortcutScan::find_links(const std::string& folder) {
   const std::shared_ptr<clsdirsearch> search = search_;  // a scan inside this one makes its own
   if (search == nullptr) return;
   search->searchinsubfolders = true;
+  ++scans_;
   search->findfiles(folder, kLinkPattern);
+  --scans_;
 }
 
 void ShortcutScan::search_found(const std::string& folder, const std::string& name) {

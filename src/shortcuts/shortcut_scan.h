@@ -30,6 +30,7 @@ class ShortcutScan : public WherePage, public ProgressPanel, public ResultPage, 
   void run_scan();
   // Ends the search in progress and shows what was found.
   void cancel();
+  [[nodiscard]] bool is_scanning() const { return scans_ > 0; }
   // Ends it without touching the panels: the window goes away.
   void stop_search();
 
@@ -55,6 +56,7 @@ class ShortcutScan : public WherePage, public ProgressPanel, public ResultPage, 
   // The search of the scan that was begun last. A scan that is begun inside another one leaves the
   // older search to the one that runs it.
   std::shared_ptr<clsdirsearch> search_;
+  int scans_ = 0;  // in progress, one inside the other
 };
 
 }  // namespace quillvane

@@ -9,7 +9,6 @@
 #include "platform/unicode_case.h"
 #include "scan/reading_watch.h"
 #include "shortcuts/rebuilt_link.h"
-#include "support/like.h"
 #include "support/program_name.h"
 #include "support/text.h"
 #include "support/val.h"
@@ -78,7 +77,9 @@ void TargetSearch::note_names(const ResultPage& results) {
 
 void TargetSearch::search_drive(const std::string& root, ProgressPanel& progress) {
   ReadingWatch watch(session);
+  is_reading_ = true;
   const auto tree = platform().files.read_tree_watched(root, {"*"}, &watch);
+  is_reading_ = false;
   watch.settle(root, tree.get());
   if (tree == nullptr) return;
   lstdirs.add(root);

@@ -24,6 +24,7 @@ class TargetSearch : public virtual Page {
   [[nodiscard]] bool search_targets(const ResultPage& results, ProgressPanel& progress);
   // Stops it.
   void cancel();
+  [[nodiscard]] bool is_reading_drive() const { return is_reading_; }
 
   ListBox List4{window, "List4", kHidden};        // files found, in the order of the folders
   ListBox List5{window, "List5", kHidden};        // names of the missing targets
@@ -43,6 +44,7 @@ class TargetSearch : public virtual Page {
   [[nodiscard]] bool stops_for_entry();
   void rebuild_links();
 
+  bool is_reading_ = false;
   std::deque<const ListedFolder*> to_search_;  // the folders of lstdirs
 };
 

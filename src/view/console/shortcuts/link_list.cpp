@@ -71,8 +71,9 @@ void print_links(const ConsoleIo& io, const LinkList& list, bool all) {
     if (!out) return;
     if (!all && !link.is_broken) continue;
     out << padded(std::string(verdict_text(link.verdict)), kVerdictWidth) << "  "
-        << shown(link.path, io.out_is_terminal) << " => " << shown(link.target, io.out_is_terminal)
-        << '\n';
+        << shown(link.path, io.out_is_terminal);
+    if (!link.target.empty()) out << " => " << shown(link.target, io.out_is_terminal);
+    out << '\n';
   }
   if (all ? !list.links().empty() : list.broken() > 0) out << '\n';
   out << summary_of(list) << '\n';

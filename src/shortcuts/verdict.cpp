@@ -40,6 +40,12 @@ std::optional<std::string> root_of(const std::string& path) {
   return end == std::string::npos ? path + "\\" : path.substr(0, end + 1);
 }
 
+// A drive without a medium may have a root, but it has no room.
+bool is_there_now(const Platform& platform, const std::string& root) {
+  const bool is_share = root.starts_with("\\\\");
+  return platform.files.attributes(root) && (is_share || platform.drives.space(root));
+}
+
 }  // namespace
 
 bool DirectoryExists(const FileSystem& files, const std::string& path) {
@@ -60,7 +66,7 @@ ShortcutFinding judge_shortcut(const Platform& platform, const LinkContent& shor
   if (platform.files.attributes(shortcut.target) || !is_broken(platform, shortcut, false)) {
     return {ShortcutVerdict::kPresent, shortcut.target};
   }
-  if (!platform.files.attributes(*root)) return {ShortcutVerdict::kUnreachable, *root};
+  if (!is_there_now(platform, *root)) return {ShortcutVerdict::kUnreachable, *root};
   // Rights that are missing, or a disk that fails, are no proof that nothing is there.
   const bool is_gone = platform.files.read_file(shortcut.target).is_missing();
   return {is_gone ? ShortcutVerdict::kMissing : ShortcutVerdict::kUnreachable, shortcut.target};

@@ -18,9 +18,9 @@ bool is_seen_as_file(const FileSystem& files, const LinkContent& shortcut) {
 }
 
 bool is_seen_as_folder(const FileSystem& files, const std::string& target) {
-  const bool exists = DirectoryExists(files, target);
   const auto attributes = files.attributes(target);
-  return attributes && (*attributes != kAttributeFolder || exists);
+  if (!attributes) return false;
+  return *attributes != kAttributeFolder || DirectoryExists(files, target);
 }
 
 bool is_elsewhere(const Drives& drives, const std::string& target) {

@@ -101,8 +101,8 @@ TEST(Form3, ARunWithoutAUserRemovesNothingOnceTheProgramHasEnded) {
   fixture.add_link(kStartMenu + "\\A.lnk", "C:\\gone.exe");
   fixture.add_link(kStartMenu + "\\B.lnk", "C:\\gone.exe");
   Form3& form = fixture.start();
-  // Servings: two entries, two links, and the first row to be removed.
-  fixture.at_serving(5, [&] { fixture.program->session.end_cleaning(); });
+  fixture.when([&] { return form.Frame1.visible(); },
+               [&] { fixture.program->session.end_cleaning(); });
 
   form.Text6.set_text("1");
 

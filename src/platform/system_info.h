@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/code_page.h"
+#include "platform/file_time.h"
 
 namespace quillvane {
 
@@ -46,6 +47,9 @@ class SystemInfo {
 
   // A date and time in the system's format ("3/7/2013 9:05:00 AM"); only the date at midnight.
   [[nodiscard]] virtual std::string format_date(const DateTime& date) const = 0;
+
+  // A file's time as the machine's clock shows it now, be it summer or winter then.
+  [[nodiscard]] virtual FileTime local_time(FileTime time) const = 0;
 };
 
 }  // namespace quillvane

@@ -25,6 +25,7 @@ class Locale final : public SystemInfo {
   [[nodiscard]] const CodePage* code_page(int) const override { return nullptr; }
   [[nodiscard]] std::string decimal_separator() const override { return ","; }
   [[nodiscard]] DateOrder date_order() const override { return order_; }
+  [[nodiscard]] FileTime local_time(FileTime time) const override { return time; }
   [[nodiscard]] std::string format_date(const DateTime& date) const override {
     return "month " + std::to_string(date.month) + " day " + std::to_string(date.day) + " hour " +
            std::to_string(date.hour);

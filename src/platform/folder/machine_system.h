@@ -20,6 +20,7 @@ class MachineSystem final : public SystemInfo {
   [[nodiscard]] std::string decimal_separator() const override { return "."; }
   [[nodiscard]] DateOrder date_order() const override { return DateOrder::kMonthDayYear; }
   [[nodiscard]] std::string format_date(const DateTime& date) const override;
+  [[nodiscard]] FileTime local_time(FileTime time) const override;
 
  private:
   const MachineState& state_;

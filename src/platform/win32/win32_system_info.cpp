@@ -109,4 +109,11 @@ std::string Win32SystemInfo::format_date(const DateTime& date) const {
   return formatted;
 }
 
+FileTime Win32SystemInfo::local_time(FileTime time) const {
+  const auto ticks = static_cast<std::uint64_t>(time.ticks);
+  const FILETIME utc{static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32U)};
+  FILETIME local{};
+  return FileTimeToLocalFileTime(&utc, &local) != 0 ? file_time(local) : time;
+}
+
 }  // namespace quillvane

@@ -14,6 +14,7 @@ class Win32SystemInfo final : public SystemInfo {
   [[nodiscard]] std::string decimal_separator() const override;
   [[nodiscard]] DateOrder date_order() const override;
   [[nodiscard]] std::string format_date(const DateTime& date) const override;
+  [[nodiscard]] FileTime local_time(FileTime time) const override;
 };
 
 }  // namespace quillvane

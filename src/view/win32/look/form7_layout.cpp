@@ -115,6 +115,9 @@ constexpr std::string_view kUndrawn[] = {
     "Text15",
     "txtfilecont",
     "txtfilesize",
+    "Text6",
+    "txtviewf",
+    "txttime",
     "List1",
     "Drive1",
     "Shape2",
@@ -175,6 +178,7 @@ constexpr std::string_view kUndrawn[] = {
     // Not in the window: the help key, the tray, the timer and the pop-up menus.
     "Image44(0)",
     "TrayArea1",
+    "Timer1",
     "Timer2",
     "scf",
     "stc",

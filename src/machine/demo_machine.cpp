@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "machine/demo_files.h"
+#include "machine/demo_links.h"
 #include "machine/factory_type_table.h"
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_path.h"
@@ -110,6 +111,15 @@ class Stage {
   std::optional<std::string> problem_;
 };
 
+void stage_links(Stage& stage) {
+  for (const DemoLink& link : demo_links()) {
+    if (link.kind == DemoTarget::kFile || link.kind == DemoTarget::kEnvironment) {
+      stage.file(demo_target_path(link), {.text = {}, .bytes = link.bytes, .time = {}});
+    }
+    stage.file(link.path, {.text = demo_link_file(link), .bytes = 0, .time = {}});
+  }
+}
+
 std::optional<std::string> stage_files(const MachineState& machine) {
   Stage stage(machine);
   stage.rows(demo_junk_of_windows());
@@ -124,6 +134,7 @@ std::optional<std::string> stage_files(const MachineState& machine) {
   for (const CachedPage& page : kCachedPages) {
     stage.file(cache_file(page), {.text = {}, .bytes = page.bytes, .time = {}});
   }
+  stage_links(stage);
   stage.file(kInUse, {.text = {}, .bytes = 870'400, .time = {}});
   stage.folder(kDenied);
   stage.junction(std::string(kUserFolder) + "\\Local Settings",

@@ -17,11 +17,13 @@
 
 #include "machine/create_machine.h"
 #include "machine/demo_files.h"
+#include "machine/demo_links.h"
 #include "machine/factory_type_table.h"
 #include "platform/folder/folder_machine.h"
 #include "platform/folder/machine_files.h"
 #include "platform/folder/registry_store.h"
 #include "platform/multi_string.h"
+#include "platform/virtual/queued_dialogs.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillvane {
@@ -177,6 +179,22 @@ TEST_F(DemoMachine, OldOperaIsReachedThroughTheJunctionOfTheOlderLayout) {
                              "*.*")
                 .size(),
             8U);
+}
+
+TEST_F(DemoMachine, EachShortcutLeadsWhereItsRowSays) {
+  QueuedDialogs dialogs(machine_->effects());
+  const Platform platform = machine_->platform(dialogs);
+  std::map<DemoTarget, int> kinds;
+  for (const DemoLink& link : demo_links()) {
+    LinkContent content;
+    ++kinds[link.kind];
+    EXPECT_TRUE(platform.links.read_link(link.path, content)) << link.path;
+    EXPECT_EQ(content.target, demo_target_path(link)) << link.path;
+    const bool is_there = link.kind == DemoTarget::kFile || link.kind == DemoTarget::kFolder ||
+                          link.kind == DemoTarget::kEnvironment;
+    EXPECT_EQ(platform.files.attributes(content.target).has_value(), is_there) << link.path;
+  }
+  EXPECT_EQ(kinds.size(), 7U);
 }
 
 TEST_F(DemoMachine, AMachineThatIsNotThereIsTold) {

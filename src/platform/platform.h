@@ -11,6 +11,7 @@
 #include "platform/event_log.h"
 #include "platform/file_system.h"
 #include "platform/instances.h"
+#include "platform/links.h"
 #include "platform/message_loop.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
@@ -32,6 +33,7 @@ struct Platform {
   SystemEventLog& event_log;
   Processes& processes;
   Instances& instances;
+  Links& links;
   UrlCache& url_cache;
   Security& security;
   Shell& shell;
@@ -45,6 +47,7 @@ struct Platform {
     FileSystem* files = nullptr;
     Registry* registry = nullptr;
     Dialogs* dialogs = nullptr;
+    Links* links = nullptr;
   };
 
   // The same machine with parts replaced: how a layer gets between the behaviour and the machine.
@@ -57,6 +60,7 @@ struct Platform {
             .event_log = event_log,
             .processes = processes,
             .instances = instances,
+            .links = other.links != nullptr ? *other.links : links,
             .url_cache = url_cache,
             .security = security,
             .shell = shell,

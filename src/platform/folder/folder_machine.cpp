@@ -15,6 +15,7 @@
 #include "platform/folder/machine_files.h"
 #include "platform/folder/machine_instances.h"
 #include "platform/folder/machine_json.h"
+#include "platform/folder/machine_links.h"
 #include "platform/folder/machine_outward.h"
 #include "platform/folder/machine_processes.h"
 #include "platform/folder/machine_system.h"
@@ -54,6 +55,7 @@ struct FolderMachine::Parts {
         event_log(effects),
         processes(state, effects, save),
         instances(dir),
+        links(state, files, environment),
         url_cache(state, save),
         security(effects),
         shell(state, effects, files, [&state, &files] { empty_recycle_bins(state, files); }),
@@ -66,6 +68,7 @@ struct FolderMachine::Parts {
   MachineEventLog event_log;
   MachineProcesses processes;
   MachineInstances instances;
+  MachineLinks links;
   MachineUrlCache url_cache;
   MachineSecurity security;
   MachineShell shell;
@@ -111,6 +114,7 @@ Platform FolderMachine::platform(Dialogs& dialogs) {
           .event_log = parts_->event_log,
           .processes = parts_->processes,
           .instances = parts_->instances,
+          .links = parts_->links,
           .url_cache = parts_->url_cache,
           .security = parts_->security,
           .shell = parts_->shell,

@@ -7,6 +7,7 @@
 #include "platform/win32/win32_event_log.h"
 #include "platform/win32/win32_file_system.h"
 #include "platform/win32/win32_instances.h"
+#include "platform/win32/win32_links.h"
 #include "platform/win32/win32_processes.h"
 #include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_security.h"
@@ -35,6 +36,7 @@ class Win32Machine {
             .event_log = event_log_,
             .processes = processes_,
             .instances = instances_,
+            .links = links_,
             .url_cache = url_cache_,
             .security = security_,
             .shell = shell_,
@@ -56,6 +58,7 @@ class Win32Machine {
   Win32UrlCache url_cache_;
   Win32Security security_;
   Win32Shell shell_;
+  Win32Links links_;
   Win32SuiteChannel suite_;
   Win32Tray tray_;
 };

@@ -9,6 +9,7 @@
 #include <variant>
 #include <vector>
 
+#include "machine/data_files.h"
 #include "machine/demo_files.h"
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_path.h"
@@ -127,6 +128,10 @@ std::optional<std::string> stage_files(const MachineState& machine) {
   stage.folder(kDenied);
   stage.junction(std::string(kUserFolder) + "\\Local Settings",
                  std::string(kUserFolder) + "\\AppData\\Local");
+  for (const DataFile& file : data_files()) {
+    stage.file(machine.program_folder + "\\" + std::string(file.name),
+               {.text = file.bytes, .bytes = 0, .time = {}});
+  }
   stage.file(machine.program_folder + "\\ignore.tdw", {.text = kIgnored, .bytes = 0, .time = {}});
   stage.file(machine.program_folder + "\\custom.tdw",
              {.text = kCustomEntry, .bytes = 0, .time = {}});

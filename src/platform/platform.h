@@ -11,6 +11,7 @@
 #include "platform/event_log.h"
 #include "platform/file_system.h"
 #include "platform/instances.h"
+#include "platform/locale.h"
 #include "platform/message_loop.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
@@ -29,6 +30,7 @@ struct Platform {
   Registry& registry;
   Environment& environment;
   SystemInfo& system;
+  LocaleSettings& locale;
   SystemEventLog& event_log;
   Processes& processes;
   Instances& instances;
@@ -44,6 +46,7 @@ struct Platform {
   struct Replacement {
     FileSystem* files = nullptr;
     Registry* registry = nullptr;
+    LocaleSettings* locale = nullptr;
     Dialogs* dialogs = nullptr;
   };
 
@@ -54,6 +57,7 @@ struct Platform {
             .registry = other.registry != nullptr ? *other.registry : registry,
             .environment = environment,
             .system = system,
+            .locale = other.locale != nullptr ? *other.locale : locale,
             .event_log = event_log,
             .processes = processes,
             .instances = instances,

@@ -15,6 +15,7 @@
 #include "platform/folder/machine_files.h"
 #include "platform/folder/machine_instances.h"
 #include "platform/folder/machine_json.h"
+#include "platform/folder/machine_locale.h"
 #include "platform/folder/machine_outward.h"
 #include "platform/folder/machine_processes.h"
 #include "platform/folder/machine_system.h"
@@ -63,6 +64,7 @@ struct FolderMachine::Parts {
   MachineDrives drives;
   MachineEnvironment environment;
   MachineSystem system;
+  MachineLocale locale;
   MachineEventLog event_log;
   MachineProcesses processes;
   MachineInstances instances;
@@ -108,6 +110,7 @@ Platform FolderMachine::platform(Dialogs& dialogs) {
           .registry = *registry_,
           .environment = parts_->environment,
           .system = parts_->system,
+          .locale = parts_->locale,
           .event_log = parts_->event_log,
           .processes = parts_->processes,
           .instances = parts_->instances,

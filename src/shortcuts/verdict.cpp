@@ -18,9 +18,9 @@ bool is_seen_as_file(const FileSystem& files, const LinkContent& shortcut) {
 }
 
 bool is_seen_as_folder(const FileSystem& files, const std::string& target) {
-  const bool exists = DirectoryExists(files, target);
   const auto attributes = files.attributes(target);
-  return attributes && (*attributes != kAttributeFolder || exists);
+  if (!attributes) return false;
+  return *attributes != kAttributeFolder || DirectoryExists(files, target);
 }
 
 bool is_elsewhere(const Drives& drives, const std::string& target) {
@@ -38,6 +38,12 @@ std::optional<std::string> root_of(const std::string& path) {
   if (share == std::string::npos) return path + "\\";
   const std::size_t end = path.find('\\', share + 1);
   return end == std::string::npos ? path + "\\" : path.substr(0, end + 1);
+}
+
+// A drive without a medium may have a root, but it has no room.
+bool is_there_now(const Platform& platform, const std::string& root) {
+  const bool is_share = root.starts_with("\\\\");
+  return platform.files.attributes(root) && (is_share || platform.drives.space(root));
 }
 
 }  // namespace
@@ -60,7 +66,7 @@ ShortcutFinding judge_shortcut(const Platform& platform, const LinkContent& shor
   if (platform.files.attributes(shortcut.target) || !is_broken(platform, shortcut, false)) {
     return {ShortcutVerdict::kPresent, shortcut.target};
   }
-  if (!platform.files.attributes(*root)) return {ShortcutVerdict::kUnreachable, *root};
+  if (!is_there_now(platform, *root)) return {ShortcutVerdict::kUnreachable, *root};
   // Rights that are missing, or a disk that fails, are no proof that nothing is there.
   const bool is_gone = platform.files.read_file(shortcut.target).is_missing();
   return {is_gone ? ShortcutVerdict::kMissing : ShortcutVerdict::kUnreachable, shortcut.target};

@@ -75,8 +75,7 @@ TEST_F(Lnkinfo, AgreesOnALinkThatTheProgramWrites) {
                             .working_directory = "C:\\Tools",
                             .arguments = "/a \u0416",
                             .icon_file = "C:\\Tools\\a.ico",
-                            .icon_index = 3,
-                            .show_command = 7};
+                            .icon_index = 3};
   ASSERT_TRUE(machine_.platform().links.write_link("C:\\a.lnk", content));
 
   const std::string output = says("C:\\a.lnk");
@@ -89,7 +88,6 @@ TEST_F(Lnkinfo, AgreesOnALinkThatTheProgramWrites) {
   EXPECT_EQ(value_of(output, "Command line arguments"), "/a \u0416");
   EXPECT_EQ(value_of(output, "Icon location"), "C:\\Tools\\a.ico");
   EXPECT_EQ(value_of(output, "Icon index"), "3");
-  EXPECT_EQ(value_of(output, "Show Window value"), "0x00000007");
 }
 
 TEST_F(Lnkinfo, AgreesOnTheCorpus) {

@@ -8,6 +8,7 @@
 #include "dialogs/custom_dialog.h"
 #include "dialogs/custom_entry_dialog.h"
 #include "dialogs/ignore_dialog.h"
+#include "dialogs/type_dialog.h"
 #include "lang/window_texts.h"
 #include "tests/support/scan_fixture.h"
 
@@ -81,13 +82,17 @@ TEST(ChangeLanguage, SetsTheTextsOfTheSmallWindowsWhenTheyOpen) {
   Form1 ignored(session, mail);
   Form2 list(session, stage.program->windows, mail);
   Form5 entry(session, list, mail);
+  Form7& form = stage.program->main_window();
+  Form4 type(session, form.View101, mail, form.view1);
   frmabout about(session);
 
+  type.load();
   ignored.load();
   list.load();
   entry.load();
   about.load();
 
+  EXPECT_EQ(expect_all_texts(type), 4);
   EXPECT_EQ(expect_all_texts(ignored), 6);
   EXPECT_EQ(expect_all_texts(list), 8);
   EXPECT_EQ(expect_all_texts(entry), 12);
@@ -109,7 +114,7 @@ TEST(ChangeLanguage, LeavesTreeStatusAndMessagesEnglish) {
   EXPECT_EQ(form.Label11.caption().substr(0, 18), "Junk files found :");
   const auto boxes = stage.machine.dialogs().take_boxes();
   ASSERT_EQ(boxes.size(), 1U);
-  EXPECT_EQ(boxes[0].text.substr(0, 12), "Are you sure");
+  EXPECT_EQ(boxes[0].text.substr(0, 12), "Are You sure");
 }
 
 TEST(ChangeLanguage, AKeyThatTheFileLacksBlanksItsText) {

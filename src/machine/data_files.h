@@ -13,7 +13,7 @@ struct DataFile {
 
 [[nodiscard]] std::span<const DataFile> data_files();
 
-// The bytes of one of them, by its name; empty when none has it.
+// The bytes of the one of that name; empty when there is none.
 [[nodiscard]] std::string_view data_file(std::string_view name);
 
 }  // namespace quillvane

@@ -1,4 +1,9 @@
 // What the table of file types that comes with the program has to hold to.
+<<<<<<<< HEAD:src/machine/factory_types_test.cpp
+========
+#include "machine/data_files.h"
+
+>>>>>>>> lang:src/machine/shipped_types_test.cpp
 #include <gtest/gtest.h>
 
 #include <algorithm>

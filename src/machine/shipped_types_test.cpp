@@ -1,9 +1,6 @@
 // What the table of file types that comes with the program has to hold to.
-<<<<<<<< HEAD:src/machine/factory_types_test.cpp
-========
 #include "machine/data_files.h"
 
->>>>>>>> lang:src/machine/shipped_types_test.cpp
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -13,7 +10,6 @@
 
 #include "drivesearch/type_families.h"
 #include "drivesearch/type_table.h"
-#include "machine/data_files.h"
 #include "platform/file_system.h"
 #include "tests/support/temp_machine.h"
 

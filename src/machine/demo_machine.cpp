@@ -9,9 +9,9 @@
 #include <variant>
 #include <vector>
 
+#include "machine/data_files.h"
 #include "machine/demo_files.h"
 #include "machine/demo_links.h"
-#include "machine/factory_type_table.h"
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_path.h"
 #include "platform/folder/machine_json.h"
@@ -139,11 +139,13 @@ std::optional<std::string> stage_files(const MachineState& machine) {
   stage.folder(kDenied);
   stage.junction(std::string(kUserFolder) + "\\Local Settings",
                  std::string(kUserFolder) + "\\AppData\\Local");
+  for (const DataFile& file : data_files()) {
+    stage.file(machine.program_folder + "\\" + std::string(file.name),
+               {.text = file.bytes, .bytes = 0, .time = {}});
+  }
   stage.file(machine.program_folder + "\\ignore.tdw", {.text = kIgnored, .bytes = 0, .time = {}});
   stage.file(machine.program_folder + "\\custom.tdw",
              {.text = kCustomEntry, .bytes = 0, .time = {}});
-  stage.file(machine.program_folder + "\\tmptype.orv",
-             {.text = factory_type_table(), .bytes = 0, .time = {}});
   return stage.problem();
 }
 

@@ -16,9 +16,9 @@
 #include <vector>
 
 #include "machine/create_machine.h"
+#include "machine/data_files.h"
 #include "machine/demo_files.h"
 #include "machine/demo_links.h"
-#include "machine/factory_type_table.h"
 #include "platform/folder/folder_machine.h"
 #include "platform/folder/machine_files.h"
 #include "platform/folder/registry_store.h"
@@ -84,7 +84,7 @@ std::unique_ptr<FolderMachine> DemoMachine::machine_;
 TEST_F(DemoMachine, HoldsAFewHundredFiles) {
   const std::size_t count = listing(folder_->path()).size();
   EXPECT_GE(count, 300U);
-  EXPECT_LE(count, 600U);
+  EXPECT_LE(count, 900U);
 }
 
 TEST_F(DemoMachine, EachFileOfTheTablesIsThereInItsLength) {
@@ -170,7 +170,7 @@ TEST_F(DemoMachine, HasAnIgnoredFolderACustomEntryAndAQueuedFile) {
 
 TEST_F(DemoMachine, HasTheTableOfFileTypesThatComesWithTheProgram) {
   const std::string program = machine_->state().program_folder;
-  EXPECT_EQ(machine_->files().read_file(program + "\\tmptype.orv"), factory_type_table());
+  EXPECT_EQ(machine_->files().read_file(program + "\\tmptype.orv"), data_file("tmptype.orv"));
 }
 
 TEST_F(DemoMachine, OldOperaIsReachedThroughTheJunctionOfTheOlderLayout) {

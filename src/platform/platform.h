@@ -12,6 +12,7 @@
 #include "platform/file_system.h"
 #include "platform/instances.h"
 #include "platform/links.h"
+#include "platform/locale.h"
 #include "platform/message_loop.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
@@ -30,6 +31,7 @@ struct Platform {
   Registry& registry;
   Environment& environment;
   SystemInfo& system;
+  LocaleSettings& locale;
   SystemEventLog& event_log;
   Processes& processes;
   Instances& instances;
@@ -46,6 +48,7 @@ struct Platform {
   struct Replacement {
     FileSystem* files = nullptr;
     Registry* registry = nullptr;
+    LocaleSettings* locale = nullptr;
     Dialogs* dialogs = nullptr;
     Links* links = nullptr;
   };
@@ -57,6 +60,7 @@ struct Platform {
             .registry = other.registry != nullptr ? *other.registry : registry,
             .environment = environment,
             .system = system,
+            .locale = other.locale != nullptr ? *other.locale : locale,
             .event_log = event_log,
             .processes = processes,
             .instances = instances,

@@ -16,6 +16,7 @@
 #include "platform/folder/machine_instances.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_links.h"
+#include "platform/folder/machine_locale.h"
 #include "platform/folder/machine_outward.h"
 #include "platform/folder/machine_processes.h"
 #include "platform/folder/machine_system.h"
@@ -65,6 +66,7 @@ struct FolderMachine::Parts {
   MachineDrives drives;
   MachineEnvironment environment;
   MachineSystem system;
+  MachineLocale locale;
   MachineEventLog event_log;
   MachineProcesses processes;
   MachineInstances instances;
@@ -111,6 +113,7 @@ Platform FolderMachine::platform(Dialogs& dialogs) {
           .registry = *registry_,
           .environment = parts_->environment,
           .system = parts_->system,
+          .locale = parts_->locale,
           .event_log = parts_->event_log,
           .processes = parts_->processes,
           .instances = parts_->instances,

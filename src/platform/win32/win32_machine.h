@@ -8,6 +8,7 @@
 #include "platform/win32/win32_file_system.h"
 #include "platform/win32/win32_instances.h"
 #include "platform/win32/win32_links.h"
+#include "platform/win32/win32_locale.h"
 #include "platform/win32/win32_processes.h"
 #include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_security.h"
@@ -33,6 +34,7 @@ class Win32Machine {
             .registry = registry_,
             .environment = environment_,
             .system = system_,
+            .locale = locale_,
             .event_log = event_log_,
             .processes = processes_,
             .instances = instances_,
@@ -52,6 +54,7 @@ class Win32Machine {
   Win32Registry registry_;
   Win32Environment environment_;
   Win32SystemInfo system_;
+  Win32Locale locale_;
   Win32EventLog event_log_;
   Win32Processes processes_;
   Win32Instances instances_;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "tests/support/failing_registry.h"
 #include "tests/support/shortcut_fixture.h"
@@ -86,6 +87,16 @@ TEST(Form3, StoresNoOptionsWhereTheyCouldNotBeRead) {
   EXPECT_EQ(told, Texts{"options: not saved: the disk fails"});
   EXPECT_EQ(fixture.setting("short", "o5"), "1");
   EXPECT_EQ(fixture.setting("short", "c1"), "(none)");
+}
+
+TEST(Form3, TicksTheFirstDriveAgainWhicheverWereTicked) {
+  ShortcutFixture fixture(R"({"drives": [{"letter": "C"}, {"letter": "D"}, {"letter": "E"}]})");
+  Form3& form = fixture.start();
+  form.View2.tick_row(2, true);
+  form.View2.tick_row(3, true);
+  form.close();
+
+  EXPECT_EQ(ticked(fixture.start().View2), std::vector<int>{1});
 }
 
 TEST(Form3, ReadsNoMoreOptionsThanAreThereWhateverTheCountIs) {

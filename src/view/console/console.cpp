@@ -22,8 +22,9 @@ CLI::App& group_of(CLI::App& app, const ConsoleCommand& command) {
   const auto known =
       app.get_subcommands([&](const CLI::App* other) { return other->get_name() == name; });
   if (!known.empty()) return *known.front();
-  const char* description =
-      name == "machine" ? "Machine folders" : "The registry of a machine folder";
+  const char* description = name == "machine" ? "Machine folders"
+                            : name == "lists" ? "The program's lists"
+                                              : "The registry of a machine folder";
   CLI::App* group = app.add_subcommand(name, description);
   group->require_subcommand(1);
   return *group;

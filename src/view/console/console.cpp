@@ -27,6 +27,7 @@ constexpr GroupWords kGroups[] = {
     {"machine", "Machine folders"},
     {"registry", "The registry of a machine folder"},
     {"language", "Language files"},
+    {"lists", "The program's lists"},
 };
 
 CLI::App& group_of(CLI::App& app, const ConsoleCommand& command) {

@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "support/characters.h"
 #include "support/like.h"
 #include "support/text.h"
 
@@ -15,12 +16,6 @@ constexpr std::string_view kWildcards = "*?#[";
 
 bool is_pattern(std::string_view text) {
   return text.find_first_of(kWildcards) != std::string_view::npos;
-}
-
-std::size_t character_count(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-    return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U;
-  }));
 }
 
 // A pattern taken apart. Requires: it is well formed.

@@ -18,6 +18,8 @@ class ListBox : public Control {
   [[nodiscard]] std::string item(int index) const;
   [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
   void add(std::string_view text);
+  // Those behind them move up. Requires: there are so many.
+  void remove_first(int count);
   // Does nothing when there is no such item.
   void remove(int index);
   void clear();

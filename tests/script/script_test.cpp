@@ -13,7 +13,9 @@
 //   *.tmp"
 //   #:leftrecord PATH | ...  one more record that such a file must hold when the script has ended
 //   #:leftempty PATH         a file that must be there without a byte
-//   #:text PATH | TEXT       the whole of a text file; <CR> and <LF> are those characters
+//   #:text PATH | TEXT       the whole of a text file
+//   #:link PATH | TARGET     a shell link, made behind all files
+// In texts but those of code page 1252 <CR> is that character, in #:text <LF> too.
 // What it must print stands in NAME.expected. A script that ends early has NAME.problem with what
 // is told on standard error.
 
@@ -31,9 +33,11 @@
 
 #include "app/make_machine_host.h"
 #include "machine/data_files.h"
+#include "platform/folder/folder_machine.h"
 #include "platform/folder/host_code_page.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_staging.h"
+#include "platform/virtual/queued_dialogs.h"
 #include "support/text.h"
 #include "tests/script/expected_output.h"
 #include "tests/support/temp_folder.h"
@@ -71,6 +75,7 @@ class StagedMachine {
       if (line.starts_with("#:")) stage(line.substr(2));
     }
     for (const auto& [path, text] : texts_) put(path, {.text = text, .bytes = 0, .time = {}});
+    make_links();
   }
 
   // Runs the console program; `out` and `err` hold what it wrote.
@@ -132,9 +137,26 @@ class StagedMachine {
     }
   }
 
+  void make_links() {
+    if (links_.empty()) return;
+    auto opened = FolderMachine::open(dir());
+    ASSERT_TRUE(std::holds_alternative<std::unique_ptr<FolderMachine>>(opened));
+    FolderMachine& machine = *std::get<std::unique_ptr<FolderMachine>>(opened);
+    QueuedDialogs dialogs(machine.effects());
+    const Platform platform = machine.platform(dialogs);
+    for (const auto& [path, target] : links_) {
+      EXPECT_FALSE(stage_folder(state(), path.substr(0, path.rfind('\\')))) << path;
+      EXPECT_TRUE(platform.links.write_link(path, {.target = target})) << path;
+    }
+  }
+
   void stage_text(const std::string& what, const std::string& path, const std::string& text) {
     if (what == "text") {
       texts_[path] = replace_all(replace_all(text, "<CR>", "\r"), "<LF>", "\n");
+      return;
+    }
+    if (what == "link") {
+      links_[path] = text;
       return;
     }
     Texts& texts = what.starts_with("left") ? shall_be_left_ : texts_;
@@ -146,7 +168,7 @@ class StagedMachine {
       texts[path] += *bytes + "\r\n";
     } else {
       EXPECT_TRUE(what == "line" || what == "left") << what;
-      texts[path] += text + "\r\n";
+      texts[path] += replace_all(text, "<CR>", "\r") + "\r\n";
     }
   }
 
@@ -172,6 +194,7 @@ class StagedMachine {
   TempFolder folder_;
   std::unique_ptr<MachineHost> host_ = make_machine_host();
   Texts texts_;
+  Texts links_;  // targets
   Texts shall_be_left_;
 };
 

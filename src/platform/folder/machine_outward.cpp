@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/folder/recycle_bin.h"
 #include "platform/unicode_case.h"
 
 namespace quillvane {
@@ -55,9 +56,13 @@ void MachineSecurity::set_file_access(const std::string& /*account*/, const std:
   effects_.add("file-access", {{"path", path}});
 }
 
-MachineShell::MachineShell(const MachineState& state, EffectLog& effects, const FileSystem& files,
-                           std::function<void()> empty_bin)
-    : state_(state), effects_(effects), files_(files), empty_bin_(std::move(empty_bin)) {}
+MachineShell::MachineShell(const MachineState& state, EffectLog& effects, FileSystem& files,
+                           const MessageLoop& loop, std::function<void()> empty_bin)
+    : state_(state),
+      effects_(effects),
+      files_(files),
+      loop_(loop),
+      empty_bin_(std::move(empty_bin)) {}
 
 int MachineShell::open(const ShellRequest& request) {
   effects_.add(
@@ -80,6 +85,10 @@ std::string MachineShell::special_folder(int id) const {
     return variable == state_.environment.end() ? std::string() : variable->second + folder.suffix;
   }
   return {};
+}
+
+bool MachineShell::recycle(const std::string& path) {
+  return move_to_recycle_bin(files_, path, loop_.local_now());
 }
 
 void MachineShell::empty_recycle_bin() {

@@ -14,6 +14,7 @@ namespace {
 constexpr std::array kCommands = {
     ConsoleCommand{"", "scan", "Search the machine for junk; nothing is removed", prepare_scan},
     ConsoleCommand{"", "clean", "Search, ask, and remove what was found", prepare_clean},
+    ConsoleCommand{"", "shortcuts", "Find links whose target is gone", prepare_shortcuts},
     ConsoleCommand{"", "run", "Do what the suite asks for by a run switch", prepare_run},
     ConsoleCommand{"", "script", "Drive the windows by an automation script", prepare_script},
     ConsoleCommand{"", "report", "Search, and write what was found into a report", prepare_report},
@@ -30,7 +31,6 @@ constexpr std::array kCommands = {
                    prepare_registry_import},
     ConsoleCommand{"language", "check", "Tell what a language file lacks", prepare_language_check},
     ConsoleCommand{"", "search", "", prepare_unavailable},
-    ConsoleCommand{"", "shortcuts", "", prepare_unavailable},
 };
 
 // Each a line.

@@ -22,9 +22,14 @@ CLI::App& group_of(CLI::App& app, const ConsoleCommand& command) {
   const auto known =
       app.get_subcommands([&](const CLI::App* other) { return other->get_name() == name; });
   if (!known.empty()) return *known.front();
-  const char* description =
-      name == "machine" ? "Machine folders" : "The registry of a machine folder";
-  CLI::App* group = app.add_subcommand(name, description);
+  constexpr std::pair<std::string_view, const char*> kDescriptions[] = {
+      {"machine", "Machine folders"},
+      {"registry", "The registry of a machine folder"},
+      {"paint", "The program's own controls as PNG files"},
+  };
+  const auto* described =
+      std::ranges::find(kDescriptions, name, [](const auto& d) { return d.first; });
+  CLI::App* group = app.add_subcommand(name, described->second);
   group->require_subcommand(1);
   return *group;
 }

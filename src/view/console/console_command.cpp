@@ -22,6 +22,11 @@ constexpr std::array kCommands = {
                    prepare_registry_export},
     ConsoleCommand{"registry", "import", "Read .reg text into a machine's registry",
                    prepare_registry_import},
+    ConsoleCommand{"paint", "button", "Draw a button", prepare_paint_button},
+    ConsoleCommand{"paint", "bar", "Draw a progress bar", prepare_paint_bar},
+    ConsoleCommand{"paint", "shadow", "Draw the shadow of a window", prepare_paint_shadow},
+    ConsoleCommand{"", "gallery", "Draw all controls in all their states on one sheet",
+                   prepare_gallery},
     ConsoleCommand{"", "search", "", prepare_unavailable},
     ConsoleCommand{"", "shortcuts", "", prepare_unavailable},
 };

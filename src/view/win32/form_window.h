@@ -117,6 +117,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   std::vector<Control*> observed_;  // frames that the table names, and the title's label
   std::uint64_t refreshed_ms_ = 0;
   bool refresh_is_due_ = false;
+  bool is_topmost_ = false;
 };
 
 }  // namespace quillvane

@@ -17,8 +17,8 @@ struct Row {
 
 constexpr Row kRows[] = {
     {"app",
-     "view/win32 view/console core forms machine support platform/folder platform/virtual "
-     "platform/win32 platform",
+     "view/win32 view/console core forms machine support platform/folder platform/pictures "
+     "platform/virtual platform/win32 platform",
      true},
     {"view/win32", "core scan forms controls support platform/win32 platform", true},
     {"view/console",
@@ -40,6 +40,7 @@ constexpr Row kRows[] = {
     {"machine", "platform/folder support platform"},
     {"platform/folder/win32", "platform/folder platform/win32 support platform", true},
     {"platform/folder", "platform/virtual support platform", true},
+    {"platform/pictures", "platform", true},
     {"platform/win32", "support platform", true},
     {"platform/virtual", "platform"},
     {"support", "platform"},

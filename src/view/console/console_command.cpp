@@ -30,6 +30,11 @@ constexpr std::array kCommands = {
     ConsoleCommand{"registry", "import", "Read .reg text into a machine's registry",
                    prepare_registry_import},
     ConsoleCommand{"language", "check", "Tell what a language file lacks", prepare_language_check},
+    ConsoleCommand{"paint", "button", "Draw a button", prepare_paint_button},
+    ConsoleCommand{"paint", "bar", "Draw a progress bar", prepare_paint_bar},
+    ConsoleCommand{"paint", "shadow", "Draw the shadow of a window", prepare_paint_shadow},
+    ConsoleCommand{"", "gallery", "Draw all controls in all their states on one sheet",
+                   prepare_gallery},
     ConsoleCommand{"", "search", "", prepare_unavailable},
 };
 

@@ -9,6 +9,10 @@
 //   #:left PATH | TEXT       one more line of what a text file must hold when the script has ended
 //   #:line1252, #:left1252   the same in code page 1252
 //   #:shipped                the files that ship with the program, beside it
+//   #:record PATH | F | F    one more record of a file; a field is its width and its text: "50
+//   *.tmp"
+//   #:leftrecord PATH | ...  one more record that such a file must hold when the script has ended
+//   #:leftempty PATH         a file that must be there without a byte
 //   #:text PATH | TEXT       the whole of a text file
 //   #:link PATH | TARGET     a shell link, made behind all files
 // In texts but those of code page 1252 <CR> is that character, in #:text <LF> too.
@@ -124,6 +128,8 @@ class StagedMachine {
       }
     } else if (what == "machine") {
       folder_.write("machine/machine.json", rest);
+    } else if (what == "leftempty") {
+      shall_be_left_[rest] = "";
     } else if (what == "folder") {
       EXPECT_FALSE(stage_folder(state(), rest)) << rest;
     } else {
@@ -154,7 +160,9 @@ class StagedMachine {
       return;
     }
     Texts& texts = what.starts_with("left") ? shall_be_left_ : texts_;
-    if (what == "line1252" || what == "left1252") {
+    if (what.ends_with("record")) {
+      for (const std::string& field : Split(text, " | ")) texts[path] += record_field(field);
+    } else if (what == "line1252" || what == "left1252") {
       const auto bytes = host_code_page(1252)->encode(text);
       ASSERT_TRUE(bytes) << text;
       texts[path] += *bytes + "\r\n";
@@ -162,6 +170,14 @@ class StagedMachine {
       EXPECT_TRUE(what == "line" || what == "left") << what;
       texts[path] += replace_all(text, "<CR>", "\r") + "\r\n";
     }
+  }
+
+  // "50 *.tmp": that text, filled up with blanks.
+  static std::string record_field(const std::string& field) {
+    const auto blank = std::min(field.find(' '), field.size());
+    std::string text = field.substr(std::min(blank + 1, field.size()));
+    text.resize(std::stoul(field), ' ');
+    return text;
   }
 
   void put(const std::string& path, const StagedContent& content) {

@@ -58,6 +58,16 @@ std::function<int()> prepare_machine_show(CLI::App& app, ConsoleSession& session
 std::function<int()> prepare_registry_export(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_registry_import(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_language_check(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_report(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_show(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_add(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_remove(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_on(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_off(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_paint_button(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_paint_bar(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_paint_shadow(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_gallery(CLI::App& app, ConsoleSession& session);
 // A command that this version does not have; takes any words.
 std::function<int()> prepare_unavailable(CLI::App& app, ConsoleSession& session);
 

@@ -64,7 +64,8 @@ TEST(Console, VersionAndHelpAreResults) {
 
   Stage help;
   EXPECT_EQ(help.run({"--help"}), 0);
-  for (const char* word : {"scan", "shortcuts", "script", "machine", "registry", "--machine", "--json"}) {
+  for (const char* word :
+       {"scan", "shortcuts", "script", "machine", "registry", "--machine", "--json"}) {
     EXPECT_NE(help.out.str().find(word), std::string::npos) << word;
   }
   EXPECT_EQ(help.err.str(), "");

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <utility>
 
-#include "view/win32/gdiplus_api.h"
+#include "platform/win32/gdiplus_api.h"
 
 namespace quillvane {
 

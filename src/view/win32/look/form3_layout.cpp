@@ -45,7 +45,6 @@ constexpr ControlPlace title_button(std::string_view name) {
 // In the order in which Tab goes through them.
 constexpr ControlPlace kControls[] = {
     left("Toolbar1", kToolbar, kTools, 400).says("Commands").with("toolbar"),
-    right("Label2(0)", kLink, kTools, 40),
     left("Option4", kOption, kTop, 200).on(kWherePanel),
     left("Option5", kOption, kTop, 200).on(kWherePanel),
     whole("View2", kList, kMain).on(kWherePanel).says("Drives to search").with("row-drive"),
@@ -70,6 +69,7 @@ constexpr ControlPlace kControls[] = {
     right("cmd_report", kButton, kCommands, 112),
     right("cmd_fix", kButton, kCommands, 104),
     right("cmd_delete", kButton, kCommands, 90),
+    right("Label2(0)", kLink, kTools, 40),
     title_button("chameleonButton9").says("Close").with("title-close"),
     title_button("chameleonButton12").says("Minimise").with("title-minimise"),
     title_button("chameleonButton18").says("About").with("title-about"),

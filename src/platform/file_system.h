@@ -31,6 +31,8 @@ inline constexpr std::uint32_t kAttributeSystem = 0x04;
 inline constexpr std::uint32_t kAttributeFolder = 0x10;
 inline constexpr std::uint32_t kAttributeArchive = 0x20;
 inline constexpr std::uint32_t kAttributeNormal = 0x80;
+inline constexpr std::uint32_t kAttributeTemporary = 0x100;
+inline constexpr std::uint32_t kAttributeCompressed = 0x800;
 
 // One entry of a folder's listing.
 struct FolderEntry {

@@ -30,6 +30,9 @@ class SystemInfo {
   // Folder of the program's executable, which is also its data folder; no backslash at its end.
   [[nodiscard]] virtual std::string program_folder() const = 0;
 
+  // Folder of the system's own programs, as GetSystemDirectoryA answers; empty on any error.
+  [[nodiscard]] virtual std::string system_folder() const = 0;
+
   // Whether this is a 32-bit program on 64-bit Windows (IsWow64Process); false on any error.
   [[nodiscard]] virtual bool is_wow64() const = 0;
 

@@ -20,6 +20,7 @@ class Locale final : public SystemInfo {
   explicit Locale(DateOrder order) : order_(order) {}
 
   [[nodiscard]] std::string program_folder() const override { return "C:\\Program"; }
+  [[nodiscard]] std::string system_folder() const override { return "C:\\Windows\\System32"; }
   [[nodiscard]] bool is_wow64() const override { return false; }
   [[nodiscard]] int ansi_code_page() const override { return 1252; }
   [[nodiscard]] const CodePage* code_page(int) const override { return nullptr; }

@@ -62,6 +62,12 @@ std::string Win32SystemInfo::program_folder() const {
                                     : narrow(std::wstring_view(path).substr(0, name));
 }
 
+std::string Win32SystemInfo::system_folder() const {
+  wchar_t path[MAX_PATH];
+  const UINT length = GetSystemDirectoryW(path, MAX_PATH);
+  return length < MAX_PATH ? narrow({path, length}) : std::string();
+}
+
 bool Win32SystemInfo::is_wow64() const {
   BOOL is_wow64 = FALSE;
   return IsWow64Process(GetCurrentProcess(), &is_wow64) && is_wow64;

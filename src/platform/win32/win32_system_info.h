@@ -8,6 +8,7 @@ namespace quillvane {
 class Win32SystemInfo final : public SystemInfo {
  public:
   [[nodiscard]] std::string program_folder() const override;
+  [[nodiscard]] std::string system_folder() const override;
   [[nodiscard]] bool is_wow64() const override;
   [[nodiscard]] int ansi_code_page() const override;
   [[nodiscard]] const CodePage* code_page(int number) const override;

@@ -58,6 +58,7 @@ FormWindow::~FormWindow() {
   free_owner();
   views_.clear();
   tabs_ = nullptr;
+  choices_ = nullptr;
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
   DestroyWindow(window_);
 }
@@ -159,6 +160,10 @@ std::optional<LRESULT> FormWindow::handle_controls(UINT message, WPARAM w, LPARA
     }
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(l);
+      if (choices_ != nullptr && item.hwndItem == choices_->window()) {
+        choices_->draw(item);
+        return TRUE;
+      }
       if (ControlView* view = view_of(item.hwndItem)) view->draw(item);
       return TRUE;
     }
@@ -248,7 +253,9 @@ void FormWindow::refresh() {
   KillTimer(window_, kRefreshTimer);
   refresh_is_due_ = false;
   for (const auto& view : views_) view->refresh();
+  if (wanted_widths() != arranged_widths_) arrange_controls();
   show_controls();
+  if (choices_ != nullptr) choices_->refresh();
   keep_focus();
   refreshed_ms_ = GetTickCount64();
 }
@@ -268,6 +275,7 @@ void FormWindow::restyle() {
   std::swap(bold_font, bold_font_);
   for (const auto& view : views_) view->restyle();
   if (tabs_ != nullptr) tabs_->restyle();
+  if (choices_ != nullptr) choices_->restyle();
   needs_refresh();
   InvalidateRect(window_, nullptr, TRUE);
 }

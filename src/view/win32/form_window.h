@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "forms/window.h"
+#include "view/win32/choice_list.h"
 #include "view/win32/control_view.h"
 #include "view/win32/hints.h"
 #include "view/win32/look/arrange.h"
@@ -72,6 +73,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   void limit_size(MINMAXINFO& limits) const;
   [[nodiscard]] RECT first_place() const;
   [[nodiscard]] std::string title() const;
+  [[nodiscard]] FontOwner title_font() const;
   void show_window();  // as the model tells
   void free_owner();
 
@@ -79,6 +81,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   void make_controls();
   void watch(std::string_view name);
   [[nodiscard]] ControlView* view_of(HWND window) const;
+  [[nodiscard]] std::vector<int> wanted_widths() const;
   void arrange_controls();
   [[nodiscard]] bool is_shown(const ControlView& view) const;
   void show_controls();
@@ -111,6 +114,8 @@ class FormWindow final : public ViewHost, private ControlObserver {
   Pictures pictures_;
   Hints hints_;
   std::unique_ptr<TabStrip> tabs_;
+  std::unique_ptr<ChoiceList> choices_;
+  std::vector<int> arranged_widths_;  // what the captions needed when the controls were placed
   std::vector<std::unique_ptr<ControlView>> views_;  // as in the table
   std::deque<UserAct> acts_;
   bool is_reading_ = false;         // inside serve_reading

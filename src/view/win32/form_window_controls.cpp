@@ -21,6 +21,9 @@ void FormWindow::make_controls() {
     watch(place.page);
   }
   watch(layout_.title);
+  if (layout_.choices.panel.empty()) return;
+  watch(layout_.choices.panel);
+  choices_ = std::make_unique<ChoiceList>(*this, model_);
 }
 
 void FormWindow::watch(std::string_view name) {
@@ -37,13 +40,22 @@ ControlView* FormWindow::view_of(HWND window) const {
   return found == views_.end() ? nullptr : found->get();
 }
 
+// Of the controls that get wider with their captions.
+std::vector<int> FormWindow::wanted_widths() const {
+  std::vector<int> wanted;
+  for (const auto& view : views_) {
+    wanted.push_back(view->place().pack == Pack::kFill ? 0 : view->wanted_width());
+  }
+  return wanted;
+}
+
 void FormWindow::arrange_controls() {
   if (views_.empty()) return;
-  std::vector<int> wanted;
-  for (const auto& view : views_) wanted.push_back(view->wanted_width());
+  arranged_widths_ = wanted_widths();
   RECT area{};
   GetClientRect(window_, &area);
-  const Arrangement places = arrange(layout_, area.right, area.bottom, dpi_, wanted);
+  const Arrangement places = arrange(layout_, area.right, area.bottom, dpi_, arranged_widths_);
+  if (choices_ != nullptr) choices_->place(area.right);
   for (std::size_t i = 0; i < views_.size(); ++i) {
     const Box& box = places.controls[i];
     MoveWindow(views_[i]->window(), box.left - views_[i]->overhang(), box.top, box.width,

@@ -32,6 +32,8 @@ bool FormWindow::take_key(MSG& message) {
   const bool is_ours = message.hwnd == window_ || IsChild(window_, message.hwnd) != 0;
   if (!is_ours) return false;
   if (message.message == WM_KEYDOWN) {
+    const bool is_for_choices = choices_ != nullptr && message.hwnd == choices_->window();
+    if (is_for_choices && choices_->take_key(message.wParam)) return true;
     if (click_by_key(message.wParam)) return true;
     if (message.wParam == VK_RETURN && press_focused_or_default(message.hwnd)) return true;
   }

@@ -28,6 +28,7 @@ class ListBinding final : public ControlView {
   [[nodiscard]] bool has_boxes() const { return place().kind == ControlKind::kList; }
   void make_images();
   void make_columns();
+  void show_captions();
   void set_widths();
   void fit_columns();
   void show_order();

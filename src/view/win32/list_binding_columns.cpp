@@ -81,6 +81,16 @@ void ListBinding::make_columns() {
   }
 }
 
+void ListBinding::show_captions() {
+  for (std::size_t i = 0; i < list_.columns().size(); ++i) {
+    std::wstring text = widen(list_.columns()[i]);
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT;
+    column.pszText = text.data();
+    send(LVM_SETCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+  }
+}
+
 // File names take what the other columns leave; in a list without boxes it is the last column.
 void ListBinding::fit_columns() {
   const std::size_t count = list_.columns().size();
@@ -126,7 +136,7 @@ LRESULT ListBinding::draw_header(const NMCUSTOMDRAW& drawing) const {
   fill(drawing.hdc, area, theme.page);
   frame(drawing.hdc, area, theme.border);
   InflateRect(&area, -scaled(kHeaderBeside, host().dpi()), 0);
-  const Selected font(drawing.hdc, host().font());
+  const Selected font(drawing.hdc, plain_font());
   SetBkMode(drawing.hdc, TRANSPARENT);
   SetTextColor(drawing.hdc, theme.text);
   const UINT side = has_boxes() && column == 1 ? DT_RIGHT : DT_LEFT;  // sizes

@@ -35,29 +35,29 @@ TrayArea::TrayArea(Window& window, std::string_view name, Tray& tray, std::strin
     : Control(window, name), tray_(tray), tool_tip_(tool_tip), icon_(icon_of_the_program()) {}
 
 TrayArea::~TrayArea() {
-  if (icon_visible_) tray_.remove();
+  if (icon_visible_) tray_.remove(this);
 }
 
 void TrayArea::set_icon_visible(bool visible) {
   if (icon_visible_ == visible) return;
   icon_visible_ = visible;
   if (visible) {
-    tray_.add(tool_tip_, [this] { double_click(); });
+    tray_.add(this, tool_tip_, [this](int message) { mouse_message(message); });
   } else {
-    tray_.remove();
+    tray_.remove(this);
   }
   notify(Change::kVisible);
 }
 
 void TrayArea::set_tool_tip(std::string_view text) {
   tool_tip_ = text;
-  if (icon_visible_) tray_.modify(tool_tip_);
+  if (icon_visible_) tray_.modify(this, tool_tip_);
 }
 
 void TrayArea::set_icon(StoredPicture icon) {
   icon_ = std::move(icon);
   if (icon_ == nullptr) return set_icon_visible(false);
-  if (icon_visible_) tray_.modify(tool_tip_);
+  if (icon_visible_) tray_.modify(this, tool_tip_);
 }
 
 void TrayArea::read_properties(const PropertyStore& store) {
@@ -79,6 +79,12 @@ void TrayArea::mouse_message(int message) {
     if (known.event == TrayEvent::kUp && on_mouse_up) on_mouse_up(known.button);
     if (known.event == TrayEvent::kDoubleClick) double_click();
   }
+}
+
+void TrayArea::click() {
+  constexpr int kLeft = 1;
+  if (icon_visible_ && on_mouse_down) on_mouse_down(kLeft);
+  if (icon_visible_ && on_mouse_up) on_mouse_up(kLeft);
 }
 
 void TrayArea::double_click() {

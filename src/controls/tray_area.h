@@ -33,6 +33,8 @@ class TrayArea : public Control {
   void mouse_message(int message);
   // The same as it arrives: as the place of a move over the control, in twips.
   void mouse_move(int x, int twips_per_pixel) { mouse_message(x / twips_per_pixel); }
+  // The user's click on the icon. Does nothing while it is not shown.
+  void click();
   // The user's double click on the icon, with either button.
   void double_click();
 

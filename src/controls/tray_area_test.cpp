@@ -11,11 +11,17 @@ using Notes = std::vector<std::string>;
 
 class NotingTray final : public Tray {
  public:
-  void add(const std::string& tip, std::function<void()> /*double_click*/) override {
+  void add(const void* /*owner*/, const std::string& tip,
+           std::function<void(int message)> told) override {
     notes.push_back("add " + tip);
+    mouse = std::move(told);
   }
-  void modify(const std::string& tip) override { notes.push_back("modify " + tip); }
-  void remove() override { notes.emplace_back("remove"); }
+  void modify(const void* /*owner*/, const std::string& tip) override {
+    notes.push_back("modify " + tip);
+  }
+  void remove(const void* /*owner*/) override { notes.emplace_back("remove"); }
+
+  std::function<void(int message)> mouse;
 
   Notes notes;
 };
@@ -35,6 +41,15 @@ TEST(TrayArea, IsAddedAndRemovedOnce) {
   stage.area.set_icon_visible(false);
   stage.area.set_tool_tip("third");
   EXPECT_EQ(stage.tray.notes, (Notes{"add tip", "modify other", "remove"}));
+}
+
+TEST(TrayArea, IsToldByTheIconWhatTheMouseDoes) {
+  Stage stage;
+  int buttons = 0;
+  stage.area.on_mouse_up = [&buttons](int button) { buttons += button; };
+  stage.area.set_icon_visible(true);
+  stage.tray.mouse(514);
+  EXPECT_EQ(buttons, 1);
 }
 
 TEST(TrayArea, NoIconHidesIt) {

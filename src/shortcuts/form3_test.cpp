@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 #include "tests/support/failing_registry.h"
 #include "tests/support/shortcut_fixture.h"
@@ -88,6 +89,16 @@ TEST(Form3, StoresNoOptionsWhereTheyCouldNotBeRead) {
   EXPECT_EQ(fixture.setting("short", "c1"), "(none)");
 }
 
+TEST(Form3, TicksTheFirstDriveAgainWhicheverWereTicked) {
+  ShortcutFixture fixture(R"({"drives": [{"letter": "C"}, {"letter": "D"}, {"letter": "E"}]})");
+  Form3& form = fixture.start();
+  form.View2.tick_row(2, true);
+  form.View2.tick_row(3, true);
+  form.close();
+
+  EXPECT_EQ(ticked(fixture.start().View2), std::vector<int>{1});
+}
+
 TEST(Form3, ReadsNoMoreOptionsThanAreThereWhateverTheCountIs) {
   ShortcutFixture fixture;
   fixture.set_setting("short", "tot", "1e300");
@@ -101,8 +112,8 @@ TEST(Form3, ARunWithoutAUserRemovesNothingOnceTheProgramHasEnded) {
   fixture.add_link(kStartMenu + "\\A.lnk", "C:\\gone.exe");
   fixture.add_link(kStartMenu + "\\B.lnk", "C:\\gone.exe");
   Form3& form = fixture.start();
-  // Servings: two entries, two links, and the first row to be removed.
-  fixture.at_serving(5, [&] { fixture.program->session.end_cleaning(); });
+  fixture.when([&] { return form.Frame1.visible(); },
+               [&] { fixture.program->session.end_cleaning(); });
 
   form.Text6.set_text("1");
 

@@ -53,6 +53,9 @@ void ShortcutCommands::connect_buttons() {
   scan_.chameleonButton7.on_click = [this] { show_help(); };
   Label2_0.on_click = [this] { open_help_file(); };
   TrayArea1.on_double_click = [this] { leave_tray(); };
+  TrayArea1.on_mouse_up = [this](int button) {
+    if (button == 1) leave_tray();
+  };
   scan_.view1.on_item_click = [this](int row) { row_clicked(row); };
   scan_.view1.on_double_click = [this] { fix_row(); };
 }

@@ -110,6 +110,12 @@ void TargetSearch::list_wanted_files(const std::string& path, const ListedFolder
 
 // Notes the files, and the subfolders but for those whose name begins with a dot.
 void TargetSearch::findfilesapi(const std::string& path, const ListedFolder& folder) {
+  // The listing of a folder begins with "." and "..", but for that of a drive's root.
+  constexpr std::size_t kRootLength = 3;
+  const int dots = path.size() > kRootLength ? 2 : 0;
+  for (int i = 0; i < dots; ++i) {
+    if (stops_for_entry()) return;
+  }
   for (std::uint32_t i = 0; i < folder.file_count(); ++i) {
     LSTFILES.add(path + std::string(folder.name_of(i)));
     if (stops_for_entry()) return;

@@ -10,7 +10,7 @@ namespace quillvane {
 namespace {
 
 // Links in the root of drive C with targets of their own, as rows of the window.
-struct Search : ShortcutFixture {
+struct Targets : ShortcutFixture {
   void add_row(const std::string& name, const std::string& target) {
     const std::string path = "C:\\Links\\" + name + ".lnk";
     add_link(path, target.empty() ? "C:\\whatever" : target);
@@ -28,7 +28,7 @@ struct Search : ShortcutFixture {
 };
 
 TEST(TargetSearch, ARebuiltLinkHasTheNewTargetAndNothingElse) {
-  Search search;
+  Targets search;
   search.machine.add_file("C:\\New\\a.exe");
   search.add_row("A", "C:\\Gone\\a.exe");
   EXPECT_TRUE(search.machine.platform().links.write_link("C:\\Links\\A.lnk",
@@ -51,7 +51,7 @@ TEST(TargetSearch, ARebuiltLinkHasTheNewTargetAndNothingElse) {
 }
 
 TEST(TargetSearch, TheLastFileOfANameWins) {
-  Search search;
+  Targets search;
   search.machine.add_file("C:\\A\\a.exe");
   search.machine.add_file("C:\\B\\Deep\\a.exe");
   search.machine.add_file("C:\\C\\a.exe");
@@ -66,7 +66,7 @@ TEST(TargetSearch, TheLastFileOfANameWins) {
 }
 
 TEST(TargetSearch, ATargetWithoutABackslashMovesTheNamesByOne) {
-  Search search;
+  Targets search;
   search.machine.add_file("C:\\New\\b.exe");
   search.add_row("A", "");
   search.add_row("B", "C:\\Gone\\b.exe");
@@ -80,7 +80,7 @@ TEST(TargetSearch, ATargetWithoutABackslashMovesTheNamesByOne) {
 }
 
 TEST(TargetSearch, ANameIsAPattern) {
-  Search search;
+  Targets search;
   search.machine.add_file("C:\\New\\track7.mp3");
   search.machine.add_file("C:\\New\\track#.mp3");
   search.add_row("Seven", "C:\\Gone\\track7.mp3");
@@ -94,7 +94,7 @@ TEST(TargetSearch, ANameIsAPattern) {
 }
 
 TEST(TargetSearch, ABracketListThatIsNotClosedFitsNothing) {
-  Search search;
+  Targets search;
   search.machine.add_file("C:\\New\\song[1.mp3");
   search.machine.add_file("C:\\New\\other.mp3");
   search.add_row("Song", "C:\\Gone\\song[1.mp3");
@@ -107,7 +107,7 @@ TEST(TargetSearch, ABracketListThatIsNotClosedFitsNothing) {
 }
 
 TEST(TargetSearch, AReadOnlyLinkAndOneInUseStayAsTheyAre) {
-  Search search;
+  Targets search;
   search.machine.add_file("C:\\New\\a.exe");
   search.machine.add_file("C:\\New\\b.exe");
   search.add_row("A", "C:\\Gone\\a.exe");
@@ -123,7 +123,7 @@ TEST(TargetSearch, AReadOnlyLinkAndOneInUseStayAsTheyAre) {
 }
 
 TEST(TargetSearch, ACancelStopsItInEachFolder) {
-  Search search;
+  Targets search;
   search.machine.add_file("C:\\New\\a.exe");
   search.add_row("A", "C:\\Gone\\a.exe");
   search.at_serving(2, [&] { search.form().chameleonButton3.click(); });
@@ -136,7 +136,7 @@ TEST(TargetSearch, ACancelStopsItInEachFolder) {
 }
 
 TEST(TargetSearch, AWantedNameThatBeginsWithTheNumberOneStopsItToo) {
-  Search search;
+  Targets search;
   search.machine.add_file("C:\\New\\1.exe");
   search.add_row("A", "C:\\Gone\\1.exe");
 
@@ -146,7 +146,7 @@ TEST(TargetSearch, AWantedNameThatBeginsWithTheNumberOneStopsItToo) {
 }
 
 TEST(TargetSearch, LooksOnTheDriveOfTheFirstLinkThatLiesOnAFixedOne) {
-  Search search;
+  Targets search;
   Form3& form = search.form();
   const int row = form.view1.add("Stick");
   form.view1.set_sub_item(row, kTargetColumn, "C:\\Gone\\a.exe");
@@ -162,7 +162,7 @@ TEST(TargetSearch, LooksOnTheDriveOfTheFirstLinkThatLiesOnAFixedOne) {
 }
 
 TEST(TargetSearch, GoesThroughMoreFoldersThanItTakesFromItsListAtOnce) {
-  Search search;
+  Targets search;
   for (int i = 0; i < 600; ++i) {
     search.machine.add_file("C:\\Many\\" + std::to_string(i) + "\\file.txt");
   }

@@ -112,12 +112,15 @@ bool MachineSuiteChannel::notify(const std::string& title, std::size_t length) {
   return found;
 }
 
-void MachineTray::add(const std::string& /*tip*/, std::function<void()> /*double_click*/) {
+void MachineTray::add(const void* /*owner*/, const std::string& /*tip*/,
+                      std::function<void(int message)> /*mouse*/) {
   effects_.add("tray-add");
 }
 
-void MachineTray::modify(const std::string& tip) { effects_.add("tray-modify", {{"tip", tip}}); }
+void MachineTray::modify(const void* /*owner*/, const std::string& tip) {
+  effects_.add("tray-modify", {{"tip", tip}});
+}
 
-void MachineTray::remove() { effects_.add("tray-remove"); }
+void MachineTray::remove(const void* /*owner*/) { effects_.add("tray-remove"); }
 
 }  // namespace quillvane

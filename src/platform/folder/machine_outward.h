@@ -70,9 +70,10 @@ class MachineTray final : public Tray {
  public:
   explicit MachineTray(EffectLog& effects) : effects_(effects) {}
 
-  void add(const std::string& tip, std::function<void()> double_click) override;
-  void modify(const std::string& tip) override;
-  void remove() override;
+  void add(const void* owner, const std::string& tip,
+           std::function<void(int message)> mouse) override;
+  void modify(const void* owner, const std::string& tip) override;
+  void remove(const void* owner) override;
 
  private:
   EffectLog& effects_;

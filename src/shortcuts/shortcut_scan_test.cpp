@@ -58,7 +58,8 @@ TEST(ShortcutScan, ShowsTheFolderInWorkAndWhatWasFoundBefore) {
   form.cmd_start.click();
 
   EXPECT_EQ(seen, (Texts{kStartMenu + "\\ 0 0", kStartMenu + "\\ 0 0 tests",
-                         kStartMenu + "\\Programs\\ 1 1", kStartMenu + "\\Programs\\ 1 1 tests"}));
+                         kStartMenu + "\\Programs\\ 1 1", kStartMenu + "\\Programs\\ 1 1 tests",
+                         kRecent + "\\ 2 2"}));
 }
 
 TEST(ShortcutScan, WaitsTenMillisecondsForEachLink) {

@@ -61,9 +61,6 @@ class SearchRun : public virtual Page {
 
   clsdirsearch search{session};
 
-  // Patterns, joined by bars, that a run looks for instead of those of the file types; empty: none.
-  std::string types_instead;
-
   // --- The way through the pages.
   // goes on to the next page, from the last to the run
   Button chameleonButton10{window, "chameleonButton10", {.caption = "Next"}};

@@ -46,10 +46,10 @@ void BitmapCanvas::set_origin(Point origin) {
   shape_ = Region::rectangle({target_.width - origin.x, target_.height - origin.y});
 }
 
-void BitmapCanvas::fill(const Box& area, Color color) {
+void BitmapCanvas::fill(const Rect& area, Color color) {
   const Size size = shape_.size();
-  const Box part = area.within({0, 0, size.width, size.height})
-                       .within({-origin_.x, -origin_.y, target_.width, target_.height});
+  const Rect part = area.within({0, 0, size.width, size.height})
+                        .within({-origin_.x, -origin_.y, target_.width, target_.height});
   for (int y = part.y; y < part.bottom(); ++y) {
     const Region::Row& row = shape_.rows()[static_cast<std::size_t>(y)];
     const int right = std::min(part.right(), row.right);
@@ -77,7 +77,7 @@ void BitmapCanvas::blend(int x, int y, Color color, unsigned share) {
   *pixel = result;
 }
 
-void BitmapCanvas::picture(const Box& area, const Image& picture) {
+void BitmapCanvas::picture(const Rect& area, const Image& picture) {
   if (picture.empty()) return;
   for (int y = 0; y < area.height; ++y) {
     for (int x = 0; x < area.width; ++x) {
@@ -118,7 +118,7 @@ void BitmapCanvas::draw_line(Point at, std::string_view text, const FontStyle& f
   }
 }
 
-void BitmapCanvas::text(const Box& area, std::string_view caption, const FontStyle& font,
+void BitmapCanvas::text(const Rect& area, std::string_view caption, const FontStyle& font,
                         Color color) {
   if (raster_ == nullptr) return;
   const auto width_of = [&](std::string_view text) { return raster_->width(text, font); };

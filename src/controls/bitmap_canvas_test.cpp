@@ -109,8 +109,8 @@ TEST(BitmapCanvas, ACaptionIsMeasuredInItsLines) {
 }
 
 // Where the letters of a painted button's caption stand: the box around its pixels of that colour.
-Box box_of(const Image& picture, Color color) {
-  Box box{picture.width, picture.height, 0, 0};
+Rect box_of(const Image& picture, Color color) {
+  Rect box{picture.width, picture.height, 0, 0};
   int right = 0;
   int bottom = 0;
   for (int y = 0; y < picture.height; ++y) {
@@ -153,11 +153,11 @@ struct ButtonStage {
 TEST(ButtonCaption, StandsInTheMiddleAndMovesWhenPressed) {
   ButtonStage stage;
   // 12 by 10 in the middle of 40 by 20: at (14, 5), covered in rows 7 to 12.
-  EXPECT_EQ(box_of(stage.paint(), kInk), (Box{14, 7, 11, 6}));
+  EXPECT_EQ(box_of(stage.paint(), kInk), (Rect{14, 7, 11, 6}));
   stage.button.hovering = true;
-  EXPECT_EQ(box_of(stage.paint(), kInkOver), (Box{14, 7, 11, 6}));
+  EXPECT_EQ(box_of(stage.paint(), kInkOver), (Rect{14, 7, 11, 6}));
   stage.button.pressed = true;
-  EXPECT_EQ(box_of(stage.paint(), kInkOver), (Box{15, 8, 11, 6}));
+  EXPECT_EQ(box_of(stage.paint(), kInkOver), (Rect{15, 8, 11, 6}));
 }
 
 TEST(ButtonCaption, OfType4IsLightWhenPressed) {
@@ -165,7 +165,7 @@ TEST(ButtonCaption, OfType4IsLightWhenPressed) {
   stage.button.type = 4;
   stage.button.pressed = true;
   // The face plus 31.
-  EXPECT_EQ(box_of(stage.paint(), 0x9F9F9F), (Box{15, 8, 11, 6}));
+  EXPECT_EQ(box_of(stage.paint(), 0x9F9F9F), (Rect{15, 8, 11, 6}));
 }
 
 TEST(ButtonCaption, IsEtchedWhenDisabled) {
@@ -174,7 +174,7 @@ TEST(ButtonCaption, IsEtchedWhenDisabled) {
   stage.button.type = 9;
   const Image picture = stage.paint();
   // The shadow of the face, 64 less, lies above the highlight and a pixel up and left of it.
-  EXPECT_EQ(box_of(picture, 0x404040), (Box{13, 6, 11, 6}));
+  EXPECT_EQ(box_of(picture, 0x404040), (Rect{13, 6, 11, 6}));
   EXPECT_EQ(picture.at(24, 12), 0xFFAFAFAFU);
 }
 
@@ -183,14 +183,14 @@ TEST(ButtonCaption, OfType3IsItsTintDarkenedWhenDisabled) {
   stage.button.enabled = false;
   stage.button.type = 3;
   // The tint is A0B0B0; 176 - 104 = 72, and the blue 160 - 160 * 104 / 192 = 160 - 86 = 74.
-  EXPECT_EQ(box_of(stage.paint(), 0x4A4848), (Box{14, 7, 11, 6}));
+  EXPECT_EQ(box_of(stage.paint(), 0x4A4848), (Rect{14, 7, 11, 6}));
 }
 
 TEST(ButtonCaption, AnEffectPutsLightAndDarkBehindIt) {
   ButtonStage stage;
   stage.button.special_effect = 1;
   const Image raised = stage.paint();
-  EXPECT_EQ(box_of(raised, kInk), (Box{14, 7, 11, 6}));
+  EXPECT_EQ(box_of(raised, kInk), (Rect{14, 7, 11, 6}));
   EXPECT_EQ(raised.at(13, 6), 0xFFAFAFAFU);   // the highlight, above
   EXPECT_EQ(raised.at(25, 13), 0xFF0E0E0EU);  // the shadow less 50, below
   for (const int effect : {2, -1, 77}) {
@@ -204,10 +204,10 @@ TEST(ButtonCaption, AnEffectPutsLightAndDarkBehindIt) {
 TEST(ButtonCaption, OfType14IsUnderlinedUnderTheMouse) {
   ButtonStage stage;
   stage.button.type = 14;
-  EXPECT_EQ(box_of(stage.paint(), kInk), (Box{14, 7, 11, 6}));
+  EXPECT_EQ(box_of(stage.paint(), kInk), (Rect{14, 7, 11, 6}));
   stage.button.hovering = true;
   // The line is as long as the text, a pixel below its baseline at 8.
-  EXPECT_EQ(box_of(stage.paint(), kInkOver), (Box{14, 7, 12, 8}));
+  EXPECT_EQ(box_of(stage.paint(), kInkOver), (Rect{14, 7, 12, 8}));
 }
 
 TEST(ButtonCaption, GivesWayToThePicture) {
@@ -216,8 +216,8 @@ TEST(ButtonCaption, GivesWayToThePicture) {
   stage.button.picture = &picture;
   struct Place {
     PicturePosition position;
-    Box caption;
-    Box picture;
+    Rect caption;
+    Rect picture;
   };
   // The caption's place has 38 by 18 pixels from (1, 1) on, less the picture's 4.
   constexpr Place kPlaces[] = {{PicturePosition::kLeft, {16, 7, 11, 6}, {11, 8, 4, 4}},
@@ -232,7 +232,7 @@ TEST(ButtonCaption, GivesWayToThePicture) {
   }
   stage.button.picture_position = PicturePosition::kBehind;
   const Image behind = stage.paint();
-  EXPECT_EQ(box_of(behind, kInk), (Box{14, 7, 11, 6}));
+  EXPECT_EQ(box_of(behind, kInk), (Rect{14, 7, 11, 6}));
   EXPECT_EQ(behind.at(19, 8), 0xFF00FFFFU);  // between the letters
 }
 

@@ -9,8 +9,8 @@ namespace quillvane {
 namespace {
 
 // The area that the picture leaves to the caption.
-Box caption_area(const ButtonPaint& button) {
-  Box area = Box{0, 0, button.size.width, button.size.height}.inset(1);
+Rect caption_area(const ButtonPaint& button) {
+  Rect area = Rect{0, 0, button.size.width, button.size.height}.inset(1);
   if (button.picture == nullptr) return area;
   const int width = button.picture->width;
   const int height = button.picture->height;
@@ -31,10 +31,10 @@ Box caption_area(const ButtonPaint& button) {
 
 // One pixel from the caption, in the middle of the other direction; without a caption in the
 // middle of both.
-Box picture_box(const ButtonPaint& button, const Box& caption) {
+Rect picture_box(const ButtonPaint& button, const Rect& caption) {
   if (button.picture == nullptr) return {};
   const Size size{button.picture->width, button.picture->height};
-  const Box box = centred(size, {0, 0, button.size.width, button.size.height});
+  const Rect box = centred(size, {0, 0, button.size.width, button.size.height});
   if (caption.empty()) return box;
   switch (button.picture_position) {
     case PicturePosition::kLeft:
@@ -61,18 +61,18 @@ ButtonBrush::ButtonBrush(Canvas& on, const ButtonPaint& of)
       h(of.size.height) {}
 
 ButtonBrush::Layout ButtonBrush::layout() const {
-  const Box area = caption_area(button);
+  const Rect area = caption_area(button);
   const Size size = canvas.measure(button.caption, button.font, area.width);
-  const Box caption = centred(size, area);
+  const Rect caption = centred(size, area);
   return {caption, picture_box(button, caption)};
 }
 
-void ButtonBrush::write(const Box& at, Color color) const {
+void ButtonBrush::write(const Rect& at, Color color) const {
   canvas.text(at, button.caption, button.font, color);
 }
 
 // The caption twice behind itself: its lit and its dark side.
-void ButtonBrush::write_effect(const Box& at) const {
+void ButtonBrush::write_effect(const Rect& at) const {
   if (button.special_effect == 0) return;
   const bool is_raised = button.special_effect == 1;
   const Color dark = shift(palette.shadow, -50);
@@ -80,7 +80,7 @@ void ButtonBrush::write_effect(const Box& at) const {
   write(at.moved(-1, -1), is_raised ? palette.highlight : dark);
 }
 
-void ButtonBrush::draw_picture(const Box& at, CaptionMode mode) const {
+void ButtonBrush::draw_picture(const Rect& at, CaptionMode mode) const {
   const bool takes_over = mode == CaptionMode::kOver && button.picture_over != nullptr;
   const Image* normal = takes_over ? button.picture_over : button.picture;
   if (normal == nullptr) return;
@@ -101,7 +101,7 @@ void ButtonBrush::caption(CaptionMode mode) const {
   const Layout place = layout();
   const int down = mode == CaptionMode::kPressed ? 1 : 0;
   draw_picture(place.picture.moved(down, down), mode);
-  const Box at = place.caption.moved(down, down);
+  const Rect at = place.caption.moved(down, down);
   switch (mode) {
     case CaptionMode::kDisabled:
       write(at, palette.highlight);
@@ -130,7 +130,7 @@ void ButtonBrush::focus() const {
 void ButtonBrush::caption_focus() const {
   constexpr Color kAroundCaption = 0xCC9999;
   if (!button.focused || !button.show_focus_rect) return;
-  const Box at = layout().caption;
+  const Rect at = layout().caption;
   canvas.frame({at.x - 2, at.y - 1, at.width + 4, at.height + 2}, kAroundCaption);
 }
 

@@ -30,8 +30,8 @@ class ButtonBrush {
 
   // Where the caption stands when nothing moves it; and the picture.
   struct Layout {
-    Box caption;
-    Box picture;
+    Rect caption;
+    Rect picture;
   };
   [[nodiscard]] Layout layout() const;
 
@@ -44,7 +44,7 @@ class ButtonBrush {
   }
   // Whether it has the focus or Enter presses it.
   [[nodiscard]] bool stands_out() const { return button.focused || button.is_default; }
-  [[nodiscard]] Box whole() const { return {0, 0, w, h}; }
+  [[nodiscard]] Rect whole() const { return {0, 0, w, h}; }
 
   // The picture and the caption.
   void caption(CaptionMode mode) const;
@@ -73,9 +73,9 @@ class ButtonBrush {
   const int h;
 
  private:
-  void write(const Box& at, Color color) const;
-  void write_effect(const Box& at) const;
-  void draw_picture(const Box& at, CaptionMode mode) const;
+  void write(const Rect& at, Color color) const;
+  void write_effect(const Rect& at) const;
+  void draw_picture(const Rect& at, CaptionMode mode) const;
 };
 
 using ButtonLook = void (*)(const ButtonBrush& brush);

@@ -92,7 +92,7 @@ ButtonPalette palette_of_scheme(const ButtonColors& colors, const CanvasColors& 
 }
 
 // Takes `area` out of each corner, where it stands in the left upper one.
-void cut_corners(Region& region, const Box& area) {
+void cut_corners(Region& region, const Rect& area) {
   const Size size = region.size();
   const int right = size.width - area.right();
   const int bottom = size.height - area.bottom();
@@ -134,8 +134,8 @@ Region button_region(int type, Size size) {
   return region;
 }
 
-Box focus_box(int type, Size size) {
-  const Box client{0, 0, size.width, size.height};
+Rect focus_box(int type, Size size) {
+  const Rect client{0, 0, size.width, size.height};
   if (type == 14) return client.inset(5).moved(1, 1);
   return client.inset(type >= 7 ? 3 : 4);
 }

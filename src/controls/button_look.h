@@ -52,6 +52,6 @@ struct ButtonPalette {
 [[nodiscard]] Region button_region(int type, Size size);
 
 // Where a button of this type shows that it has the focus.
-[[nodiscard]] Box focus_box(int type, Size size);
+[[nodiscard]] Rect focus_box(int type, Size size);
 
 }  // namespace quillvane

@@ -74,7 +74,7 @@ ButtonPaint disabled(int type) { return {.type = type, .enabled = false}; }
 ButtonPaint focused(int type) { return {.type = type, .focused = true}; }
 
 // Dots at every other pixel from the corner on, in the colour of the text.
-void expect_focus(ButtonPaint button, const Box& box) {
+void expect_focus(ButtonPaint button, const Rect& box) {
   button.focused = true;
   const Image picture = painted(button);
   ButtonPaint without = button;

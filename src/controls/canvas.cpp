@@ -17,7 +17,7 @@ void Canvas::line(Point first, Point last, Color color) {
        color);
 }
 
-void Canvas::frame(const Box& area, Color color) {
+void Canvas::frame(const Rect& area, Color color) {
   if (area.empty()) return;
   fill({area.x, area.y, area.width, 1}, color);
   fill({area.x, area.bottom() - 1, area.width, 1}, color);
@@ -25,7 +25,7 @@ void Canvas::frame(const Box& area, Color color) {
   fill({area.right() - 1, area.y, 1, area.height}, color);
 }
 
-void Canvas::dotted_frame(const Box& area, Color color) {
+void Canvas::dotted_frame(const Rect& area, Color color) {
   if (area.empty()) return;
   for (int y = 0; y < area.height; ++y) {
     const bool whole = y == 0 || y == area.height - 1;
@@ -35,7 +35,7 @@ void Canvas::dotted_frame(const Box& area, Color color) {
   }
 }
 
-void Canvas::fill_ellipse(const Box& area, Color color) {
+void Canvas::fill_ellipse(const Rect& area, Color color) {
   if (area.empty()) return;
   const Region shape = Region::ellipse({area.width, area.height});
   int y = area.y;
@@ -44,7 +44,7 @@ void Canvas::fill_ellipse(const Box& area, Color color) {
   }
 }
 
-void Canvas::ellipse(const Box& area, Color inside, Color pen, int pen_width) {
+void Canvas::ellipse(const Rect& area, Color inside, Color pen, int pen_width) {
   fill_ellipse(area, pen);
   fill_ellipse(area.inset(pen_width), inside);
 }

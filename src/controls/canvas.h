@@ -35,9 +35,9 @@ class Canvas {
 
   // Nothing is painted outside of the shape of the control at the canvas's origin.
   virtual void clip(const Region& shape) = 0;
-  virtual void fill(const Box& area, Color color) = 0;
+  virtual void fill(const Rect& area, Color color) = 0;
   // Stretches the picture over the area; its alpha lets through what is there.
-  virtual void picture(const Box& area, const Image& picture) = 0;
+  virtual void picture(const Rect& area, const Image& picture) = 0;
   // Puts the picture's pixels in place of what is there, whatever their alpha.
   virtual void copy(Point to, const Image& picture) = 0;
   // The caption's size when its words are broken into lines of at most `width` pixels. A single "&"
@@ -45,7 +45,7 @@ class Canvas {
   [[nodiscard]] virtual Size measure(std::string_view caption, const FontStyle& font,
                                      int width) = 0;
   // The same caption in the middle of `area`, broken at the area's width.
-  virtual void text(const Box& area, std::string_view caption, const FontStyle& font,
+  virtual void text(const Rect& area, std::string_view caption, const FontStyle& font,
                     Color color) = 0;
 
   // What follows is made of fills.
@@ -53,14 +53,14 @@ class Canvas {
   // From the first to the last pixel, both painted; along a row or a column.
   void line(Point first, Point last, Color color);
   // One pixel wide, inside the area.
-  void frame(const Box& area, Color color);
+  void frame(const Rect& area, Color color);
   // Every other pixel of a frame, from its first corner on.
-  void dotted_frame(const Box& area, Color color);
+  void dotted_frame(const Rect& area, Color color);
   // Inside the area; the pen lies inside the ellipse.
-  void ellipse(const Box& area, Color inside, Color pen, int pen_width);
+  void ellipse(const Rect& area, Color inside, Color pen, int pen_width);
 
  private:
-  void fill_ellipse(const Box& area, Color color);
+  void fill_ellipse(const Rect& area, Color color);
 };
 
 }  // namespace quillvane

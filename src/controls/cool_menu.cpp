@@ -47,7 +47,7 @@ std::string leading_word(std::string_view caption) {
 }
 
 // One etched line.
-void draw_separator(Canvas& canvas, const Box& area) {
+void draw_separator(Canvas& canvas, const Rect& area) {
   const auto& colors = canvas.colors().system;
   const int middle = area.y + area.height / 2;
   canvas.fill({area.x + 1, middle - 1, area.width - 2, 1}, colors[kEdgeShadow]);
@@ -55,7 +55,7 @@ void draw_separator(Canvas& canvas, const Box& area) {
 }
 
 // That of a disabled entry is its shape alone, etched; that of a selected one is raised.
-void draw_image(Canvas& canvas, const Box& at, const Image& image, const MenuItemState& state) {
+void draw_image(Canvas& canvas, const Rect& at, const Image& image, const MenuItemState& state) {
   const auto& colors = canvas.colors().system;
   if (state.disabled) {
     canvas.picture(at.moved(1, 1), silhouette(image, colors[kEdgeLight]));
@@ -64,7 +64,7 @@ void draw_image(Canvas& canvas, const Box& at, const Image& image, const MenuIte
   }
   canvas.picture(at, image);
   if (!state.selected) return;
-  const Box edge = at.inset(-2);
+  const Rect edge = at.inset(-2);
   canvas.frame(edge, colors[kEdgeShadow]);
   canvas.fill({edge.x, edge.y, edge.width - 1, 1}, colors[kEdgeLight]);
   canvas.fill({edge.x, edge.y, 1, edge.height - 1}, colors[kEdgeLight]);
@@ -124,7 +124,7 @@ std::optional<Size> CoolMenu::measure(Canvas& canvas, CMyItemDatas::Key key, int
               std::max({left.height + 4, check_height, kImageSide + 4})};
 }
 
-void CoolMenu::draw(Canvas& canvas, CMyItemDatas::Key key, const Box& area,
+void CoolMenu::draw(Canvas& canvas, CMyItemDatas::Key key, const Rect& area,
                     const MenuItemState& state) const {
   const CMyItemData* item = items_.item(key);
   if (item == nullptr) return;
@@ -135,7 +135,7 @@ void CoolMenu::draw(Canvas& canvas, CMyItemDatas::Key key, const Box& area,
   const Color ink = colors[state.disabled ? kGreyText : is_lit ? kSelectedText : kMenuText];
   if (!item->bMainMenu) {
     const Image* image = item->iButton >= 0 && images_ ? images_(item->iButton) : nullptr;
-    const Box gutter{area.x, area.y, kGutter, area.height};
+    const Rect gutter{area.x, area.y, kGutter, area.height};
     if (image != nullptr) {
       draw_image(canvas, centred({kImageSide, kImageSide}, gutter), *image, state);
     } else if (state.checked) {
@@ -145,7 +145,7 @@ void CoolMenu::draw(Canvas& canvas, CMyItemDatas::Key key, const Box& area,
   draw_caption(canvas, *item, area, ink);
 }
 
-void CoolMenu::draw_caption(Canvas& canvas, const CMyItemData& item, const Box& area,
+void CoolMenu::draw_caption(Canvas& canvas, const CMyItemData& item, const Rect& area,
                             Color ink) const {
   const std::string_view left = left_part(item.sMenuText);
   const int width = canvas.measure(left, font(), kWide).width;

@@ -78,7 +78,7 @@ class CoolMenu {
   // are the least heights of an entry of the bar and of a menu.
   [[nodiscard]] std::optional<Size> measure(Canvas& canvas, CMyItemDatas::Key key, int bar_height,
                                             int check_height) const;
-  void draw(Canvas& canvas, CMyItemDatas::Key key, const Box& area,
+  void draw(Canvas& canvas, CMyItemDatas::Key key, const Rect& area,
             const MenuItemState& state) const;
   // The entry that a letter chooses: the next behind `current` (-1: none) whose access key it is.
   [[nodiscard]] std::optional<std::size_t> entry_of_key(MenuId menu, std::string_view letter,
@@ -90,7 +90,7 @@ class CoolMenu {
 
  private:
   [[nodiscard]] const FontStyle& font() const;
-  void draw_caption(Canvas& canvas, const CMyItemData& item, const Box& area, Color ink) const;
+  void draw_caption(Canvas& canvas, const CMyItemData& item, const Rect& area, Color ink) const;
 
   MenuHost& host_;
   std::uintptr_t window_ = 0;

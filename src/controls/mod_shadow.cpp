@@ -78,7 +78,7 @@ void modShadow::follow(WindowId host, WindowId shadow) {
     return;
   }
   const ShadowLook look = stored_look(shadow);
-  const Box bounds = screen_.bounds(host);
+  const Rect bounds = screen_.bounds(host);
   // A window that is only moved keeps its shadow's picture.
   const Drawn wanted{{bounds.width, bounds.height}, look};
   Drawn& drawn = drawn_[shadow];

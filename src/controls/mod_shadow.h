@@ -30,7 +30,7 @@ class ShadowScreen {
   // 32-bit values that a shadow's window keeps, by their place in bytes.
   [[nodiscard]] virtual std::int32_t extra(WindowId shadow, int place) = 0;
   virtual void set_extra(WindowId shadow, int place, std::int32_t value) = 0;
-  [[nodiscard]] virtual Box bounds(WindowId window) = 0;
+  [[nodiscard]] virtual Rect bounds(WindowId window) = 0;
   [[nodiscard]] virtual bool is_shown(WindowId window) = 0;
   [[nodiscard]] virtual bool is_minimised(WindowId window) = 0;
   // The picture's colours are multiplied by their alpha.

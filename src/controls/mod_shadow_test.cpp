@@ -28,7 +28,7 @@ class NotingScreen final : public ShadowScreen {
   void set_extra(WindowId /*shadow*/, int place, std::int32_t value) override {
     extras[place] = value;
   }
-  Box bounds(WindowId /*window*/) override { return window; }
+  Rect bounds(WindowId /*window*/) override { return window; }
   bool is_shown(WindowId /*window*/) override { return shown; }
   bool is_minimised(WindowId /*window*/) override { return minimised; }
   void set_picture(WindowId /*shadow*/, const Image& picture) override {
@@ -52,7 +52,7 @@ class NotingScreen final : public ShadowScreen {
   int hidden = 0;
   std::map<WindowId, WindowId> shadows;
   std::map<int, std::int32_t> extras;
-  Box window{100, 200, 30, 20};
+  Rect window{100, 200, 30, 20};
   Point corner;
   Image image;
 };

@@ -33,8 +33,8 @@ Region Region::ellipse(Size size) {
   return region;
 }
 
-void Region::take_out(const Box& area) {
-  const Box cut = area.within({0, 0, width_, static_cast<int>(rows_.size())});
+void Region::take_out(const Rect& area) {
+  const Rect cut = area.within({0, 0, width_, static_cast<int>(rows_.size())});
   if (cut.empty()) return;
   const bool from_left = cut.x < width_ - cut.right();
   for (int y = cut.y; y < cut.bottom(); ++y) {

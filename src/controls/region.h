@@ -22,7 +22,7 @@ class Region {
 
   // Takes the pixels of `area` out, and with them what of their rows lies between them and the
   // nearer side of the rectangle.
-  void take_out(const Box& area);
+  void take_out(const Rect& area);
 
   [[nodiscard]] Size size() const { return {width_, static_cast<int>(rows_.size())}; }
   [[nodiscard]] bool contains(Point point) const;

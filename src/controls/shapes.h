@@ -19,7 +19,7 @@ struct Size {
   bool operator==(const Size&) const = default;
 };
 
-struct Box {
+struct Rect {
   int x = 0;
   int y = 0;
   int width = 0;
@@ -29,25 +29,25 @@ struct Box {
   [[nodiscard]] int bottom() const { return y + height; }  // the first row below it
   [[nodiscard]] bool empty() const { return width <= 0 || height <= 0; }
 
-  [[nodiscard]] Box inset(int by) const {
+  [[nodiscard]] Rect inset(int by) const {
     return {x + by, y + by, width - 2 * by, height - 2 * by};
   }
-  [[nodiscard]] Box moved(int across, int down) const {
+  [[nodiscard]] Rect moved(int across, int down) const {
     return {x + across, y + down, width, height};
   }
   // What of it lies in the other.
-  [[nodiscard]] Box within(const Box& other) const {
+  [[nodiscard]] Rect within(const Rect& other) const {
     const int left = std::max(x, other.x);
     const int top = std::max(y, other.y);
     return {left, top, std::min(right(), other.right()) - left,
             std::min(bottom(), other.bottom()) - top};
   }
 
-  bool operator==(const Box&) const = default;
+  bool operator==(const Rect&) const = default;
 };
 
 // A box of this size in the middle of `area`.
-[[nodiscard]] inline Box centred(Size size, const Box& area) {
+[[nodiscard]] inline Rect centred(Size size, const Rect& area) {
   return {area.x + (area.width - size.width) / 2, area.y + (area.height - size.height) / 2,
           size.width, size.height};
 }

@@ -56,11 +56,11 @@ void TransForm::refresh() {
   if (disabled_ || !transparent_ || host_ == nullptr) return;
   const Image* picture = host_->picture();
   if (picture == nullptr) return;
-  std::vector<Box> boxes = unmasked_boxes(*picture, mask_color_);
+  std::vector<Rect> boxes = unmasked_boxes(*picture, mask_color_);
   // A window without any pixel could not be found again.
   if (boxes.empty()) return;
   const Point client = host_->client_in_window();
-  for (Box& box : boxes) box = box.moved(client.x, client.y);
+  for (Rect& box : boxes) box = box.moved(client.x, client.y);
   host_->set_shape(boxes);
 }
 
@@ -88,9 +88,9 @@ void TransForm::popup_system_menu(std::uint32_t flags, std::optional<double> x,
   if (command != 0) host_->post_system_command(command);
 }
 
-std::vector<Box> unmasked_boxes(const Image& picture, Color mask) {
+std::vector<Rect> unmasked_boxes(const Image& picture, Color mask) {
   const auto is_masked = [&](int x, int y) { return (picture.at(x, y) & 0xFFFFFFU) == mask; };
-  std::vector<Box> boxes;
+  std::vector<Rect> boxes;
   for (int y = 0; y < picture.height; ++y) {
     for (int x = 0; x < picture.width; ++x) {
       if (is_masked(x, y)) continue;

@@ -30,7 +30,7 @@ class TransFormHost {
   [[nodiscard]] virtual Point client_on_screen() = 0;
   [[nodiscard]] virtual Point cursor_on_screen() = 0;
   // The window has these boxes and nothing else, counted from its own corner.
-  virtual void set_shape(const std::vector<Box>& boxes) = 0;
+  virtual void set_shape(const std::vector<Rect>& boxes) = 0;
   virtual void release_capture() = 0;
   virtual void set_capture() = 0;
   virtual void send_message(std::uint32_t message, std::uint32_t w, Point l) = 0;
@@ -77,6 +77,6 @@ class TransForm : public Control {
 };
 
 // The pixels of the picture that have another colour, as boxes of one row each.
-[[nodiscard]] std::vector<Box> unmasked_boxes(const Image& picture, Color mask);
+[[nodiscard]] std::vector<Rect> unmasked_boxes(const Image& picture, Color mask);
 
 }  // namespace quillvane

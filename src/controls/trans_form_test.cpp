@@ -25,7 +25,7 @@ class NotingHost final : public TransFormHost {
   Point client_in_window() override { return {3, 20}; }
   Point client_on_screen() override { return {100, 200}; }
   Point cursor_on_screen() override { return {7, 8}; }
-  void set_shape(const std::vector<Box>& boxes) override { shape = boxes; }
+  void set_shape(const std::vector<Rect>& boxes) override { shape = boxes; }
   void release_capture() override { notes.emplace_back("release"); }
   void set_capture() override { notes.emplace_back("capture"); }
   void send_message(std::uint32_t message, std::uint32_t w, Point l) override {
@@ -44,7 +44,7 @@ class NotingHost final : public TransFormHost {
   bool caption = false;
   float scale = 480.0F;
   int chosen = 0;
-  std::vector<Box> shape;
+  std::vector<Rect> shape;
   Notes notes;
 };
 
@@ -62,10 +62,10 @@ TEST(TransForm, ShapesItsWindowByThePicturesOtherColours) {
   Stage stage;
   stage.host.shown.at(1, 0) = 0xFFC0C0C0;
   stage.trans_form.load();
-  EXPECT_EQ(stage.host.shape, (std::vector<Box>{{3, 20, 1, 1}, {5, 20, 1, 1}, {3, 21, 3, 1}}));
+  EXPECT_EQ(stage.host.shape, (std::vector<Rect>{{3, 20, 1, 1}, {5, 20, 1, 1}, {3, 21, 3, 1}}));
   stage.trans_form.set_mask_color(0x0000FF);
   stage.trans_form.refresh();
-  EXPECT_EQ(stage.host.shape, (std::vector<Box>{{4, 20, 1, 1}}));
+  EXPECT_EQ(stage.host.shape, (std::vector<Rect>{{4, 20, 1, 1}}));
 }
 
 TEST(TransForm, ShapesNothingWithoutAPictureOrAPixelOrTheWish) {

@@ -57,7 +57,7 @@ void Xp_ProgressBar::write_properties(PropertyStore& store) const {
   store.set("ProgressLook", std::int64_t{look_});
 }
 
-Box Xp_ProgressBar::inner() const { return Box{0, 0, size_.width, size_.height}.inset(kBarCap); }
+Rect Xp_ProgressBar::inner() const { return Rect{0, 0, size_.width, size_.height}.inset(kBarCap); }
 
 int Xp_ProgressBar::target() const {
   const double span = maximum_ - minimum_;
@@ -104,7 +104,7 @@ void Xp_ProgressBar::draw(Canvas& canvas) {
 void Xp_ProgressBar::draw_blocks(Canvas& canvas) {
   if (value_ < drawn_value_ || value_ >= maximum_) reset(canvas);
   drawn_value_ = value_;
-  const Box area = inner();
+  const Rect area = inner();
   const int end = target();
   for (; drawn_ < end; drawn_ += kBarBlock) {
     // The last block ends where the frame begins.
@@ -118,7 +118,7 @@ void Xp_ProgressBar::draw_blocks(Canvas& canvas) {
 }
 
 void Xp_ProgressBar::draw_smooth(Canvas& canvas) {
-  const Box area = inner();
+  const Rect area = inner();
   const int end = target();
   drawn_value_ = value_;
   if (end > drawn_) {

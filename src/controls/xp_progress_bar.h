@@ -52,7 +52,7 @@ class Xp_ProgressBar : public Control {
   void draw_smooth(Canvas& canvas);
   // How far the value reaches in the inner area, in pixels.
   [[nodiscard]] int target() const;
-  [[nodiscard]] Box inner() const;
+  [[nodiscard]] Rect inner() const;
 
   Dialogs& dialogs_;
   double minimum_ = 0;

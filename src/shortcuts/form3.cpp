@@ -3,6 +3,7 @@
 #include <string>
 
 #include "dialogs/about_window.h"
+#include "lang/change_language.h"
 #include "shortcuts/shortcut_report.h"
 #include "support/registry_text.h"
 #include "support/suite_color.h"
@@ -34,6 +35,7 @@ Form3::Form3(Session& shared, ModalWindows& open_windows)
       TargetSearch(*this, shared),
       ManualFix(*this, shared),
       ShortcutCommands(*this, shared, *this),
+      LanguagePanel(*this, shared, "Tidewrack"),
       windows(open_windows),
       options_(*this, *this) {
   set_caption(kShortcutWindowTitle);
@@ -56,6 +58,7 @@ void Form3::connect_pages() {
   cancel_target_search = [this] { TargetSearch::cancel(); };
   fix_row = [this] { fix_row_in_hand(*this); };
   write_report = [this] { write_shortcut_report(*this); };
+  turn_over_languages = [this] { turn_over(); };
   on_about = [this] { show_about(session, windows); };
 }
 
@@ -68,6 +71,9 @@ void Form3::name_arrays() {
 }
 
 void Form3::load() {
+  loadavlang();
+  changelangorv(session, *this);
+  mark_chosen();
   apply_color();
   Gif89a1.set_file(session.data_file("search.gif"));
   for (const int column : {2, 3}) view1.set_column_width(column, kTwipsOfPathColumn);

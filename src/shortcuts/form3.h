@@ -5,6 +5,7 @@
 
 #include "forms/modal_windows.h"
 #include "forms/shadow.h"
+#include "lang/language_panel.h"
 #include "shortcuts/link_removal.h"
 #include "shortcuts/manual_fix.h"
 #include "shortcuts/older_removal.h"
@@ -20,7 +21,8 @@ class Form3 final : public Window,
                     public OlderRemoval,
                     public TargetSearch,
                     public ManualFix,
-                    public ShortcutCommands {
+                    public ShortcutCommands,
+                    public LanguagePanel {
  public:
   // Both must outlive it.
   Form3(Session& session, ModalWindows& windows);

@@ -49,7 +49,11 @@ std::map<std::string, std::vector<DeclaredName>> all_declared() {
     const bool of_shortcuts = entry.path().parent_path().filename() == "shortcuts";
     const std::string other = of_shortcuts ? "Form3" : "Form7";
     auto& names = all[window == small_windows.end() ? other : window->second];
-    std::ranges::move(declared_names(text_of(entry.path())), std::back_inserter(names));
+    auto declared = declared_names(text_of(entry.path()));
+    // The language panel is in both windows.
+    if (entry.path().parent_path().filename() == "lang")
+      std::ranges::copy(declared, std::back_inserter(all["Form3"]));
+    std::ranges::move(declared, std::back_inserter(names));
   }
   return all;
 }

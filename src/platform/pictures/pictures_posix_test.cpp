@@ -89,7 +89,7 @@ TEST(FreeTypeRaster, TakesTheFirstFontThatIsThere) {
 }
 
 TEST(FreeTypeRaster, WithoutAFontItSaysSo) {
-  FreeTypeRaster raster({{"/nowhere/none.ttf", "/nowhere/none.ttf"}});
+  FreeTypeRaster raster(std::vector<FontFiles>{{"/nowhere/none.ttf", "/nowhere/none.ttf"}});
   ASSERT_TRUE(raster.problem());
   EXPECT_TRUE(raster.problem()->starts_with("fonts: "));
   EXPECT_EQ(raster.width("Scan", {}), 0);

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/unicode_case.h"
 #include "platform/win32/folder_listing.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win32_path.h"

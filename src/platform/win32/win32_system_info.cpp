@@ -6,6 +6,7 @@
 
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win32_code_page.h"
+#include "platform/win32/windows_time.h"
 
 namespace quillvane {
 

@@ -14,6 +14,8 @@ namespace {
 constexpr std::array kCommands = {
     ConsoleCommand{"", "scan", "Search the machine for junk; nothing is removed", prepare_scan},
     ConsoleCommand{"", "clean", "Search, ask, and remove what was found", prepare_clean},
+    ConsoleCommand{"", "search", "Search whole drives by file types; nothing is removed",
+                   prepare_search},
     ConsoleCommand{"", "shortcuts", "Find links whose target is gone", prepare_shortcuts},
     ConsoleCommand{"", "run", "Do what the suite asks for by a run switch", prepare_run},
     ConsoleCommand{"", "script", "Drive the windows by an automation script", prepare_script},
@@ -35,7 +37,6 @@ constexpr std::array kCommands = {
     ConsoleCommand{"paint", "shadow", "Draw the shadow of a window", prepare_paint_shadow},
     ConsoleCommand{"", "gallery", "Draw all controls in all their states on one sheet",
                    prepare_gallery},
-    ConsoleCommand{"", "search", "", prepare_unavailable},
 };
 
 // Each a line.

@@ -51,6 +51,7 @@ struct ConsoleCommand {
 std::function<int()> prepare_scan(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_clean(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_shortcuts(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_search(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_run(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_script(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_machine_create(CLI::App& app, ConsoleSession& session);
@@ -68,7 +69,5 @@ std::function<int()> prepare_paint_button(CLI::App& app, ConsoleSession& session
 std::function<int()> prepare_paint_bar(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_paint_shadow(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_gallery(CLI::App& app, ConsoleSession& session);
-// A command that this version does not have; takes any words.
-std::function<int()> prepare_unavailable(CLI::App& app, ConsoleSession& session);
 
 }  // namespace quillvane

@@ -71,25 +71,6 @@ TEST(Console, VersionAndHelpAreResults) {
   EXPECT_EQ(help.err.str(), "");
 }
 
-TEST(Console, HelpLeavesOutWhatIsNotThereYet) {
-  Stage stage;
-  stage.run({"--help"});
-  EXPECT_EQ(stage.out.str().find("  search"), std::string::npos);
-}
-
-TEST(Console, CommandsThatAreNotThereYetSaySoWhateverTheirWords) {
-  for (const Words& words : {Words{"search"}, Words{"search", "--yes", "--json"},
-                             Words{"--json", "search"}, Words{"search", "--help"}}) {
-    Stage stage;
-    EXPECT_EQ(stage.run(words), 1);
-    EXPECT_EQ(stage.err.str(), "quillvane: search: not available in this version yet\n");
-    EXPECT_EQ(stage.out.str(), "");
-  }
-  Stage stage;
-  EXPECT_EQ(stage.run({"search", "C:", "D:"}), 1);
-  EXPECT_EQ(stage.err.str(), "quillvane: search: not available in this version yet\n");
-}
-
 struct WrongWords {
   Words words;
   const char* told;

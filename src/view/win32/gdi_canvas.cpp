@@ -11,7 +11,7 @@ namespace {
 
 constexpr UINT kCaption = DT_CENTER | DT_VCENTER | DT_WORDBREAK;
 
-RECT rect_of(const Box& box) { return {box.x, box.y, box.right(), box.bottom()}; }
+RECT rect_of(const Rect& box) { return {box.x, box.y, box.right(), box.bottom()}; }
 
 }  // namespace
 
@@ -70,7 +70,7 @@ void GdiCanvas::clip(const Region& shape) {
   DeleteObject(region);
 }
 
-void GdiCanvas::fill(const Box& area, Color color) {
+void GdiCanvas::fill(const Rect& area, Color color) {
   if (area.empty()) return;
   const RECT rect = rect_of(area);
   // An opaque text without letters: it needs no brush.
@@ -78,7 +78,7 @@ void GdiCanvas::fill(const Box& area, Color color) {
   ExtTextOutW(dc_, 0, 0, ETO_OPAQUE, &rect, nullptr, 0, nullptr);
 }
 
-void GdiCanvas::picture(const Box& area, const Image& picture) {
+void GdiCanvas::picture(const Rect& area, const Image& picture) {
   if (picture.empty() || area.empty()) return;
   const PictureBitmap from(picture, PictureBitmap::Alpha::kStraight);
   constexpr BLENDFUNCTION kByItsAlpha = {AC_SRC_OVER, 0, 255, AC_SRC_ALPHA};
@@ -113,7 +113,7 @@ Size GdiCanvas::measure(std::string_view caption, const FontStyle& font, int wid
   return {rect.right, rect.bottom};
 }
 
-void GdiCanvas::text(const Box& area, std::string_view caption, const FontStyle& font,
+void GdiCanvas::text(const Rect& area, std::string_view caption, const FontStyle& font,
                      Color color) {
   if (caption.empty()) return;
   // Several lines are put in the middle here, since Windows does that with one alone.

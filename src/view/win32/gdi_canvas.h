@@ -24,11 +24,12 @@ class GdiCanvas final : public Canvas {
 
   [[nodiscard]] const CanvasColors& colors() const override { return colors_; }
   void clip(const Region& shape) override;
-  void fill(const Box& area, Color color) override;
-  void picture(const Box& area, const Image& picture) override;
+  void fill(const Rect& area, Color color) override;
+  void picture(const Rect& area, const Image& picture) override;
   void copy(Point to, const Image& picture) override;
   [[nodiscard]] Size measure(std::string_view caption, const FontStyle& font, int width) override;
-  void text(const Box& area, std::string_view caption, const FontStyle& font, Color color) override;
+  void text(const Rect& area, std::string_view caption, const FontStyle& font,
+            Color color) override;
 
  private:
   void use(const FontStyle& font);

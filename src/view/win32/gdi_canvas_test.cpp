@@ -145,7 +145,7 @@ TEST(GdiCanvas, WritesACaptionInTheMiddle) {
   EXPECT_LT(size.width, kSize.width);
   canvas.text({0, 0, kSize.width, kSize.height}, "Scan", {}, 0xFFFFFF);
   const Image image = surface.pixels();
-  Box inked{kSize.width, kSize.height, 0, 0};
+  Rect inked{kSize.width, kSize.height, 0, 0};
   int right = 0;
   for (int y = 0; y < kSize.height; ++y) {
     for (int x = 0; x < kSize.width; ++x) {

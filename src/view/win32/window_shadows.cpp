@@ -74,7 +74,7 @@ void WindowShadows::set_extra(WindowId shadow, int place, std::int32_t value) {
   SetWindowLongW(window(shadow), place, value);
 }
 
-Box WindowShadows::bounds(WindowId of) {
+Rect WindowShadows::bounds(WindowId of) {
   RECT rect{};
   GetWindowRect(window(of), &rect);
   return {rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top};

@@ -37,7 +37,7 @@ class WindowShadows final : private ShadowScreen {
   void remove_shadow_of(WindowId host) override;
   std::int32_t extra(WindowId shadow, int place) override;
   void set_extra(WindowId shadow, int place, std::int32_t value) override;
-  Box bounds(WindowId of) override;
+  Rect bounds(WindowId of) override;
   bool is_shown(WindowId of) override;
   bool is_minimised(WindowId of) override;
   void set_picture(WindowId shadow, const Image& picture) override;

@@ -31,6 +31,7 @@ std::string type(const std::string& description, const std::string& pattern,
 }
 
 struct Stage {
+  Stage() { machine().add_folder("C:\\Program Files\\Tidewrack"); }
   int run(const Words& words) {
     out.str("");
     err.str("");

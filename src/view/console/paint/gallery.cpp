@@ -159,7 +159,7 @@ class Sheet {
       const Point window = {left + 34, at.y + kHeading + 26};
       canvas_.picture({window.x - look.size, window.y - look.size, shadow.width, shadow.height},
                       shadow);
-      const Box body{window.x, window.y, kWindow.width, kWindow.height};
+      const Rect body{window.x, window.y, kWindow.width, kWindow.height};
       canvas_.fill(body, 0xFFFFFF);
       left += 190;
     }

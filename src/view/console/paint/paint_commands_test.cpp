@@ -33,6 +33,7 @@ class NoMachines final : public MachineHost {
                                              const std::string& /*content*/) override {
     return HostProblem{"none"};
   }
+  const CodePage* code_page(int /*number*/) const override { return nullptr; }
 };
 
 class KeptFiles final : public PictureFile {

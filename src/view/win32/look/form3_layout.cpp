@@ -73,6 +73,7 @@ constexpr ControlPlace kControls[] = {
     title_button("chameleonButton9").says("Close").with("title-close"),
     title_button("chameleonButton12").says("Minimise").with("title-minimise"),
     title_button("chameleonButton18").says("About").with("title-about"),
+    title_button("chameleonButton13").says("Language").with("title-language"),
     title_button("Image44(0)").says("Help").with("title-help"),
 };
 
@@ -141,11 +142,14 @@ constexpr std::string_view kUndrawn[] = {
     "Option3",
     "Text1",
     "orvbutton5",
-    // The panels: their controls are drawn. The way to the languages comes with them.
+    // The list of the languages draws them.
+    "pictrlang",
+    "lbllanguage(0)",
+    "imglangselect",
+    // The panels: their controls are drawn.
     "Frame2",
     "Frame8",
     "Frame1",
-    "chameleonButton13",
     // Not in the window: the tray and the pop-up menu.
     "TrayArea1",
     "fs",
@@ -176,6 +180,10 @@ constexpr WindowLayout kLayout = {
     .height = 560,
     .least_width = 740,
     .least_height = 420,
+    .choices = {.panel = "pictrlang",
+                .label = "lbllanguage",
+                .mark = "imglangselect",
+                .says = "Languages"},
 };
 
 }  // namespace

@@ -74,7 +74,9 @@ void ListBinding::make_columns() {
     std::wstring text = widen(list_.columns()[i]);
     LVCOLUMNW column{};
     column.mask = LVCF_TEXT | LVCF_FMT | LVCF_SUBITEM;
-    column.fmt = has_boxes() && i == 1 ? LVCFMT_RIGHT : LVCFMT_LEFT;  // sizes
+    // Sizes stand on the right. A column that was given a width is none of them.
+    const bool is_size = has_boxes() && i == 1 && list_.column_width(2) == 0;
+    column.fmt = is_size ? LVCFMT_RIGHT : LVCFMT_LEFT;
     column.pszText = text.data();
     column.iSubItem = static_cast<int>(i);
     send(LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));

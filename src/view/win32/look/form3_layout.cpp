@@ -60,7 +60,7 @@ constexpr ControlPlace kControls[] = {
     left("Label6(2)", kHeading, kTop, 180).on(kResultPanel),
     left("Label4", kHeading, kTop, 60).on(kResultPanel),
     whole("view1", kList, kMain).on(kResultPanel).says("Broken links").with("row-ss"),
-    whole("Label8(1)", kPathLabel, kDetail).on(kResultPanel),
+    whole("Label8(1)", kLabel, kDetail).on(kResultPanel),
     left("cmd_all", kButton, kBelow, 104).on(kResultPanel),
     left("cmd_non", kButton, kBelow, 104).on(kResultPanel),
     left("cmd_start", kMainButton, kCommands, 104),

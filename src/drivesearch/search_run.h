@@ -55,10 +55,11 @@ class SearchRun : public virtual Page {
   // Enables or disables the removal of what was found; whoever puts the window together sets it.
   std::function<void(bool enabled)> enable_removal;
 
-  clsdirsearch search{session};
-
-  // Patterns, joined by bars, that a run looks for instead of those of the file types; empty: none.
+  // Patterns joined by "|" that the console's user names; the runs take these instead of the file
+  // types that are on. Empty: the file types.
   std::string types_instead;
+
+  clsdirsearch search{session};
 
   // --- The way through the pages.
   // goes on to the next page, from the last to the run

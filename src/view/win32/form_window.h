@@ -84,6 +84,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   [[nodiscard]] std::vector<int> wanted_widths() const;
   void arrange_controls();
   [[nodiscard]] bool is_shown(const ControlView& view) const;
+  [[nodiscard]] bool is_page_shown(std::string_view page) const;
   void show_controls();
   [[nodiscard]] bool takes_keys(HWND control) const;
   [[nodiscard]] HWND first_focus() const;  // null: nothing takes keys

@@ -15,6 +15,8 @@ void FormWindow::make_controls() {
     if (view != nullptr) {
       if (place.kind == ControlKind::kTitleButton) {
         hints_.add(window_, view->window(), widen(place.accessible_name));
+      } else if (!control->tool_tip().empty()) {
+        hints_.add(window_, view->window(), widen(control->tool_tip()));
       }
       views_.push_back(std::move(view));
     }
@@ -71,9 +73,21 @@ void FormWindow::arrange_controls() {
 bool FormWindow::is_shown(const ControlView& view) const {
   const ControlPlace& place = view.place();
   if (!view.model().visible()) return false;
-  const Control* page = place.page.empty() ? nullptr : model_.find(place.page);
-  if (page != nullptr && !page->visible()) return false;
+  if (!is_page_shown(place.page)) return false;
   return place.tab.empty() || tabs_ == nullptr || tabs_->chosen() == place.tab;
+}
+
+// Of the frames of the stack the first that is there hides the others.
+bool FormWindow::is_page_shown(std::string_view page) const {
+  const auto is_there = [this](std::string_view frame) {
+    const Control* control = frame.empty() ? nullptr : model_.find(frame);
+    return control == nullptr || control->visible();
+  };
+  const int place = layout_.stacked(page);
+  for (int above = 0; above < place; ++above) {
+    if (is_there(layout_.stack[static_cast<std::size_t>(above)])) return false;
+  }
+  return is_there(page);
 }
 
 void FormWindow::show_controls() {

@@ -98,8 +98,9 @@ void ListBinding::answer(LVITEMW& item) {
   }
   if ((item.mask & LVIF_IMAGE) != 0) {
     // The number is that of the category's picture; entries of the user's own share the last one.
+    // A key that is no number is that of the only picture.
     const auto icon = is_there ? list_.icon(row) : std::nullopt;
-    const int number = icon ? std::atoi(icon->c_str()) : 0;
+    const int number = icon ? std::max(std::atoi(icon->c_str()), 1) : 0;
     item.iImage = std::min(number, image_count_) - 1;
   }
   if ((item.mask & LVIF_STATE) != 0) {

@@ -6,7 +6,7 @@
 #include <cstring>
 #include <utility>
 
-#include "view/win32/gdiplus_api.h"
+#include "platform/win32/gdiplus_api.h"
 
 namespace quillvane {
 
@@ -140,9 +140,10 @@ ImageListOwner Pictures::list(std::string_view name, int size, COLORREF look, in
   ImageListOwner list(
       ImageList_Create(width, height, ILC_COLOR32 | ILC_MASK, kMostPictures / 2, 1));
   const Matrix matrix = look == kPale ? gray_matrix() : tint_matrix(look);
-  for (int number = 1; number <= kMostPictures; ++number) {
+  const bool is_one = find(name, size) != nullptr;
+  for (int number = 1; number <= (is_one ? 1 : kMostPictures); ++number) {
     std::array<char, 4> digits{};
-    std::snprintf(digits.data(), digits.size(), "-%02d", number % 100);
+    if (!is_one) std::snprintf(digits.data(), digits.size(), "-%02d", number % 100);
     Gdiplus::Bitmap* picture = find(std::string(name) + digits.data(), size);
     if (picture == nullptr) break;
     Gdiplus::Bitmap space(width, height, PixelFormat32bppARGB);

@@ -18,7 +18,8 @@ constexpr int kPictureSize = 16;
 
 LabelView::LabelView(ViewHost& host, Label& label, const ControlPlace& place)
     : ControlView(host, label, place), label_(label) {
-  create(WC_STATICW, SS_LEFT | SS_CENTERIMAGE | SS_NOPREFIX | SS_ENDELLIPSIS);
+  const DWORD ellipsis = place.kind == ControlKind::kPathLabel ? SS_PATHELLIPSIS : SS_ENDELLIPSIS;
+  create(WC_STATICW, SS_LEFT | SS_CENTERIMAGE | SS_NOPREFIX | ellipsis);
   send(WM_SETFONT, reinterpret_cast<WPARAM>(font()), FALSE);
 }
 
@@ -27,6 +28,10 @@ HFONT LabelView::font() const {
 }
 
 int LabelView::wanted_width() const { return text_width(font(), widen(label_.caption()).c_str()); }
+
+void LabelView::show_reading(const std::wstring& folder) {
+  if (place().kind == ControlKind::kPathLabel) SetWindowTextW(window(), folder.c_str());
+}
 
 void LabelView::restyle() {
   ControlView::restyle();

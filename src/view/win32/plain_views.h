@@ -10,10 +10,11 @@
 
 namespace quillvane {
 
-// A caption on the page; that of a heading is bold.
+// A caption on the page; that of a heading is bold, that of a path is shortened in its middle.
 class LabelView final : public ControlView {
  public:
   LabelView(ViewHost& host, Label& label, const ControlPlace& place);
+  void show_reading(const std::wstring& folder) override;
   void restyle() override;
   [[nodiscard]] int wanted_width() const override;
   HBRUSH prepare(HDC dc) override;

@@ -64,8 +64,9 @@ class Cells {
   std::vector<Span> columns_;
 };
 
-bool same_cell(const ControlPlace& one, const ControlPlace& other) {
-  return one.row == other.row && one.column == other.column && one.columns == other.columns;
+bool same_cell(const WindowLayout& layout, const ControlPlace& one, const ControlPlace& other) {
+  return one.row == other.row && one.column == other.column && one.columns == other.columns &&
+         !layout.take_turns(one, other);
 }
 
 }  // namespace
@@ -81,7 +82,7 @@ Arrangement arrange(const WindowLayout& layout, int width, int height, int dpi,
   std::vector<Box> rest(count);  // of the cell of each control, kept at the cell's first control
   const auto rest_of = [&](std::size_t control) -> Box& {
     std::size_t first = 0;
-    while (!same_cell(layout.controls[first], layout.controls[control])) ++first;
+    while (!same_cell(layout, layout.controls[first], layout.controls[control])) ++first;
     if (first == control) rest[first] = cells.cell(layout.controls[first]);
     return rest[first];
   };
@@ -104,7 +105,7 @@ Arrangement arrange(const WindowLayout& layout, int width, int height, int dpi,
     const ControlPlace& place = layout.controls[i];
     if (place.pack != Pack::kFill) continue;
     std::size_t first = 0;
-    while (!same_cell(layout.controls[first], place)) ++first;
+    while (!same_cell(layout, layout.controls[first], place)) ++first;
     Box box = rest[first];
     if (!place.tab.empty()) {
       const int strip = std::min(scaled(layout.tab_height, dpi), box.height);

@@ -4,6 +4,7 @@
 // 1/96 inch; the view turns them into pixels of the screen that the window stands on.
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string_view>
 
@@ -23,8 +24,10 @@ enum class ControlKind {
   kHeading,  // a label in bold
   kEdit,     // a line of text to be typed
   kCheckBox,
-  kPathLine,  // a line of text that is shortened in its middle
-  kMark,      // a small square of colour
+  kOption,     // one of a group of choices
+  kPathLine,   // a line of text that is shortened in its middle
+  kPathLabel,  // a label that is shortened so, and shows the folder that is being read
+  kMark,       // a small square of colour
   kPicture,
   kProgress,
   kAnimation,
@@ -144,6 +147,9 @@ struct WindowLayout {
   // Controls of the window that it does not draw: variables, pages to come, and what stands for
   // itself (timers, menus, the tray icon).
   std::span<const std::string_view> undrawn;
+  // Frames that take the same place: of those that are shown, the first is drawn. Their controls
+  // may share cells with each other, and with nothing else.
+  std::span<const std::string_view> stack = {};
   int margin;      // to the window's edges; row 0 is the title bar and has none
   int gap;         // between rows, columns and packed controls
   int tab_height;  // of the strip above controls that share a cell
@@ -159,6 +165,18 @@ struct WindowLayout {
       if (click.control == control && click.button == button) return click.what;
     }
     return WhileReading::kWaits;
+  }
+  // The place of a frame in the stack; -1 for none.
+  [[nodiscard]] constexpr int stacked(std::string_view frame) const {
+    for (std::size_t i = 0; i < stack.size(); ++i) {
+      if (stack[i] == frame) return static_cast<int>(i);
+    }
+    return -1;
+  }
+  // Whether both are never seen together.
+  [[nodiscard]] constexpr bool take_turns(const ControlPlace& one,
+                                          const ControlPlace& other) const {
+    return one.page != other.page && stacked(one.page) >= 0 && stacked(other.page) >= 0;
   }
   [[nodiscard]] constexpr bool can_be_sized() const {
     return least_width != width || least_height != height;

@@ -36,6 +36,7 @@ class Layouts : public testing::TestWithParam<const char*> {
     type_ = std::make_unique<Form4>(session, form.View101, form.Text12, form.view1);
     ignored_ = std::make_unique<Form1>(session, mail);
     about_ = std::make_unique<frmabout>(session);
+    fixture_.program->load_shortcut_window();
   }
 
   [[nodiscard]] const Window& window() const {
@@ -45,6 +46,7 @@ class Layouts : public testing::TestWithParam<const char*> {
     if (name == "Form4") return *type_;
     if (name == "Form5") return *entry_;
     if (name == "frmabout") return *about_;
+    if (name == "Form3") return *fixture_.program->find_window(name);
     return fixture_.program->main_window();
   }
   [[nodiscard]] static const WindowLayout& layout() { return *find_layout(GetParam()); }
@@ -75,7 +77,8 @@ class Layouts : public testing::TestWithParam<const char*> {
 };
 
 INSTANTIATE_TEST_SUITE_P(OfEachWindow, Layouts,
-                         testing::Values("Form7", "Form1", "Form2", "Form4", "Form5", "frmabout"),
+                         testing::Values("Form7", "Form3", "Form1", "Form2", "Form4", "Form5",
+                                         "frmabout"),
                          [](const auto& name) { return std::string(name.param); });
 
 TEST_P(Layouts, NamesEachControlOfTheWindowOnceOrSaysThatItIsNotDrawn) {
@@ -116,7 +119,8 @@ TEST_P(Layouts, WhatShowsNoTextHasAnAccessibleName) {
     const auto* captioned = dynamic_cast<const Clickable*>(window().find(place.name));
     const bool has_caption = captioned != nullptr && !captioned->caption().empty();
     const bool shows_text =
-        place.kind == ControlKind::kLabel || place.kind == ControlKind::kPathLine;
+        place.kind == ControlKind::kLabel || place.kind == ControlKind::kHeading ||
+        place.kind == ControlKind::kPathLine || place.kind == ControlKind::kPathLabel;
     const bool has_label = place.kind == ControlKind::kEdit && before != nullptr &&
                            before->kind == ControlKind::kLabel && before->row == place.row;
     EXPECT_TRUE(has_caption || shows_text || has_label || !place.accessible_name.empty())
@@ -140,12 +144,13 @@ TEST_P(Layouts, ControlsStandInsideTheWindow) {
   });
 }
 
-TEST_P(Layouts, OnlyListsThatShareTheirPlaceByTabsOverlap) {
+TEST_P(Layouts, OnlyListsThatShareTheirPlaceByTabsAndPanelsThatTakeTurnsOverlap) {
   for_each_arrangement([](const Arrangement& places, const Box&, int) {
     const auto controls = layout().controls;
     for (std::size_t i = 0; i < controls.size(); ++i) {
       for (std::size_t j = i + 1; j < controls.size(); ++j) {
         if (!controls[i].tab.empty() && !controls[j].tab.empty()) continue;
+        if (layout().take_turns(controls[i], controls[j])) continue;
         EXPECT_FALSE(overlap(places.controls[i], places.controls[j]))
             << controls[i].name << " and " << controls[j].name;
       }

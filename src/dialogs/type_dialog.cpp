@@ -4,6 +4,7 @@
 
 #include "lang/change_language.h"
 #include "platform/unicode_case.h"
+#include "support/like.h"
 #include "support/program_name.h"
 #include "support/suite_color.h"
 #include "support/text.h"
@@ -61,7 +62,9 @@ void Form4::accept() {
 bool Form4::is_entered_already() const {
   const std::string pattern = lower_case(Trim(Text2.text()));
   for (int row = 1; row <= types_.count(); ++row) {
-    if (Like(lower_case(types_.sub_item(row, 1)), pattern)) return true;
+    // A pattern that is ill formed counts as found, so that it does not get into the table.
+    const Likeness found = likeness(lower_case(types_.sub_item(row, 1)), pattern);
+    if (found != Likeness::kUnlike) return true;
   }
   return false;
 }

@@ -262,7 +262,7 @@ TEST(TypePage, WantsADescriptionAndAPattern) {
 }
 
 TEST(TypePage, TakesNoPatternTwiceAndClosesAsIfAllWereWell) {
-  for (const char* pattern : {" *.TMP ", "*.?mp", "*", "*.[t]mp"}) {
+  for (const char* pattern : {" *.TMP ", "*.?mp", "*", "*.[t]mp", "*.[t"}) {
     Types types(kTemporary);
     Form7& form = types.open();
     types.in_dialog([&] { form.command111.click(); },

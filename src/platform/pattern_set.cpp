@@ -11,7 +11,8 @@ namespace quillvane {
 PatternSet::PatternSet(const TreeRequest& request)
     : first_match_(request.tells == TreeRequest::Tells::kFirstMatch) {
   for (const std::string& text : request.patterns) {
-    const FilePattern& rule = patterns_.emplace_back(FilePattern(text), utf16_length(text)).rule;
+    const FilePattern& rule =
+        patterns_.emplace_back(Pattern{FilePattern(text), utf16_length(text)}).rule;
     takes_every_name_ = takes_every_name_ && rule.matches_every_name();
     ends_decide_ = ends_decide_ || rule.ends_decide();
     needs_made_up_names_ =

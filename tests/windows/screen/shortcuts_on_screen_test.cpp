@@ -5,6 +5,7 @@
 #include <shlobj.h>
 
 #include <filesystem>
+#include <fstream>
 #include <string>
 
 #include "platform/win32/wide_text.h"
@@ -26,18 +27,23 @@ fs::path start_menu() {
   return path;
 }
 
-// Links in a folder of the start menu, for the length of a test.
+// Links in a folder of the start menu, for the length of a test. The shell makes links to what is
+// there, so their targets go when they stand.
 class PlantedLinks {
  public:
   explicit PlantedLinks(int count) {
     CoInitialize(nullptr);
     fs::create_directories(folder_);
+    const fs::path targets = "C:\\qv-gone";
+    fs::create_directories(targets);
     Win32Links links;
     for (int i = 0; i < count; ++i) {
       const std::string number = std::to_string(10000 + i);
+      std::ofstream(targets / (number + ".exe")) << "MZ";
       EXPECT_TRUE(links.write_link(narrow(path(number).wstring()),
                                    {.target = "C:\\qv-gone\\" + number + ".exe"}));
     }
+    fs::remove_all(targets);
   }
   ~PlantedLinks() {
     std::error_code ignored;

@@ -14,11 +14,13 @@ constexpr int kLinePadding = 8;
 constexpr int kMarkSize = 12;
 constexpr int kPictureSize = 16;
 
+constexpr DWORD kLabelStyle = SS_LEFT | SS_CENTERIMAGE | SS_NOPREFIX;
+
 }  // namespace
 
 LabelView::LabelView(ViewHost& host, Label& label, const ControlPlace& place)
     : ControlView(host, label, place), label_(label) {
-  create(WC_STATICW, SS_LEFT | SS_CENTERIMAGE | SS_NOPREFIX | SS_ENDELLIPSIS);
+  create(WC_STATICW, kLabelStyle | (names_a_folder() ? SS_PATHELLIPSIS : SS_ENDELLIPSIS));
   send(WM_SETFONT, reinterpret_cast<WPARAM>(font()), FALSE);
 }
 
@@ -47,6 +49,10 @@ void LabelView::show_changes(const Changes& changes) {
 PathLineView::PathLineView(ViewHost& host, TextBox& box, const ControlPlace& place)
     : ControlView(host, box, place), box_(box) {
   create(WC_STATICW, SS_LEFT | SS_NOPREFIX);
+}
+
+void LabelView::show_reading(const std::wstring& folder) {
+  if (names_a_folder()) show_text(narrow(folder));
 }
 
 void PathLineView::show_changes(const Changes& changes) {

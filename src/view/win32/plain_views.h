@@ -17,12 +17,14 @@ class LabelView final : public ControlView {
   void restyle() override;
   [[nodiscard]] int wanted_width() const override;
   HBRUSH prepare(HDC dc) override;
+  void show_reading(const std::wstring& folder) override;
 
  protected:
   void show_changes(const Changes& changes) override;
 
  private:
   [[nodiscard]] HFONT font() const;
+  [[nodiscard]] bool names_a_folder() const { return place().kind == ControlKind::kFolderLabel; }
 
   Label& label_;
   BrushOwner page_;

@@ -1,13 +1,16 @@
 #include "view/win32/look/form7_layout.h"
 
+#include "view/win32/look/drive_search_pages.h"
+
 namespace quillvane {
 
 namespace {
 
-enum Row { kTitle, kTools, kMain, kSelect, kSummary, kBar, kCommands };
+enum Row { kTitle, kTasks, kTools, kMain, kSelect, kSummary, kBar, kCommands };
 
 constexpr Track kRows[] = {
     {36, 0},   // title bar
+    {28, 0},   // tabs of the two jobs
     {40, 0},   // tool bar
     {160, 1},  // tree and lists
     {28, 0},   // selection, and the file being looked at
@@ -85,21 +88,23 @@ constexpr ControlPlace kControls[] = {
 };
 
 constexpr ToolbarHint kHints[] = {
-    {1, "Drives"},         {2, "Results"},          {3, "Exclude and include lists"},
+    {1, "Drives"},         {2, "File types"},       {3, "Exclude and include lists"},
     {5, "Start the scan"}, {6, "Start cleaning"},   {7, "Cancel the scan"},
     {9, "Select all"},     {10, "Select none"},     {12, "Custom search"},
     {13, "Ignore list"},   {14, "Create a report"}, {16, "Eraser"},
 };
 
 constexpr KeyClick kKeys[] = {
-    {0x70, "Image44(0)"},  // F1
-    {0x74, "cmd_start"},   // F5
-    {0x1B, "cmd_cancel"},  // Escape
+    {0x70, "Image44(0)"},                               // F1
+    {0x74, "cmd_start"},                                // F5
+    {0x74, "chameleonButton10"}, {0x1B, "cmd_cancel"},  // Escape
+    {0x1B, "orvbutton10"},
 };
 
 constexpr ReadingClick kReadingClicks[] = {
     {"cmd_cancel", 0, WhileReading::kEndsIt},
     {"Toolbar1", 7, WhileReading::kEndsIt},  // Cancel the scan
+    {"orvbutton10", 0, WhileReading::kEndsIt},
     {"chameleonButton9", 0, WhileReading::kEndsIt},
     {"chameleonButton12", 0, WhileReading::kActsNow},
 };
@@ -195,6 +200,14 @@ constexpr WindowLayout kLayout = {
 
 }  // namespace
 
-const WindowLayout& form7_layout() { return kLayout; }
+const WindowLayout& form7_layout() {
+  static const WindowLayout layout = [] {
+    WindowLayout whole = kLayout;
+    whole.page_set = drive_search_pages();
+    whole.asked_clicks = drive_search_questions();
+    return whole;
+  }();
+  return layout;
+}
 
 }  // namespace quillvane

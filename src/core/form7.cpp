@@ -5,12 +5,15 @@
 #include "dialogs/about_window.h"
 #include "dialogs/custom_dialog.h"
 #include "dialogs/ignore_dialog.h"
+#include "dialogs/type_dialog.h"
 
 namespace quillvane {
 
 namespace {
 
 constexpr int kAboutPage = 7;
+constexpr int kTypesStep = 1;  // wizardstep of the page of the file types
+constexpr int kListsStep = 2;  // wizardstep of the page of the lists
 
 }  // namespace
 
@@ -20,7 +23,7 @@ Form7::Form7(Session& shared, ModalWindows& open_windows)
       JunkScan(*this, shared),
       DrivePage(*this, shared),
       TypePage(*this, shared),
-      ListsPage(*this, shared),
+      ListsPage(*this, shared, *this),
       SearchRun(*this, shared),
       ReportPage(*this, shared),
       LanguagePanel(*this, shared),
@@ -36,6 +39,9 @@ void Form7::connect_pages() {
   Timer2.on_timer = [this] { tell_suite(); };
   orvbutton3.on_click = [this] { write_text_report(*this); };
   Command9.on_click = [this] { write_html_report(*this); };
+  orvbutton8.on_click = [this] { open_types_page(); };
+  chameleonButton1.on_click = [this] { open_lists_page(); };
+  on_edit_type = [this](int row) { open_type(row); };
 
   write_report = [this] { orvbutton3.raise_click(); };
   to_drives = [this] { chameleonButton6.raise_click(); };
@@ -45,6 +51,20 @@ void Form7::connect_pages() {
   on_ignore_list = [this] { open_ignore_list(); };
   on_custom_list = [this] { open_custom_list(); };
   on_about = [this] { open_about(); };
+}
+
+void Form7::open_types_page() {
+  wizardstep = kTypesStep;
+  show_frame(Frame4);
+  load_types();
+}
+
+void Form7::open_lists_page() {
+  wizardstep = kListsStep;
+  command811.set_enabled(false);
+  command911.set_enabled(false);
+  show_frame(Frame6);
+  load_lists();
 }
 
 void Form7::name_session() {
@@ -94,6 +114,14 @@ void Form7::open_custom_list() {
   if (windows.find("Form2") != nullptr) return;
   Form2 dialog(session, windows, Text14);
   dialog.load();
+  windows.show(dialog);
+}
+
+void Form7::open_type(int row) {
+  if (windows.find("Form4") != nullptr) return;
+  Form4 dialog(session, View101, Text12, view1);
+  dialog.load();
+  if (row > 0) dialog.fill(row);
   windows.show(dialog);
 }
 

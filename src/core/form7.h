@@ -65,6 +65,8 @@ class Form7 final : public Window,
  private:
   // form7.cpp
   void connect_pages();
+  void open_types_page();
+  void open_lists_page();
   void name_session();
   void read_mail();
   void load_ignore_list();
@@ -72,6 +74,7 @@ class Form7 final : public Window,
   void open_ignore_list();
   void open_custom_list();
   void open_about();
+  void open_type(int row);  // of View101; 0: a new one
 
   // start_up.cpp
   void apply_color();

@@ -10,8 +10,8 @@ namespace quillvane {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> kWindows = {"Form7", "Form1", "Form2", "Form5",
-                                                      "frmabout"};
+constexpr std::array<std::string_view, 6> kWindows = {"Form7", "Form1", "Form2",
+                                                      "Form4", "Form5", "frmabout"};
 
 }  // namespace
 

@@ -13,12 +13,10 @@ namespace quillvane {
 class Clickable : public Control {
  public:
   Clickable(Window& window, std::string_view name, const Design& design = {})
-      : Control(window, name, design), caption_(design.caption), tool_tip_(design.tool_tip) {}
+      : Control(window, name, design), caption_(design.caption) {}
 
   [[nodiscard]] const std::string& caption() const { return caption_; }
   void set_caption(std::string_view caption);
-  [[nodiscard]] const std::string& tool_tip() const { return tool_tip_; }
-  void set_tool_tip(std::string_view text) { tool_tip_ = text; }
 
   // The user's click. Does nothing while the control is disabled.
   virtual void click();
@@ -34,7 +32,6 @@ class Clickable : public Control {
 
  private:
   std::string caption_;
-  std::string tool_tip_;
 };
 
 // A push button, drawn by the program.

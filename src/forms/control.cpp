@@ -8,7 +8,11 @@
 namespace quillvane {
 
 Control::Control(Window& window, std::string_view name, const Design& design)
-    : window_(window), name_(name), enabled_(!design.disabled), visible_(!design.hidden) {
+    : window_(window),
+      name_(name),
+      tool_tip_(design.tool_tip),
+      enabled_(!design.disabled),
+      visible_(!design.hidden) {
   window_.add_control(*this);
 }
 

@@ -29,6 +29,7 @@ enum class Change {
   kItems,      // rows, nodes or entries were added, removed or rewritten
   kItemState,  // ticks or selection of items
   kRefresh,    // the program asks for a redraw
+  kFocus,      // the program asks for the keyboard to go to it
 };
 
 class ControlObserver {
@@ -51,8 +52,8 @@ using Color = std::uint32_t;
 
 // What a control is at design time, where that is more than its kind and its name.
 struct Design {
-  std::string_view caption = {};   // of the controls that have one
-  std::string_view tool_tip = {};  // likewise
+  std::string_view caption = {};  // of the controls that have one
+  std::string_view tool_tip = {};
   bool hidden = false;
   bool disabled = false;
 };
@@ -83,6 +84,10 @@ class Control {
   [[nodiscard]] Color back_color() const { return back_color_; }
   void set_back_color(Color color);
 
+  // What a view says of it while the mouse rests on it.
+  [[nodiscard]] const std::string& tool_tip() const { return tool_tip_; }
+  void set_tool_tip(std::string_view text) { tool_tip_ = text; }
+
   // Place in the window, in twips (a fifteenth of a pixel at 96 dpi).
   [[nodiscard]] int left() const { return left_; }
   [[nodiscard]] int top() const { return top_; }
@@ -90,6 +95,8 @@ class Control {
   void move_to(const Control& other) { move(other.left(), other.top()); }
 
   void refresh() { notify(Change::kRefresh); }
+  // Asks the view to give it the keyboard.
+  void take_focus() { notify(Change::kFocus); }
 
   // A property by its name without regard to case ("text", "Enabled"); nothing when this kind of
   // control has none of that name.
@@ -107,6 +114,7 @@ class Control {
  private:
   Window& window_;
   std::string name_;
+  std::string tool_tip_;
   std::vector<ControlObserver*> observers_;
   bool enabled_ = true;
   bool locked_ = false;

@@ -13,6 +13,12 @@ void ListBox::add(std::string_view text) {
   notify(Change::kItems);
 }
 
+void ListBox::remove(int index) {
+  if (index < 0 || index >= count()) return;
+  items_.erase(items_.begin() + index);
+  notify(Change::kItems);
+}
+
 void ListBox::clear() {
   items_.clear();
   notify(Change::kItems);

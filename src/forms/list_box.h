@@ -18,6 +18,8 @@ class ListBox : public Control {
   [[nodiscard]] std::string item(int index) const;
   [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
   void add(std::string_view text);
+  // Does nothing when there is no such item.
+  void remove(int index);
   void clear();
 
   // Besides the common ones: Count.

@@ -39,6 +39,14 @@ TEST(ListBox, ClearTakesAllItems) {
   EXPECT_EQ(list.property("Count"), PropertyValue(std::int64_t{0}));
 }
 
+TEST(ListBox, GivesUpOneItemAndNoneThatIsNotThere) {
+  Window window("Form");
+  ListBox list(window, "List1");
+  for (const char* item : {"a", "b", "c"}) list.add(item);
+  for (const int item : {-1, 3, 1}) list.remove(item);
+  EXPECT_EQ(list.items(), (std::vector<std::string>{"a", "c"}));
+}
+
 TEST(ListBox, TellsThatItsItemsChanged) {
   Window window("Form");
   ListBox list(window, "List1");

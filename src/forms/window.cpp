@@ -10,6 +10,12 @@ void Window::set_visible(bool visible) {
   if (on_view_change) on_view_change();
 }
 
+void Window::set_topmost(bool topmost) {
+  if (topmost_ == topmost) return;
+  topmost_ = topmost;
+  if (on_view_change) on_view_change();
+}
+
 void Window::set_state(WindowState state) {
   if (state_ == state) return;
   state_ = state;

@@ -33,6 +33,9 @@ class Window {
   [[nodiscard]] WindowState state() const { return state_; }
   // Sets the state and runs the window's Resize, as the system does.
   void set_state(WindowState state);
+  // Whether it stays above the windows of other programs.
+  [[nodiscard]] bool topmost() const { return topmost_; }
+  void set_topmost(bool topmost);
   [[nodiscard]] Color back_color() const { return back_color_; }
   void set_back_color(Color color) { back_color_ = color; }
 
@@ -51,7 +54,7 @@ class Window {
   // Makes a field readable by name.
   void add_field(std::string_view name, std::function<PropertyValue()> read);
 
-  // Called when visible or state change.
+  // Called when visible, state or topmost change.
   std::function<void()> on_view_change;
 
  protected:
@@ -65,6 +68,7 @@ class Window {
   std::string name_;
   std::string caption_;
   bool visible_ = false;
+  bool topmost_ = false;
   WindowState state_ = WindowState::kNormal;
   Color back_color_ = 0;
   std::vector<Control*> controls_;

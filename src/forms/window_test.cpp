@@ -69,5 +69,16 @@ TEST(Window, TellsItsViewWhenItIsShownHiddenOrMinimised) {
   EXPECT_EQ(told, 3);
 }
 
+TEST(Window, TellsItsViewOnceWhenItComesAboveTheOthers) {
+  TestWindow window;
+  int told = 0;
+  window.on_view_change = [&] { ++told; };
+  EXPECT_FALSE(window.topmost());
+  window.set_topmost(true);
+  window.set_topmost(true);
+  EXPECT_TRUE(window.topmost());
+  EXPECT_EQ(told, 1);
+}
+
 }  // namespace
 }  // namespace quillvane

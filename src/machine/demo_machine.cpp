@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "machine/demo_files.h"
+#include "machine/factory_type_table.h"
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_path.h"
 #include "platform/folder/machine_json.h"
@@ -130,6 +131,8 @@ std::optional<std::string> stage_files(const MachineState& machine) {
   stage.file(machine.program_folder + "\\ignore.tdw", {.text = kIgnored, .bytes = 0, .time = {}});
   stage.file(machine.program_folder + "\\custom.tdw",
              {.text = kCustomEntry, .bytes = 0, .time = {}});
+  stage.file(machine.program_folder + "\\tmptype.orv",
+             {.text = factory_type_table(), .bytes = 0, .time = {}});
   return stage.problem();
 }
 

@@ -17,6 +17,7 @@
 
 #include "machine/create_machine.h"
 #include "machine/demo_files.h"
+#include "machine/factory_type_table.h"
 #include "platform/folder/folder_machine.h"
 #include "platform/folder/machine_files.h"
 #include "platform/folder/registry_store.h"
@@ -163,6 +164,11 @@ TEST_F(DemoMachine, HasAnIgnoredFolderACustomEntryAndAQueuedFile) {
   EXPECT_EQ(multi_string_list(queue->data),
             (std::vector<std::string>{"\\??\\C:\\Windows\\Temp\\queued-earlier.tmp", ""}));
   EXPECT_TRUE(files.file_size("C:\\Windows\\Temp\\queued-earlier.tmp").has_value());
+}
+
+TEST_F(DemoMachine, HasTheTableOfFileTypesThatComesWithTheProgram) {
+  const std::string program = machine_->state().program_folder;
+  EXPECT_EQ(machine_->files().read_file(program + "\\tmptype.orv"), factory_type_table());
 }
 
 TEST_F(DemoMachine, OldOperaIsReachedThroughTheJunctionOfTheOlderLayout) {

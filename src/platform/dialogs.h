@@ -40,6 +40,13 @@ class Dialogs {
 
   // Lets the user name a file to be written, which may be there already; empty when cancelled.
   virtual std::string save_file(const FileQuestion& question) = 0;
+
+  // Lets the user choose a file that is there; empty when cancelled.
+  virtual std::string open_file(const FileQuestion& question) = 0;
+
+  // Asks for one line of text, which begins with `preset`; empty when cancelled.
+  virtual std::string input_box(const std::string& prompt, const std::string& title,
+                                const std::string& preset) = 0;
 };
 
 }  // namespace quillvane

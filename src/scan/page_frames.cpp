@@ -2,10 +2,12 @@
 
 namespace quillvane {
 
-void PageFrames::show_result_frame() {
-  Frame80.move_to(Frame2);
-  Frame80.show();
-  for (Frame* page : {&Frame2, &Frame4, &Frame6, &Frame8}) page->hide();
+void PageFrames::show_frame(Frame& page) {
+  page.move_to(Frame2);
+  page.show();
+  for (Frame* other : {&Frame2, &Frame4, &Frame6, &Frame8, &Frame80}) {
+    if (other != &page) other->hide();
+  }
 }
 
 }  // namespace quillvane

@@ -10,8 +10,9 @@ class PageFrames : public virtual Page {
  public:
   PageFrames(Window& owner, Session& shared) : Page(owner, shared) {}
 
-  // Brings the result page to the front, in the place of the others.
-  void show_result_frame();
+  // Brings one of the pages to the front, in the place of the others.
+  void show_frame(Frame& page);
+  void show_result_frame() { show_frame(Frame80); }
 
   Frame Frame2{window, "Frame2"};             // page of the drives
   Frame Frame4{window, "Frame4", kHidden};    // page of the file types

@@ -87,13 +87,18 @@ std::string_view words_for(ReadFailure failure) {
 
 FileText read_text_file(const Platform& platform, const std::string& path) {
   const FileContent content = platform.files.read_file(path);
-  if (!content) return {"", std::string(words_for(content.failure()))};
+  if (!content) return {"", read_problem(content.failure())};
   // UTF-16, or what a crash left of a file: as text of a code page it would hold none of its lines.
   if ((*content).find('\0') != std::string::npos) return {"", "it is no text"};
   auto text = text_of_bytes(platform.system, *content);
   if (text) return {std::move(*text), ""};
-  return {"", "its code page " + std::to_string(platform.system.ansi_code_page()) +
-                  " is not installed"};
+  return {"", code_page_problem(platform.system)};
+}
+
+std::string read_problem(ReadFailure failure) { return std::string(words_for(failure)); }
+
+std::string code_page_problem(const SystemInfo& system) {
+  return "its code page " + std::to_string(system.ansi_code_page()) + " is not installed";
 }
 
 bool write_text_file(const Platform& platform, const std::string& path, std::string_view text) {

@@ -26,6 +26,12 @@ struct FileText {
 [[nodiscard]] bool write_text_file(const Platform& platform, const std::string& path,
                                    std::string_view text);
 
+// Why a file was not read, in a few words; empty for one that is missing.
+[[nodiscard]] std::string read_problem(ReadFailure failure);
+
+// That the system's code page is not installed, likewise.
+[[nodiscard]] std::string code_page_problem(const SystemInfo& system);
+
 // The same rule for bytes that are part of a file.
 
 // Nothing when the bytes need a code page that the system does not know.

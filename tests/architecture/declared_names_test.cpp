@@ -20,6 +20,7 @@
 #include "dialogs/custom_dialog.h"
 #include "dialogs/custom_entry_dialog.h"
 #include "dialogs/ignore_dialog.h"
+#include "dialogs/type_dialog.h"
 #include "tests/support/scan_fixture.h"
 
 namespace quillvane {
@@ -36,6 +37,7 @@ std::string text_of(const std::filesystem::path& path) {
 std::map<std::string, std::vector<DeclaredName>> all_declared() {
   const std::map<std::string, std::string> small_windows = {{"ignore_dialog.h", "Form1"},
                                                             {"custom_dialog.h", "Form2"},
+                                                            {"type_dialog.h", "Form4"},
                                                             {"custom_entry_dialog.h", "Form5"},
                                                             {"about_window.h", "frmabout"}};
   std::map<std::string, std::vector<DeclaredName>> all;
@@ -82,10 +84,11 @@ TEST(DeclaredNames, AreTheControlsThatTheWindowsHave) {
   Form2 list(session, fixture.program->windows, form.Text14);
   Form5 entry(session, list, form.Text14);
   Form1 ignored(session, form.Text14);
+  Form4 type(session, form.View101, form.Text12, form.view1);
   frmabout about(session);
   const auto declared = all_declared();
   for (const Window* window :
-       std::initializer_list<const Window*>{&form, &list, &entry, &ignored, &about}) {
+       std::initializer_list<const Window*>{&form, &list, &type, &entry, &ignored, &about}) {
     Names controls;
     for (const Control* control : window->controls()) controls.insert(control->name());
     Names told;

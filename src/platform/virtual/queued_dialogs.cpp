@@ -7,6 +7,14 @@ namespace {
 // The low four bits of a style tell which buttons a box has.
 bool is_question(std::uint32_t style) { return (style & 0x0FU) == kBoxYesNo; }
 
+// The first text of the queue, empty when none is left.
+std::string next_of(std::deque<std::string>& texts) {
+  if (texts.empty()) return {};
+  std::string text = std::move(texts.front());
+  texts.pop_front();
+  return text;
+}
+
 }  // namespace
 
 Answer QueuedDialogs::message_box(const std::string& text, const std::string& title,
@@ -37,12 +45,7 @@ std::string_view answer_name(Answer answer) {
   return "";
 }
 
-std::string QueuedDialogs::next_path() {
-  if (paths_.empty()) return {};
-  std::string path = std::move(paths_.front());
-  paths_.pop_front();
-  return path;
-}
+std::string QueuedDialogs::next_path() { return next_of(paths_); }
 
 std::string QueuedDialogs::browse_folder(const std::string& title, std::uint32_t flags,
                                          const std::string& /*root*/) {
@@ -52,9 +55,24 @@ std::string QueuedDialogs::browse_folder(const std::string& title, std::uint32_t
 }
 
 std::string QueuedDialogs::save_file(const FileQuestion& question) {
+  return ask_for_file("save", question);
+}
+
+std::string QueuedDialogs::open_file(const FileQuestion& question) {
+  return ask_for_file("open", question);
+}
+
+std::string QueuedDialogs::ask_for_file(const std::string& kind, const FileQuestion& question) {
   std::string path = next_path();
-  boxes_.push_back({"save", "", question.title, 0, path, question.file, question.filter});
+  boxes_.push_back({kind, "", question.title, 0, path, question.file, question.filter});
   return path;
+}
+
+std::string QueuedDialogs::input_box(const std::string& prompt, const std::string& title,
+                                     const std::string& preset) {
+  std::string text = next_of(inputs_);
+  boxes_.push_back({"input", prompt, title, 0, text, {}, {}, preset});
+  return text;
 }
 
 }  // namespace quillvane

@@ -16,13 +16,14 @@ namespace quillvane {
 
 // A box that came up. Texts, so that dialogs which are answered by a path or an input fit in.
 struct ShownBox {
-  std::string kind;  // "message", "question", "folder" or "save"
+  std::string kind;  // "message", "question", "folder", "open", "save" or "input"
   std::string text;
   std::string title;
   std::uint32_t style = 0;
-  std::string answer;       // "ok", "cancel", "yes" or "no"; of a dialog the path chosen
+  std::string answer;       // "ok", "cancel", "yes" or "no"; of a dialog what it was answered
   std::string file = {};    // of a file dialog: the name it began with ...
   std::string filter = {};  // ... and what it lets through
+  std::string preset = {};  // of an input box: the text it began with
 
   friend bool operator==(const ShownBox&, const ShownBox&) = default;
 };
@@ -43,6 +44,9 @@ class QueuedDialogs final : public Dialogs {
   std::string browse_folder(const std::string& title, std::uint32_t flags,
                             const std::string& root) override;
   std::string save_file(const FileQuestion& question) override;
+  std::string open_file(const FileQuestion& question) override;
+  std::string input_box(const std::string& prompt, const std::string& title,
+                        const std::string& preset) override;
 
   // Answers to file and folder dialogs and to input boxes; an empty path cancels.
   void answer_path(std::string path) { paths_.push_back(std::move(path)); }
@@ -53,6 +57,7 @@ class QueuedDialogs final : public Dialogs {
 
  private:
   [[nodiscard]] std::string next_path();
+  std::string ask_for_file(const std::string& kind, const FileQuestion& question);
 
   EffectLog& effects_;
   std::deque<Answer> answers_;

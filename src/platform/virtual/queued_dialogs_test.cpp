@@ -51,6 +51,28 @@ TEST(QueuedDialogs, ASystemModalQuestionIsAQuestion) {
   EXPECT_EQ(dialogs.message_box("Close it?", "confirmation", style), Answer::kNo);
 }
 
+TEST(QueuedDialogs, AFileToOpenIsTheNextPath) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  dialogs.answer_path("C:\\a.txt");
+  EXPECT_EQ(dialogs.open_file({"Choose", "*.*|*.*", "b.txt"}), "C:\\a.txt");
+  EXPECT_EQ(dialogs.open_file({"Choose", "", ""}), "");
+  EXPECT_EQ(dialogs.take_boxes(),
+            (std::vector<ShownBox>{{"open", "", "Choose", 0, "C:\\a.txt", "b.txt", "*.*|*.*", ""},
+                                   {"open", "", "Choose", 0, "", "", "", ""}}));
+}
+
+TEST(QueuedDialogs, AnInputIsTheNextTextAndWithoutOneItIsCancelled) {
+  EffectLog effects;
+  QueuedDialogs dialogs(effects);
+  dialogs.answer_input("mine");
+  EXPECT_EQ(dialogs.input_box("Name:", "Naming", "old"), "mine");
+  EXPECT_EQ(dialogs.input_box("Name:", "Naming", ""), "");
+  EXPECT_EQ(dialogs.take_boxes(),
+            (std::vector<ShownBox>{{"input", "Name:", "Naming", 0, "mine", "", "", "old"},
+                                   {"input", "Name:", "Naming", 0, "", "", "", ""}}));
+}
+
 TEST(QueuedDialogs, BoxesAreTakenOnce) {
   EffectLog effects;
   QueuedDialogs dialogs(effects);

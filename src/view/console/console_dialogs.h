@@ -31,6 +31,13 @@ class ConsoleDialogs final : public Dialogs {
 
   // Nor for a file.
   std::string save_file(const FileQuestion& /*question*/) override { return {}; }
+  std::string open_file(const FileQuestion& /*question*/) override { return {}; }
+
+  // Nor for a text.
+  std::string input_box(const std::string& /*prompt*/, const std::string& /*title*/,
+                        const std::string& /*preset*/) override {
+    return {};
+  }
 
  private:
   [[nodiscard]] Answer ask(const std::string& text);

@@ -58,6 +58,7 @@ void ControlView::refresh() {
   const Changes changes = std::exchange(noted_, Changes());
   if (changes.has(Change::kEnabled)) EnableWindow(window_, model_.enabled() ? TRUE : FALSE);
   show_changes(changes);
+  if (changes.has(Change::kFocus) && IsWindowVisible(window_) != 0) SetFocus(window_);
 }
 
 void ControlView::restyle() {

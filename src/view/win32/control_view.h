@@ -30,7 +30,7 @@ class Changes {
   [[nodiscard]] bool none() const { return bits_ == 0; }
   [[nodiscard]] static Changes all() {
     Changes changes;
-    changes.bits_ = ~0U;
+    changes.bits_ = ~bit(Change::kFocus);  // which is asked for, never drawn
     return changes;
   }
 

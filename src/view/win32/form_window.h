@@ -129,6 +129,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   std::uint64_t refreshed_ms_ = 0;
   bool refresh_is_due_ = false;
   bool shows_own_side_ = true;  // and not a page
+  bool is_topmost_ = false;
 };
 
 }  // namespace quillvane

@@ -36,6 +36,12 @@ std::string FormWindow::title() const {
 }
 
 void FormWindow::show_window() {
+  if (is_topmost_ != model_.topmost()) {
+    is_topmost_ = model_.topmost();
+    SetWindowPos(window_, is_topmost_ ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
+                 SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    return;  // nothing else has changed with it
+  }
   if (!model_.visible() || model_.state() == WindowState::kMinimised) {
     // Before it hides: else Windows would look for another program's window to be the active one.
     free_owner();

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "platform/win32/wide_text.h"
+#include "view/win32/input_box.h"
 
 namespace quillvane {
 
@@ -46,6 +47,26 @@ IdListOwner id_list_of(const std::string& folder) {
   return IdListOwner(list);
 }
 
+std::string ask_for_file(const FileQuestion& question, DWORD flags,
+                         BOOL(WINAPI* dialog)(OPENFILENAMEW*)) {
+  const std::wstring title = widen(question.title);
+  std::wstring filter = widen(question.filter) + L'|';
+  std::replace(filter.begin(), filter.end(), L'|', L'\0');  // as Windows parts and ends them
+  wchar_t path[kLongestPath] = L"";
+  const std::wstring file = widen(question.file);
+  file.copy(path, kLongestPath - 1);
+  OPENFILENAMEW request{};
+  request.lStructSize = sizeof(request);
+  request.hwndOwner = owner_window();
+  request.lpstrFilter = question.filter.empty() ? nullptr : filter.c_str();
+  request.lpstrFile = path;
+  request.nMaxFile = kLongestPath;
+  request.lpstrTitle = title.c_str();
+  // The working folder of the program stays what it is.
+  request.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | flags;
+  return dialog(&request) != FALSE ? narrow(path) : std::string();
+}
+
 }  // namespace
 
 Answer Win32Dialogs::message_box(const std::string& text, const std::string& title,
@@ -73,22 +94,16 @@ std::string Win32Dialogs::browse_folder(const std::string& title, std::uint32_t 
 }
 
 std::string Win32Dialogs::save_file(const FileQuestion& question) {
-  const std::wstring title = widen(question.title);
-  std::wstring filter = widen(question.filter) + L'|';
-  std::replace(filter.begin(), filter.end(), L'|', L'\0');  // as Windows parts and ends them
-  wchar_t path[kLongestPath] = L"";
-  const std::wstring file = widen(question.file);
-  file.copy(path, kLongestPath - 1);
-  OPENFILENAMEW request{};
-  request.lStructSize = sizeof(request);
-  request.hwndOwner = owner_window();
-  request.lpstrFilter = filter.c_str();
-  request.lpstrFile = path;
-  request.nMaxFile = kLongestPath;
-  request.lpstrTitle = title.c_str();
-  // The working folder of the program stays what it is.
-  request.Flags = OFN_EXPLORER | OFN_HIDEREADONLY | OFN_NOCHANGEDIR | OFN_OVERWRITEPROMPT;
-  return GetSaveFileNameW(&request) != FALSE ? narrow(path) : std::string();
+  return ask_for_file(question, OFN_OVERWRITEPROMPT, GetSaveFileNameW);
+}
+
+std::string Win32Dialogs::open_file(const FileQuestion& question) {
+  return ask_for_file(question, OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST, GetOpenFileNameW);
+}
+
+std::string Win32Dialogs::input_box(const std::string& prompt, const std::string& title,
+                                    const std::string& preset) {
+  return ask_for_text(owner_window(), widen(prompt), widen(title), widen(preset));
 }
 
 }  // namespace quillvane

@@ -12,6 +12,9 @@ class Win32Dialogs final : public Dialogs {
   std::string browse_folder(const std::string& title, std::uint32_t flags,
                             const std::string& root) override;
   std::string save_file(const FileQuestion& question) override;
+  std::string open_file(const FileQuestion& question) override;
+  std::string input_box(const std::string& prompt, const std::string& title,
+                        const std::string& preset) override;
 };
 
 }  // namespace quillvane

@@ -55,10 +55,11 @@ Json box_json(const ShownBox& box) {
                {"title", box.title},
                {"style", box.style},
                {"answer", box.answer}};
-  if (box.kind == "save") {
+  if (box.kind == "save" || box.kind == "open") {
     json["file"] = box.file;
     json["filter"] = box.filter;
   }
+  if (box.kind == "input") json["default"] = box.preset;
   return json;
 }
 

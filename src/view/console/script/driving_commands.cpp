@@ -6,6 +6,7 @@
 #include "controls/tray_area.h"
 #include "forms/buttons.h"
 #include "forms/list_view.h"
+#include "forms/tabs.h"
 #include "forms/text_box.h"
 #include "forms/toolbar.h"
 #include "forms/tree_view.h"
@@ -33,6 +34,10 @@ void start(ScriptContext& context, ScriptArguments arguments) {
 void click(ScriptContext& context, ScriptArguments arguments) {
   if (arguments.size() == 1) {
     control_of_kind<Clickable>(context.program, arguments[0], "cannot be clicked").click();
+    return;
+  }
+  if (auto* tabs = dynamic_cast<Tabs*>(&control_named(context.program, arguments[0]))) {
+    tabs->click_tab(number_in_range(arguments[1], 1, tabs->count()));
     return;
   }
   auto& bar = control_of_kind<Toolbar>(context.program, arguments[0], "has no numbered buttons");

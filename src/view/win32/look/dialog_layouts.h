@@ -7,7 +7,8 @@ namespace quillvane {
 
 [[nodiscard]] const WindowLayout& form1_layout();     // the ignore list
 [[nodiscard]] const WindowLayout& form2_layout();     // the user's own categories
-[[nodiscard]] const WindowLayout& form5_layout();     // one of them
+[[nodiscard]] const WindowLayout& form4_layout();     // one file type
+[[nodiscard]] const WindowLayout& form5_layout();     // one of the user's own categories
 [[nodiscard]] const WindowLayout& frmabout_layout();  // about the program
 
 }  // namespace quillvane

@@ -10,7 +10,7 @@ namespace quillvane {
 
 const WindowLayout* find_layout(std::string_view window) {
   static const std::array kLayouts = {&form7_layout(), &form1_layout(), &form2_layout(),
-                                      &form5_layout(), &frmabout_layout()};
+                                      &form4_layout(), &form5_layout(), &frmabout_layout()};
   const auto* const found =
       std::find_if(kLayouts.begin(), kLayouts.end(),
                    [window](const WindowLayout* layout) { return layout->window == window; });

@@ -12,6 +12,7 @@
 #include "dialogs/custom_dialog.h"
 #include "dialogs/custom_entry_dialog.h"
 #include "dialogs/ignore_dialog.h"
+#include "dialogs/type_dialog.h"
 #include "tests/support/scan_fixture.h"
 #include "view/win32/look/arrange.h"
 
@@ -27,10 +28,12 @@ bool overlap(const Box& one, const Box& other) {
 class Layouts : public testing::TestWithParam<const char*> {
  protected:
   Layouts() {
-    TextBox& mail = fixture_.start().Text14;
+    Form7& form = fixture_.start();
+    TextBox& mail = form.Text14;
     Session& session = fixture_.program->session;
     list_ = std::make_unique<Form2>(session, fixture_.program->windows, mail);
     entry_ = std::make_unique<Form5>(session, *list_, mail);
+    type_ = std::make_unique<Form4>(session, form.View101, form.Text12, form.view1);
     ignored_ = std::make_unique<Form1>(session, mail);
     about_ = std::make_unique<frmabout>(session);
   }
@@ -39,6 +42,7 @@ class Layouts : public testing::TestWithParam<const char*> {
     const std::string name = GetParam();
     if (name == "Form1") return *ignored_;
     if (name == "Form2") return *list_;
+    if (name == "Form4") return *type_;
     if (name == "Form5") return *entry_;
     if (name == "frmabout") return *about_;
     return fixture_.program->main_window();
@@ -64,13 +68,14 @@ class Layouts : public testing::TestWithParam<const char*> {
 
   ScanFixture fixture_;
   std::unique_ptr<Form2> list_;
+  std::unique_ptr<Form4> type_;
   std::unique_ptr<Form5> entry_;
   std::unique_ptr<Form1> ignored_;
   std::unique_ptr<frmabout> about_;
 };
 
 INSTANTIATE_TEST_SUITE_P(OfEachWindow, Layouts,
-                         testing::Values("Form7", "Form1", "Form2", "Form5", "frmabout"),
+                         testing::Values("Form7", "Form1", "Form2", "Form4", "Form5", "frmabout"),
                          [](const auto& name) { return std::string(name.param); });
 
 TEST_P(Layouts, NamesEachControlOfTheWindowOnceOrSaysThatItIsNotDrawn) {

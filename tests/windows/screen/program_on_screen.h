@@ -91,6 +91,9 @@ class ProgramOnScreen {
   [[nodiscard]] RECT row_area(HWND list, int row) const;  // on the screen
   [[nodiscard]] std::vector<std::string> row_texts(HWND list, int column) const;
 
+  // Tabs, from 0.
+  void click_tab(HWND strip, int number) const;
+
   // The tool bar's buttons, from 1.
   [[nodiscard]] bool tool_enabled(int button) const;
   [[nodiscard]] bool tool_hidden(int button) const;

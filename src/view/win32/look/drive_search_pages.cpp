@@ -43,16 +43,10 @@ constexpr ControlPlace command(std::string_view name, int row, int width) {
 // --- On all pages.
 
 constexpr Track kCommonRows[] = {kTitleTrack, kTabsTrack, kStepsTrack, kListTrack, kCommandsTrack};
-constexpr int kCommonCommands = 4;
-
-constexpr ControlPlace way(std::string_view name, ControlKind kind, std::string_view says) {
-  return {name, kind, kCommonCommands, 1, 1, Pack::kFromRight, 94, says, {}, {}, {}};
-}
-
 constexpr ControlPlace kCommonControls[] = {
-    step("chameleonButton6", "1  Drives"),         step("orvbutton8", "2  File types"),
-    step("chameleonButton1", "3  Folders"),        step("orvbutton5", "4  Search"),
-    way("chameleonButton10", kMainButton, "Next"), way("chameleonButton8", kButton, "Back"),
+    step("chameleonButton6", "1  Drives"),    step("orvbutton8", "2  File types"),
+    step("chameleonButton1", "3  Folders"),   way("chameleonButton10", kMainButton, "Next"),
+    way("chameleonButton8", kButton, "Back"),
 };
 
 // --- The drives.
@@ -104,41 +98,6 @@ constexpr ControlPlace kListControls[] = {
     command("command339", kListCommands, 84).says("Delete"),
 };
 
-// --- The run.
-
-constexpr int kRunFolder = kMain;
-constexpr int kRunFigures = kMain + 1;
-constexpr int kRunBar = kMain + 2;
-constexpr int kRunDrives = kMain + 3;
-constexpr int kRunTypes = kMain + 4;
-constexpr int kRunCommands = kMain + 5;
-constexpr Track kRunRows[] = {kTitleTrack, kTabsTrack, kStepsTrack, kNoteTrack, kLineTrack,
-                              kLineTrack,  {12, 0},    kListTrack,  kListTrack, kCommandsTrack};
-
-constexpr ControlPlace figure(std::string_view name, ControlKind kind, int width) {
-  return packed(Pack::kFromLeft, name, kind, kRunFigures, kBoth, width);
-}
-
-constexpr std::string_view kTypesFound = "File types that are searched for";
-
-constexpr ControlPlace kRunControls[] = {
-    note("Frame8",
-         "Search\nThe drives are searched one by one, then the temporary folders of the system. "
-         "Nothing is removed."),
-    packed(Pack::kFromLeft, "Label5", kCaption, kRunFolder, kBoth, 60).says("Folder"),
-    filling("Label5", kFolderLabel, kRunFolder, 0, kBoth),
-    figure("Label7", kCaption, 60).says("Found"),
-    figure("Label7", kLabel, 90),
-    figure("Label10", kCaption, 40).says("Size"),
-    figure("Label10", kLabel, 120),
-    filling("Bar1", kProgress, kRunBar, 0, kBoth).says("Drives that are done"),
-    list("View2", kList, kRunDrives, "Drives that are searched")
-        .with("row-drive")
-        .columns_as("wnbt"),
-    list("View1000", kList, kRunTypes, kTypesFound).with("row-oth").columns_as("wsnn"),
-    command("orvbutton10", kRunCommands, 110).says("Exit"),
-};
-
 // --- The result.
 
 constexpr int kResultTypes = kMain;
@@ -161,7 +120,6 @@ constexpr ControlPlace kResultControls[] = {
     packed(Pack::kFromLeft, "Shape1", kMark, kResultSummary, kBoth, 14).says("Result mark"),
     filling("Label11", kLabel, kResultSummary, 0, kBoth).says("Summary of the drive search"),
     filling("bar3", kProgress, kResultBar, 0, kBoth).says("Progress of the removal"),
-    command("orvbutton10", kResultCommands, 84).says("Exit"),
     command("orvbutton2", kResultCommands, 84).says("Delete").drawn_though_hidden(),
     command("orvbutton3", kResultCommands, 112).says("Create Report").drawn_though_hidden(),
 };
@@ -169,7 +127,6 @@ constexpr ControlPlace kResultControls[] = {
 // The foremost first: the run stands before all others, and at the start the result before the
 // drives.
 constexpr PageGrid kPages[] = {
-    {"Frame8", kRunRows, kColumns, kRunControls},
     {"Frame80", kResultRows, kColumns, kResultControls},
     {"Frame6", kListRows, kColumns, kListControls},
     {"Frame4", kTypeRows, kColumns, kTypeControls},

@@ -95,16 +95,15 @@ constexpr ToolbarHint kHints[] = {
 };
 
 constexpr KeyClick kKeys[] = {
-    {0x70, "Image44(0)"},                               // F1
-    {0x74, "cmd_start"},                                // F5
-    {0x74, "chameleonButton10"}, {0x1B, "cmd_cancel"},  // Escape
-    {0x1B, "orvbutton10"},
+    {0x70, "Image44(0)"},  // F1
+    {0x74, "cmd_start"},   // F5
+    {0x74, "chameleonButton10"},
+    {0x1B, "cmd_cancel"},  // Escape
 };
 
 constexpr ReadingClick kReadingClicks[] = {
     {"cmd_cancel", 0, WhileReading::kEndsIt},
     {"Toolbar1", 7, WhileReading::kEndsIt},  // Cancel the scan
-    {"orvbutton10", 0, WhileReading::kEndsIt},
     {"chameleonButton9", 0, WhileReading::kEndsIt},
     {"chameleonButton12", 0, WhileReading::kActsNow},
 };
@@ -124,20 +123,9 @@ constexpr std::string_view kUndrawn[] = {
     "Drive1",
     "Shape2",
     // Buttons that only hold a run.
-    "orvbutton2",
-    "orvbutton3",
     "Command9",
     "Command14",
     // Ways to the pages of the drive search, and the commands of its file types.
-    "chameleonButton6",
-    "orvbutton8",
-    "chameleonButton1",
-    "TabStrip1",
-    "Label8",
-    "command331",
-    "chameleonButton5",
-    "command338",
-    "command339",
     "chameleonButton331",
     "chameleonButton332",
     "command335",
@@ -148,11 +136,6 @@ constexpr std::string_view kUndrawn[] = {
     "Text55",
     "List5",
     "List6",
-    "command111",
-    "command811",
-    "command911",
-    "orvbutton611",
-    "orvbutton711",
     "command511",
     "Command1",
     "Command8",
@@ -164,19 +147,10 @@ constexpr std::string_view kUndrawn[] = {
     "Label12(1)",
     "chameleonButton2",
     // Pages and panels: their controls are drawn, or come later.
-    "Frame2",
-    "Frame4",
-    "Frame6",
     "Frame8",
-    "Frame80",
     "pictrlang",
-    "View2",
     "View10",
     "View4",
-    "View1000",
-    "View201",
-    "View202",
-    "View101",
     // Not in the window: the help key, the tray, the timer and the pop-up menus.
     "Image44(0)",
     "TrayArea1",

@@ -44,9 +44,9 @@ constexpr ControlPlace command(std::string_view name, int row, int width) {
 
 constexpr Track kCommonRows[] = {kTitleTrack, kTabsTrack, kStepsTrack, kListTrack, kCommandsTrack};
 constexpr ControlPlace kCommonControls[] = {
-    step("chameleonButton6", "1  Drives"),    step("orvbutton8", "2  File types"),
-    step("chameleonButton1", "3  Folders"),   way("chameleonButton10", kMainButton, "Next"),
-    way("chameleonButton8", kButton, "Back"),
+    step("chameleonButton6", "1  Drives"),
+    step("orvbutton8", "2  File types"),
+    step("chameleonButton1", "3  Folders"),
 };
 
 // --- The drives.
@@ -124,8 +124,7 @@ constexpr ControlPlace kResultControls[] = {
     command("orvbutton3", kResultCommands, 112).says("Create Report").drawn_though_hidden(),
 };
 
-// The foremost first: the run stands before all others, and at the start the result before the
-// drives.
+// The foremost first: at the start the result stands before the drives.
 constexpr PageGrid kPages[] = {
     {"Frame80", kResultRows, kColumns, kResultControls},
     {"Frame6", kListRows, kColumns, kListControls},
@@ -140,9 +139,7 @@ constexpr PageSet kPageSet = {
     .tab_row = kTabRow,
     .first_page = "chameleonButton6",
     .shared_page = "Frame80",
-    .run_page = "Frame8",
     .own_work = "cmd_cancel",
-    .pages_work = "Text6",
     .pages = kPages,
 };
 

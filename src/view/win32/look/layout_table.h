@@ -132,12 +132,12 @@ struct PageGrid {
 struct PageSet {
   std::string_view own_tab;  // caption of the tab of the window's own controls
   std::string_view pages_tab;
-  int tab_row = 0;               // of the window's own grid; they stand at its left end
-  std::string_view first_page;   // the button that brings the first page to the front
-  std::string_view shared_page;  // the frame that shows results of either job
-  std::string_view run_page;     // the frame that shows while the pages' job runs
-  std::string_view own_work;     // the control that is enabled while the window's own job runs
-  std::string_view pages_work;   // the text box that holds "1" while the pages' job runs
+  int tab_row = 0;                   // of the window's own grid; they stand at its left end
+  std::string_view first_page;       // the button that brings the first page to the front
+  std::string_view shared_page;      // the frame that shows results of either job
+  std::string_view run_page = {};    // the frame that shows while the pages' job runs
+  std::string_view own_work;         // the control that is enabled while the window's own job runs
+  std::string_view pages_work = {};  // the text box that holds "1" while the pages' job runs
   std::span<const PageGrid> pages = {};  // the foremost first
 
   [[nodiscard]] constexpr bool empty() const { return pages.empty(); }

@@ -25,7 +25,8 @@ void PageChoice::look() {
     front_ = front;
     if (front != set_.shared_page) shows_pages_ = true;
   }
-  if (front == set_.run_page || pages_run) pages_result_ = true;
+  const bool is_at_run = !front.empty() && front == set_.run_page;
+  if (is_at_run || pages_run) pages_result_ = true;
   if (own_runs) {
     shows_pages_ = false;
     pages_result_ = false;

@@ -60,6 +60,7 @@ test_packages=(
   g++-mingw-w64-i686-posix                            # the 32-bit program
   make patch tcl xz-utils                             # SQLite for Windows programs
   librsvg2-bin icoutils imagemagick                   # pictures of the Windows program
+  liblnk-utils                                        # another reader of shell links
   xvfb xdotool                                        # its window on a screen for the tests
   ntfs-3g                                             # a mounted disk of Windows for the tests
 )

@@ -7,6 +7,7 @@
 #include "machine/demo_machine.h"
 #include "machine/reg_file.h"
 #include "platform/folder/drive_words.h"
+#include "platform/folder/host_code_page.h"
 #include "platform/folder/registry_store.h"
 
 namespace quillvane {
@@ -79,5 +80,7 @@ std::optional<HostProblem> FolderHost::import_registry(const std::string& dir,
   if (why) return HostProblem{*std::move(why)};
   return std::nullopt;
 }
+
+const CodePage* FolderHost::code_page(int number) const { return host_code_page(number); }
 
 }  // namespace quillvane

@@ -14,6 +14,7 @@ class FolderHost : public MachineHost {
       const std::string& dir) override;
   [[nodiscard]] std::optional<HostProblem> import_registry(const std::string& dir,
                                                            const std::string& content) override;
+  [[nodiscard]] const CodePage* code_page(int number) const override;
 
  protected:
   [[nodiscard]] static std::variant<std::unique_ptr<ConsoleMachine>, HostProblem> open_folder(

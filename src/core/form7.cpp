@@ -27,7 +27,7 @@ Form7::Form7(Session& shared, ModalWindows& open_windows)
       ListsPage(*this, shared, *this),
       SearchRun(*this, shared),
       ReportPage(*this, shared),
-      LanguagePanel(*this, shared),
+      LanguagePanel(*this, shared, "fernwick"),
       windows(open_windows) {
   set_caption(kProgramName);
   connect_pages();
@@ -86,6 +86,10 @@ void Form7::name_session() {
   show("cleanmode", session.cleanmode);
   show("suitemode", session.suitemode);
   show("forceclean", session.forceclean);
+  show("langcode", session.langcode);
+  show("lang", session.lang);
+  show("langindex", session.langindex);
+  show("langfile", session.langfile);
 }
 
 void Form7::read_mail() {

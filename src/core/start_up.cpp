@@ -6,6 +6,8 @@
 
 #include "core/form7.h"
 #include "drivesearch/type_table.h"
+#include "lang/change_language.h"
+#include "lang/character_set.h"
 #include "support/file_date.h"
 #include "support/registry_text.h"
 #include "support/suite_color.h"
@@ -20,24 +22,16 @@ constexpr int kTwipsOfFileColumn = 5000;
 constexpr Color kShadowColor = 8421504;
 constexpr int kShadowDepth = 10;
 
-struct CodePageFont {
-  int code_page;
-  int character_set;
-};
-
-constexpr CodePageFont kFontCharacterSets[] = {
-    {1252, 0},   {932, 128},  {949, 129},  {936, 134}, {950, 136},  {1255, 177}, {1256, 178},
-    {1253, 161}, {1254, 162}, {1258, 163}, {874, 222}, {1257, 238}, {1251, 204},
-};
-
 }  // namespace
 
 void Form7::load() {
   thumbnails.put_back();
+  loadavlang();
   session.Is64Bit = platform().system.is_wow64();
+  changelangorv(session, *this);
   mark_chosen();
-  for (const CodePageFont& font : kFontCharacterSets) {
-    if (platform().system.ansi_code_page() == font.code_page) fontcharset = font.character_set;
+  if (const auto set = character_set_of_page(platform().system.ansi_code_page())) {
+    fontcharset = *set;
   }
   put_type_table_in_place(session);
   apply_color();

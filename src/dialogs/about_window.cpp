@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "lang/change_language.h"
 #include "support/program_name.h"
 #include "support/suite_color.h"
 
@@ -16,7 +17,10 @@ frmabout::frmabout(Session& session) : ModalWindow("frmabout"), session_(session
   Label6.on_click = [this] { open(session_.data_file("tidetrans.exe")); };
 }
 
-void frmabout::load() { set_back_color(suite_color(session_.platform)); }
+void frmabout::load() {
+  changelangorv(session_, *this);
+  set_back_color(suite_color(session_.platform));
+}
 
 // The start simply fails when there is nothing of that name.
 void frmabout::open(const std::string& what) {

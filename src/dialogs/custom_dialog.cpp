@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "dialogs/custom_entry_dialog.h"
+#include "lang/change_language.h"
 #include "support/list_files.h"
 #include "support/suite_color.h"
 #include "support/val.h"
@@ -24,6 +25,7 @@ Form2::Form2(Session& session, ModalWindows& windows, TextBox& mail_box)
 }
 
 void Form2::load() {
+  changelangorv(session_, *this);
   set_back_color(suite_color(session_.platform));
   read_list();
 }

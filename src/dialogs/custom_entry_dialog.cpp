@@ -4,6 +4,7 @@
 
 #include "dialogs/custom_dialog.h"
 #include "dialogs/select_folder.h"
+#include "lang/change_language.h"
 #include "support/suite_color.h"
 #include "support/text.h"
 #include "support/val.h"
@@ -22,7 +23,10 @@ Form5::Form5(Session& session, Form2& list, TextBox& mail_box)
   chameleonButton3.on_click = [this] { unload(); };
 }
 
-void Form5::load() { set_back_color(suite_color(session_.platform)); }
+void Form5::load() {
+  changelangorv(session_, *this);
+  set_back_color(suite_color(session_.platform));
+}
 
 void Form5::fill(const CustomEntry& entry) {
   Text1.set_text(entry.name);

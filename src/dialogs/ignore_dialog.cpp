@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "dialogs/select_folder.h"
+#include "lang/change_language.h"
 #include "support/list_files.h"
 #include "support/suite_color.h"
 
@@ -25,6 +26,7 @@ Form1::Form1(Session& session, TextBox& mail_box)
 }
 
 void Form1::load() {
+  changelangorv(session_, *this);
   set_back_color(suite_color(session_.platform));
   const std::string path = session_.data_file(kIgnoreFile);
   const ListLines list = read_list_file(session_.platform, path);

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "lang/change_language.h"
 #include "platform/unicode_case.h"
 #include "support/program_name.h"
 #include "support/suite_color.h"
@@ -23,7 +24,10 @@ Form4::Form4(Session& session, ListView& types, TextBox& mail_box, Control& resu
   chameleonButton3.on_click = [this] { unload(); };
 }
 
-void Form4::load() { set_back_color(suite_color(session_.platform)); }
+void Form4::load() {
+  changelangorv(session_, *this);
+  set_back_color(suite_color(session_.platform));
+}
 
 void Form4::fill(int row) {
   Text1.set_text(types_.text(row));

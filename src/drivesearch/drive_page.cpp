@@ -15,6 +15,7 @@ namespace {
 
 constexpr const char* kTimerKey = "software\\Quillvane\\Tidewrack Deluxe\\timer";
 constexpr std::uint64_t kBytesOfMegabyte = 1048576;
+constexpr int kStatusColumn = 3;
 
 // What a row begins with, for the kinds of drives that have one; nothing for a CD-ROM. A kind that
 // is not known keeps the text of the drive before it: meant so.
@@ -60,6 +61,11 @@ std::optional<double> drive_number(const std::string& name) {
 
 DrivePage::DrivePage(Window& owner, Session& shared) : Page(owner, shared) {
   View2.on_item_check = [this](int /*row*/) { drive_ticked(); };
+  Timer1.on_timer = [this] { blink(); };
+  // It runs as long as the window, and has something to do while drives are searched.
+  Timer1.set_idle(true);
+  Timer1.set_running(true);
+  Text6.on_change = [this] { Timer1.set_idle(Val(Text6.text()) != 1); };
 }
 
 void DrivePage::fill_drive_list(ListBox& drives) {
@@ -127,6 +133,24 @@ void DrivePage::save_ticked_drives() {
     if (!write("drive" + std::to_string(ticked), Trim(View2.text(row)))) return;
   }
   write("alldrive", std::to_string(ticked));
+}
+
+void DrivePage::blink() {
+  const double row = Val(txtviewf.text());
+  const bool is_row = row >= 1 && row <= View2.count();
+  const auto show = [&](const char* icon) {
+    if (!is_row) return;
+    View2.set_sub_item(static_cast<int>(row), kStatusColumn, "analyzing");
+    View2.set_icon(static_cast<int>(row), icon);
+  };
+  const double phase = Val(txttime.text());
+  if (phase == 0) {
+    show("t");
+    txttime.set_text("1");
+  } else if (phase == 1) {
+    show("te");
+    txttime.set_text("0");
+  }
 }
 
 void DrivePage::drive_ticked() {

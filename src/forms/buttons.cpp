@@ -19,6 +19,11 @@ std::optional<PropertyValue> Clickable::property(std::string_view name) const {
   return Control::property(name);
 }
 
+std::optional<PropertyValue> Label::property(std::string_view name) const {
+  if (same_name(name, "tag")) return tag_;
+  return Clickable::property(name);
+}
+
 void Button::set_back_over(Color color) {
   if (back_over_ == color) return;
   back_over_ = color;

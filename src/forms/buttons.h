@@ -50,6 +50,15 @@ class Button : public Clickable {
 class Label : public Clickable {
  public:
   using Clickable::Clickable;
+
+  // What the program keeps with it; not shown.
+  [[nodiscard]] const std::string& tag() const { return tag_; }
+  void set_tag(std::string_view tag) { tag_ = tag; }
+  // Besides the others: Tag.
+  [[nodiscard]] std::optional<PropertyValue> property(std::string_view name) const override;
+
+ private:
+  std::string tag_;
 };
 
 // A picture; what it shows is the view's.

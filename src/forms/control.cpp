@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "forms/field.h"
 #include "forms/window.h"
 #include "platform/unicode_case.h"
 
@@ -53,6 +54,26 @@ void Control::move(int left, int top) {
   notify(Change::kPosition);
 }
 
+void Control::set_height(int twips) {
+  if (height_ == twips) return;
+  height_ = twips;
+  notify(Change::kPosition);
+}
+
+void Control::set_font(const Font& font) {
+  if (font_ == font) return;
+  font_ = font;
+  notify(Change::kFont);
+}
+
+std::optional<PropertyValue> Control::font_property(std::string_view key) const {
+  const Font font = font_.value_or(Font{});
+  if (key == "fontname") return font.name;
+  if (key == "fontsize") return property_of(font.size_points);
+  if (key == "fontcharset") return std::int64_t{font.character_set};
+  return std::nullopt;
+}
+
 std::optional<PropertyValue> Control::property(std::string_view name) const {
   const std::string key = lower_case(name);
   if (key == "enabled") return enabled();
@@ -61,7 +82,8 @@ std::optional<PropertyValue> Control::property(std::string_view name) const {
   if (key == "backcolor") return color_number(back_color_);
   if (key == "left") return std::int64_t{left_};
   if (key == "top") return std::int64_t{top_};
-  return std::nullopt;
+  if (key == "height") return std::int64_t{height_};
+  return font_property(key);
 }
 
 void Control::unobserve(const ControlObserver& observer) { std::erase(observers_, &observer); }

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,6 +27,7 @@ enum class Change {
   kValue,
   kColor,
   kPosition,
+  kFont,
   kItems,      // rows, nodes or entries were added, removed or rewritten
   kItemState,  // ticks or selection of items
   kRefresh,    // the program asks for a redraw
@@ -49,6 +51,15 @@ using Color = std::uint32_t;
 [[nodiscard]] inline std::int64_t color_number(Color color) {
   return static_cast<std::int32_t>(color);
 }
+
+// A font that the program gives a control.
+struct Font {
+  std::string name;
+  double size_points = 0;
+  int character_set = 0;  // as Windows numbers them: 0 Western, 128 Japanese, 178 Arabic, ...
+
+  friend bool operator==(const Font&, const Font&) = default;
+};
 
 // What a control is at design time, where that is more than its kind and its name.
 struct Design {
@@ -93,10 +104,20 @@ class Control {
   [[nodiscard]] int top() const { return top_; }
   void move(int left, int top);
   void move_to(const Control& other) { move(other.left(), other.top()); }
+  // In twips; 0: the view decides.
+  [[nodiscard]] int height() const { return height_; }
+  void set_height(int twips);
+
+  // Nothing: the one it has at design time.
+  [[nodiscard]] const std::optional<Font>& font() const { return font_; }
+  void set_font(const Font& font);
 
   void refresh() { notify(Change::kRefresh); }
   // Asks the view to give it the keyboard.
   void take_focus() { notify(Change::kFocus); }
+
+  // The mouse moves over it; raised by views that know of it.
+  std::function<void()> on_mouse_move;
 
   // A property by its name without regard to case ("text", "Enabled"); nothing when this kind of
   // control has none of that name.
@@ -112,6 +133,9 @@ class Control {
   }
 
  private:
+  // FontName, FontSize (points) and FontCharset; empty and 0 where the program has given none.
+  [[nodiscard]] std::optional<PropertyValue> font_property(std::string_view key) const;
+
   Window& window_;
   std::string name_;
   std::string tool_tip_;
@@ -123,6 +147,8 @@ class Control {
   Color back_color_ = 0;
   int left_ = 0;
   int top_ = 0;
+  int height_ = 0;
+  std::optional<Font> font_;
 };
 
 }  // namespace quillvane

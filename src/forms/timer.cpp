@@ -13,8 +13,21 @@ Timer::~Timer() {
 }
 
 void Timer::set_running(bool running) {
-  if (running == this->running()) return;
-  if (running) {
+  if (running == running_) return;
+  running_ = running;
+  start_or_stop();
+  notify(Change::kEnabled);
+}
+
+void Timer::set_idle(bool idle) {
+  idle_ = idle;
+  start_or_stop();
+}
+
+void Timer::start_or_stop() {
+  const bool ticks = running_ && !idle_;
+  if (ticks == id_.has_value()) return;
+  if (ticks) {
     id_ = loop_.start_timer(interval_, [this] {
       if (on_timer) on_timer();
     });
@@ -22,7 +35,6 @@ void Timer::set_running(bool running) {
     loop_.stop_timer(*id_);
     id_.reset();
   }
-  notify(Change::kEnabled);
 }
 
 std::optional<PropertyValue> Timer::property(std::string_view name) const {

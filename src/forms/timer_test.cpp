@@ -87,5 +87,26 @@ TEST(Timer, EnabledTellsWhetherItRuns) {
   EXPECT_EQ(staged.timer->property("Interval"), PropertyValue(std::int64_t{500}));
 }
 
+TEST(Timer, AnIdleOneRunsWithoutATick) {
+  Staged staged;
+  staged.timer->set_running(true);
+  staged.timer->set_idle(true);
+  EXPECT_TRUE(staged.timer->running());
+  staged.loop.wait(milliseconds(1700));
+  EXPECT_EQ(staged.ticks, 0);
+  staged.timer->set_idle(false);
+  staged.loop.wait(milliseconds(500));
+  EXPECT_EQ(staged.ticks, 1);
+}
+
+TEST(Timer, AStoppedOneDoesNotTickAfterItsIdleness) {
+  Staged staged;
+  staged.timer->set_idle(true);
+  staged.timer->set_idle(false);
+  EXPECT_FALSE(staged.timer->running());
+  staged.loop.wait(milliseconds(5000));
+  EXPECT_EQ(staged.ticks, 0);
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -9,8 +9,9 @@
 #include <variant>
 #include <vector>
 
+#include "machine/data_files.h"
 #include "machine/demo_files.h"
-#include "machine/factory_type_table.h"
+#include "machine/demo_links.h"
 #include "platform/folder/drive_words.h"
 #include "platform/folder/host_path.h"
 #include "platform/folder/machine_json.h"
@@ -110,6 +111,15 @@ class Stage {
   std::optional<std::string> problem_;
 };
 
+void stage_links(Stage& stage) {
+  for (const DemoLink& link : demo_links()) {
+    if (link.kind == DemoTarget::kFile || link.kind == DemoTarget::kEnvironment) {
+      stage.file(demo_target_path(link), {.text = {}, .bytes = link.bytes, .time = {}});
+    }
+    stage.file(link.path, {.text = demo_link_file(link), .bytes = 0, .time = {}});
+  }
+}
+
 std::optional<std::string> stage_files(const MachineState& machine) {
   Stage stage(machine);
   stage.rows(demo_junk_of_windows());
@@ -124,15 +134,18 @@ std::optional<std::string> stage_files(const MachineState& machine) {
   for (const CachedPage& page : kCachedPages) {
     stage.file(cache_file(page), {.text = {}, .bytes = page.bytes, .time = {}});
   }
+  stage_links(stage);
   stage.file(kInUse, {.text = {}, .bytes = 870'400, .time = {}});
   stage.folder(kDenied);
   stage.junction(std::string(kUserFolder) + "\\Local Settings",
                  std::string(kUserFolder) + "\\AppData\\Local");
+  for (const DataFile& file : data_files()) {
+    stage.file(machine.program_folder + "\\" + std::string(file.name),
+               {.text = file.bytes, .bytes = 0, .time = {}});
+  }
   stage.file(machine.program_folder + "\\ignore.tdw", {.text = kIgnored, .bytes = 0, .time = {}});
   stage.file(machine.program_folder + "\\custom.tdw",
              {.text = kCustomEntry, .bytes = 0, .time = {}});
-  stage.file(machine.program_folder + "\\tmptype.orv",
-             {.text = factory_type_table(), .bytes = 0, .time = {}});
   return stage.problem();
 }
 

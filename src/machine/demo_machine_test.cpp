@@ -16,12 +16,14 @@
 #include <vector>
 
 #include "machine/create_machine.h"
+#include "machine/data_files.h"
 #include "machine/demo_files.h"
-#include "machine/factory_type_table.h"
+#include "machine/demo_links.h"
 #include "platform/folder/folder_machine.h"
 #include "platform/folder/machine_files.h"
 #include "platform/folder/registry_store.h"
 #include "platform/multi_string.h"
+#include "platform/virtual/queued_dialogs.h"
 #include "tests/support/temp_folder.h"
 
 namespace quillvane {
@@ -82,7 +84,7 @@ std::unique_ptr<FolderMachine> DemoMachine::machine_;
 TEST_F(DemoMachine, HoldsAFewHundredFiles) {
   const std::size_t count = listing(folder_->path()).size();
   EXPECT_GE(count, 300U);
-  EXPECT_LE(count, 600U);
+  EXPECT_LE(count, 900U);
 }
 
 TEST_F(DemoMachine, EachFileOfTheTablesIsThereInItsLength) {
@@ -168,7 +170,7 @@ TEST_F(DemoMachine, HasAnIgnoredFolderACustomEntryAndAQueuedFile) {
 
 TEST_F(DemoMachine, HasTheTableOfFileTypesThatComesWithTheProgram) {
   const std::string program = machine_->state().program_folder;
-  EXPECT_EQ(machine_->files().read_file(program + "\\tmptype.orv"), factory_type_table());
+  EXPECT_EQ(machine_->files().read_file(program + "\\tmptype.orv"), data_file("tmptype.orv"));
 }
 
 TEST_F(DemoMachine, OldOperaIsReachedThroughTheJunctionOfTheOlderLayout) {
@@ -177,6 +179,22 @@ TEST_F(DemoMachine, OldOperaIsReachedThroughTheJunctionOfTheOlderLayout) {
                              "*.*")
                 .size(),
             8U);
+}
+
+TEST_F(DemoMachine, EachShortcutLeadsWhereItsRowSays) {
+  QueuedDialogs dialogs(machine_->effects());
+  const Platform platform = machine_->platform(dialogs);
+  std::map<DemoTarget, int> kinds;
+  for (const DemoLink& link : demo_links()) {
+    LinkContent content;
+    ++kinds[link.kind];
+    EXPECT_TRUE(platform.links.read_link(link.path, content)) << link.path;
+    EXPECT_EQ(content.target, demo_target_path(link)) << link.path;
+    const bool is_there = link.kind == DemoTarget::kFile || link.kind == DemoTarget::kFolder ||
+                          link.kind == DemoTarget::kEnvironment;
+    EXPECT_EQ(platform.files.attributes(content.target).has_value(), is_there) << link.path;
+  }
+  EXPECT_EQ(kinds.size(), 7U);
 }
 
 TEST_F(DemoMachine, AMachineThatIsNotThereIsTold) {

@@ -126,6 +126,7 @@ void FilePattern::recognise(std::string_view pattern, bool ended_in_dot) {
     ending_ = upper_case(ending);
     return;
   }
+  note_fixed_ends();
   if (ended_in_dot || !pattern.ends_with(".*")) return;
   std::string_view stem = pattern.substr(0, pattern.size() - 2);
   floats_ = stem.starts_with('*');
@@ -137,12 +138,57 @@ void FilePattern::recognise(std::string_view pattern, bool ended_in_dot) {
   stem_ = upper_case(stem);
 }
 
+void FilePattern::note_fixed_ends() {
+  const auto is_fixed = [](const Place& place) {
+    return place.takes == Takes::kUnit && place.unit < 0x80;
+  };
+  const auto beginning = std::find_if_not(places_.begin(), places_.end(), is_fixed);
+  for (auto place = places_.begin(); place != beginning; ++place) {
+    fixed_beginning_ += static_cast<char>(place->unit);
+  }
+  const auto ending = std::find_if_not(places_.rbegin(), places_.rend(), is_fixed).base();
+  for (auto place = ending; place != places_.end(); ++place) {
+    fixed_ending_ += static_cast<char>(place->unit);
+  }
+}
+
+// Most names are told apart by their ends. A letter above ASCII can have a capital below it, so
+// from the first one on nothing is ruled out.
+bool FilePattern::is_ruled_out(std::string_view name) const {
+  if (name.size() < std::max(fixed_beginning_.size(), fixed_ending_.size())) return true;
+  for (std::size_t i = 0; i < fixed_beginning_.size() && is_ascii(name[i]); ++i) {
+    if (ascii_upper(name[i]) != fixed_beginning_[i]) return true;
+  }
+  for (std::size_t i = 1; i <= fixed_ending_.size(); ++i) {
+    const char letter = name[name.size() - i];
+    if (!is_ascii(letter)) return false;
+    if (ascii_upper(letter) != fixed_ending_[fixed_ending_.size() - i]) return true;
+  }
+  return false;
+}
+
 // A made-up name has a number before its dot, or at its end, and three letters behind it at most.
 bool FilePattern::matches_no_made_up_name() const {
+  if (kind_ == Kind::kGeneral) return asks_for_a_long_name();
   if (kind_ != Kind::kStem) return kind_ == Kind::kNoName;
   constexpr std::size_t kMostExtension = 3;
   const bool ends_in_digit = stem_.back() >= '0' && stem_.back() <= '9';
   return !ends_in_digit && !(floats_ && stem_.size() <= kMostExtension);
+}
+
+// Of the first seven signs of a made-up name one is a '~', with a dot only behind it; there is one
+// dot at most.
+bool FilePattern::asks_for_a_long_name() const {
+  constexpr std::size_t kMostBeforeNumber = 6;
+  const auto dots = std::count_if(places_.begin(), places_.end(), [](const Place& place) {
+    return place.takes == Takes::kUnit && place.unit == u'.';
+  });
+  if (dots > 1) return true;
+  const std::size_t tilde = fixed_beginning_.find('~');
+  if (tilde != std::string::npos)
+    return tilde > std::min(kMostBeforeNumber, fixed_beginning_.find('.'));
+  return fixed_beginning_.size() > kMostBeforeNumber || fixed_beginning_.size() == places_.size() ||
+         fixed_beginning_.find('.') != std::string::npos;
 }
 
 // The stem stands before a dot or at the end. Requires: the name is ASCII.
@@ -170,6 +216,7 @@ bool FilePattern::matches_by_text(std::string_view name) const {
   if (kind_ == Kind::kStem && name.size() <= kMostUnits && all_ascii(name)) {
     return matches_stem(name);
   }
+  if (kind_ == Kind::kGeneral && is_ruled_out(name)) return false;
   const UpperText text(name);
   if (text.too_long()) return false;
   const auto units = text.units();

@@ -56,6 +56,9 @@ class FilePattern {
 
   void compile(std::string_view pattern, bool ended_in_dot);
   void recognise(std::string_view pattern, bool ended_in_dot);
+  void note_fixed_ends();
+  [[nodiscard]] bool asks_for_a_long_name() const;
+  [[nodiscard]] bool is_ruled_out(std::string_view name) const;
   [[nodiscard]] bool matches_stem(std::string_view name) const;
   [[nodiscard]] bool matches_by_text(std::string_view name) const;
   [[nodiscard]] bool matches_places(const Name& name) const;
@@ -67,6 +70,9 @@ class FilePattern {
   std::string stem_;     // of kStem: "HISTORY" of "History.*", ASCII in capitals
   bool floats_ = false;  // of kStem: "*-journal.*", so the stem may have something before it
   std::vector<Place> places_;
+  // Of kGeneral: what a name must begin and end with, ASCII in capitals.
+  std::string fixed_beginning_;
+  std::string fixed_ending_;
 };
 
 }  // namespace quillvane

@@ -167,9 +167,30 @@ TEST(FilePattern, TellsWhichPatternsMatchNoNameThatADiskMakesUp) {
   for (const char* pattern : {"History.*", "*-journal.*", "Top Sites.*", "*tmp1x.*"}) {
     EXPECT_TRUE(FilePattern(pattern).matches_no_made_up_name()) << pattern;
   }
+  for (const char* pattern : {"thumbs.db", "hs_err_pid*.log", "*.log.old", ".~lock.*#", "abcdefg*",
+                              "*.exe.*.dmp", "a.b~*", "abc"}) {
+    EXPECT_TRUE(FilePattern(pattern).matches_no_made_up_name()) << pattern;
+  }
+  for (const char* pattern : {"dd_*.log", "*~", "*.??~", "*.~*", "file????.chk", "abcdef*",
+                              "abcdef~1.txt", "a*", "letter~?.txt", "*a.txt"}) {
+    EXPECT_FALSE(FilePattern(pattern).matches_no_made_up_name()) << pattern;
+  }
   // "LETTER~1.*" is made up; "*tmp.*" matches "A~1.TMP", "*~1.*" matches "A~1.TXT".
   for (const char* pattern : {"LETTER~1.*", "*~1.*", "*tmp.*", "*.tmp", "a?.*", "*.*"}) {
     EXPECT_FALSE(FilePattern(pattern).matches_no_made_up_name()) << pattern;
+  }
+}
+
+// What a name must begin and end with is looked at first.
+TEST(FilePattern, FixedEndsAreOfNoMatterToTheAnswer) {
+  for (const auto& [pattern, name] :
+       {Case{"dd_*.log", "DD_x.LOG"}, Case{"dd_*.log", "dd_.log"}, Case{"ab*ba", "abba"},
+        Case{"i*", "\xC4\xB1x"}, Case{"*i", "x\xC4\xB1"}}) {
+    EXPECT_TRUE(matches_file_pattern(name, pattern)) << name;
+  }
+  for (const auto& [pattern, name] : {Case{"dd_*.log", "d_x.log"}, Case{"dd_*.log", "dd_x.lo"},
+                                      Case{"ab*ba", "aba"}, Case{"abc*", "ab"}}) {
+    EXPECT_FALSE(matches_file_pattern(name, pattern)) << name;
   }
 }
 

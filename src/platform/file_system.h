@@ -20,6 +20,7 @@
 #include "platform/file_time.h"
 #include "platform/folder_tree.h"
 #include "platform/tree_reading.h"
+#include "platform/tree_request.h"
 
 namespace quillvane {
 
@@ -30,6 +31,8 @@ inline constexpr std::uint32_t kAttributeSystem = 0x04;
 inline constexpr std::uint32_t kAttributeFolder = 0x10;
 inline constexpr std::uint32_t kAttributeArchive = 0x20;
 inline constexpr std::uint32_t kAttributeNormal = 0x80;
+inline constexpr std::uint32_t kAttributeTemporary = 0x100;
+inline constexpr std::uint32_t kAttributeCompressed = 0x800;
 
 // One entry of a folder's listing.
 struct FolderEntry {
@@ -57,23 +60,23 @@ class FileSystem {
  public:
   virtual ~FileSystem() = default;
 
-  // Reads `folder` and everything below it, each folder once: of the files those whose names match
-  // one of `patterns`, at most FolderTree::kMostPatterns of them (ListedFolder::matches tells
-  // which); of the folders all. Links to folders are entered like folders; one that leads back to a
+  // Reads `folder` and, unless the request wants it alone, everything below it, each folder once:
+  // of the files those whose names match one of its patterns (ListedFolder tells which); of the
+  // folders all. Links to folders are entered like folders; one that leads back to a
   // folder it lies in is not entered again along that path. A folder that cannot be read is there
   // without contents. Where links multiply, some of them are passed over, so that the work stays in
   // proportion to the folders that are there (FolderTree::left_out_links). Null when `folder`
-  // itself cannot be listed. `watch` is told how far the reading has come and may end it: then the
-  // tree holds what was read until then (FolderTree::ended_early). Null: nobody watches. May read
-  // with threads of its own; the order of the result does not depend on them.
+  // itself cannot be listed, or the request asks for more than FolderTree can tell. `watch` is told
+  // how far the reading has come and may end it: then the tree holds what was read until then
+  // (FolderTree::ended_early). Null: nobody watches. May read with threads of its own; the order of
+  // the result does not depend on them.
   [[nodiscard]] virtual std::shared_ptr<const FolderTree> read_tree_watched(
-      const std::string& folder, const std::vector<std::string>& patterns,
-      TreeReading* watch) const = 0;
+      const std::string& folder, const TreeRequest& request, TreeReading* watch) const = 0;
 
   // The same, unwatched.
-  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_for(
-      const std::string& folder, const std::vector<std::string>& patterns) const {
-    return read_tree_watched(folder, patterns, nullptr);
+  [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_for(const std::string& folder,
+                                                                const TreeRequest& request) const {
+    return read_tree_watched(folder, request, nullptr);
   }
   [[nodiscard]] std::shared_ptr<const FolderTree> read_tree(const std::string& folder,
                                                             const std::string& pattern) const {

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "platform/file_time.h"
+#include "platform/tree_request.h"
 
 namespace quillvane {
 
@@ -72,10 +73,21 @@ class ListedFolder {
     return {names + begin, records_[index].name_end - begin};
   }
 
-  // Whether the file matches pattern number `pattern` of the reading, from 0.
+  // Whether the file matches pattern number `pattern` of the reading, from 0. Requires: the request
+  // was for every match.
   [[nodiscard]] bool matches(std::uint32_t index, unsigned pattern) const {
     return matches_ == nullptr || (matches_[index] >> pattern & 1U) != 0;
   }
+  // The number of the first pattern that the file matches, from 0. Requires: the request was for
+  // the first match.
+  [[nodiscard]] std::uint32_t first_match(std::uint32_t index) const {
+    return matches_ == nullptr ? 0 : matches_[index] - 1;
+  }
+
+  // Whether the folder could be read, and how many files and folders it holds then, whatever their
+  // names.
+  [[nodiscard]] bool was_read() const { return was_read_; }
+  [[nodiscard]] std::uint32_t entry_count() const { return entry_count_; }
 
   // The building side, for read_tree. All words are 32 bits wide, so that nothing is padded.
   struct SplitTime {
@@ -106,10 +118,14 @@ class ListedFolder {
   void set_next_sibling(ListedFolder* folder) { next_sibling_ = folder; }
   // Takes room for `count` records and `names_length` bytes of names behind them.
   FixedRecord* allocate_files(TreeArena& arena, std::uint32_t count, std::size_t names_length);
+  void set_entry_count(std::uint32_t count) {
+    was_read_ = true;
+    entry_count_ = count;
+  }
   // Counts only the first `count` of them; the names then begin behind those.
   void keep_files(std::uint32_t count) { file_count_ = count; }
-  // Takes room for one word a file that tells which patterns it matches, bit 0 being the first;
-  // left out where all files match the only pattern.
+  // Takes room for one word a file that tells which patterns it matches (PatternSet); left out
+  // where all files match the only pattern.
   std::uint32_t* allocate_matches(TreeArena& arena);
 
  private:
@@ -120,13 +136,19 @@ class ListedFolder {
   std::uint32_t* matches_ = nullptr;
   const char* name_ = nullptr;
   std::uint32_t file_count_ = 0;
+  std::uint32_t entry_count_ = 0;
   std::uint32_t name_length_ = 0;
+  bool was_read_ = false;
 };
 
 class FolderTree {
  public:
-  // As many patterns can be asked for in one reading.
+  // As many patterns can be asked for where every match is to be told.
   static constexpr unsigned kMostPatterns = 32;
+  [[nodiscard]] static bool can_tell(const TreeRequest& request) {
+    return request.tells == TreeRequest::Tells::kFirstMatch ||
+           request.patterns.size() <= kMostPatterns;
+  }
 
   // The folder that the walk began with.
   [[nodiscard]] const ListedFolder& root() const { return *root_; }

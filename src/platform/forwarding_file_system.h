@@ -18,9 +18,8 @@ class ForwardingFileSystem : public FileSystem {
   explicit ForwardingFileSystem(FileSystem& next) : next_(next) {}
 
   [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_watched(
-      const std::string& folder, const std::vector<std::string>& patterns,
-      TreeReading* watch) const override {
-    return next_.read_tree_watched(folder, patterns, watch);
+      const std::string& folder, const TreeRequest& request, TreeReading* watch) const override {
+    return next_.read_tree_watched(folder, request, watch);
   }
   [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
                                                      const std::string& pattern) const override {

@@ -11,6 +11,8 @@
 #include "platform/event_log.h"
 #include "platform/file_system.h"
 #include "platform/instances.h"
+#include "platform/links.h"
+#include "platform/locale.h"
 #include "platform/message_loop.h"
 #include "platform/processes.h"
 #include "platform/registry.h"
@@ -29,9 +31,11 @@ struct Platform {
   Registry& registry;
   Environment& environment;
   SystemInfo& system;
+  LocaleSettings& locale;
   SystemEventLog& event_log;
   Processes& processes;
   Instances& instances;
+  Links& links;
   UrlCache& url_cache;
   Security& security;
   Shell& shell;
@@ -44,7 +48,9 @@ struct Platform {
   struct Replacement {
     FileSystem* files = nullptr;
     Registry* registry = nullptr;
+    LocaleSettings* locale = nullptr;
     Dialogs* dialogs = nullptr;
+    Links* links = nullptr;
   };
 
   // The same machine with parts replaced: how a layer gets between the behaviour and the machine.
@@ -54,9 +60,11 @@ struct Platform {
             .registry = other.registry != nullptr ? *other.registry : registry,
             .environment = environment,
             .system = system,
+            .locale = other.locale != nullptr ? *other.locale : locale,
             .event_log = event_log,
             .processes = processes,
             .instances = instances,
+            .links = other.links != nullptr ? *other.links : links,
             .url_cache = url_cache,
             .security = security,
             .shell = shell,

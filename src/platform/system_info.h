@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/code_page.h"
+#include "platform/file_time.h"
 
 namespace quillvane {
 
@@ -29,6 +30,9 @@ class SystemInfo {
   // Folder of the program's executable, which is also its data folder; no backslash at its end.
   [[nodiscard]] virtual std::string program_folder() const = 0;
 
+  // Folder of the system's own programs, as GetSystemDirectoryA answers; empty on any error.
+  [[nodiscard]] virtual std::string system_folder() const = 0;
+
   // Whether this is a 32-bit program on 64-bit Windows (IsWow64Process); false on any error.
   [[nodiscard]] virtual bool is_wow64() const = 0;
 
@@ -46,6 +50,9 @@ class SystemInfo {
 
   // A date and time in the system's format ("3/7/2013 9:05:00 AM"); only the date at midnight.
   [[nodiscard]] virtual std::string format_date(const DateTime& date) const = 0;
+
+  // A file's time as the machine's clock shows it now, be it summer or winter then.
+  [[nodiscard]] virtual FileTime local_time(FileTime time) const = 0;
 };
 
 }  // namespace quillvane

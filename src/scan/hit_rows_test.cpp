@@ -20,11 +20,13 @@ class Locale final : public SystemInfo {
   explicit Locale(DateOrder order) : order_(order) {}
 
   [[nodiscard]] std::string program_folder() const override { return "C:\\Program"; }
+  [[nodiscard]] std::string system_folder() const override { return "C:\\Windows\\System32"; }
   [[nodiscard]] bool is_wow64() const override { return false; }
   [[nodiscard]] int ansi_code_page() const override { return 1252; }
   [[nodiscard]] const CodePage* code_page(int) const override { return nullptr; }
   [[nodiscard]] std::string decimal_separator() const override { return ","; }
   [[nodiscard]] DateOrder date_order() const override { return order_; }
+  [[nodiscard]] FileTime local_time(FileTime time) const override { return time; }
   [[nodiscard]] std::string format_date(const DateTime& date) const override {
     return "month " + std::to_string(date.month) + " day " + std::to_string(date.day) + " hour " +
            std::to_string(date.hour);

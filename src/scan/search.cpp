@@ -95,6 +95,11 @@ std::string Files::full_name(std::size_t index) const {
   return full_name_in(*run.folder, run.folder->name_of(file));
 }
 
+ListedFile Files::listed(std::size_t index) const {
+  const FolderRun& run = runs_[run_of(index)];
+  return run.folder->file(run.first + static_cast<std::uint32_t>(index - run.begin));
+}
+
 File Files::Item(std::size_t index) const {
   const FolderRun& run = runs_[run_of(index)];
   const auto number = run.first + static_cast<std::uint32_t>(index - run.begin);

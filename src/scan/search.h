@@ -79,6 +79,8 @@ class Files {
   // Counts from 0. Requires: index < Count().
   [[nodiscard]] File Item(std::size_t index) const;
   [[nodiscard]] std::string full_name(std::size_t index) const;
+  // As the disk's listing gives it; its name lives as long as the collection.
+  [[nodiscard]] ListedFile listed(std::size_t index) const;
   [[nodiscard]] FilesEnumerator NewEnum() const { return FilesEnumerator(*this); }
 
   [[nodiscard]] const std::vector<FolderRun>& runs() const { return runs_; }

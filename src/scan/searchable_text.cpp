@@ -61,16 +61,24 @@ void SearchableText::set_text(std::string_view text) {
   indexed_ = false;
 }
 
-bool SearchableText::contains(std::string_view wanted) const {
+bool SearchableText::contains(std::string_view wanted) const { return occurs(wanted, 0); }
+
+bool SearchableText::contains_behind_beginning(std::string_view wanted) const {
+  return occurs(wanted, 1);
+}
+
+bool SearchableText::occurs(std::string_view wanted, std::uint32_t first) const {
   if (wanted.empty() || wanted.size() > text_.size()) return false;
   if (!begins_path(wanted) || wanted.size() > kDepth) {
-    return text_.find(wanted) != std::string::npos;
+    return text_.find(wanted, first) != std::string::npos;
   }
   if (!indexed_) build_index();
-  const auto place = std::lower_bound(places_.begin(), places_.end(), wanted,
-                                      [this](std::uint32_t at, std::string_view value) {
-                                        return from(at).substr(0, value.size()) < value;
-                                      });
+  auto place = std::lower_bound(places_.begin(), places_.end(), wanted,
+                                [this](std::uint32_t at, std::string_view value) {
+                                  return from(at).substr(0, value.size()) < value;
+                                });
+  // Occurrences stand side by side, and only one of them can be at the beginning.
+  if (place != places_.end() && *place < first) ++place;
   return place != places_.end() && from(*place).starts_with(wanted);
 }
 

@@ -21,10 +21,15 @@ class SearchableText {
   // Texts that do not begin with letter, ":" and "\" are searched for from end to end.
   [[nodiscard]] bool contains(std::string_view wanted) const;
 
+  // The same, but for an occurrence at the very beginning of the text.
+  [[nodiscard]] bool contains_behind_beginning(std::string_view wanted) const;
+
   // Raised by each change, so that callers can keep answers as long as they hold.
   [[nodiscard]] std::uint64_t version() const { return version_; }
 
  private:
+  // Whether `wanted` begins at the place `first` or behind it. Requires: first is 0 or 1.
+  [[nodiscard]] bool occurs(std::string_view wanted, std::uint32_t first) const;
   void build_index() const;
   [[nodiscard]] std::string_view from(std::uint32_t place) const {
     return std::string_view(text_).substr(place);

@@ -182,5 +182,20 @@ TEST(SearchableText, AnswersAsAPlainSearchDoes) {
   EXPECT_GT(missing, 5000);
 }
 
+TEST(SearchableText, AnOccurrenceAtTheBeginningCanBeLeftOutOfAccount) {
+  SearchableText text;
+  text.set_text("c:\\a\\|c:\\b\\|c:\\c\\|c:\\b\\|");
+  EXPECT_TRUE(text.contains("c:\\a\\"));
+  EXPECT_FALSE(text.contains_behind_beginning("c:\\a\\"));
+  EXPECT_TRUE(text.contains_behind_beginning("c:\\b\\"));
+  EXPECT_TRUE(text.contains_behind_beginning("a\\"));
+  EXPECT_FALSE(text.contains_behind_beginning("c:\\d\\"));
+  // The same folder at the beginning and once more.
+  text.set_text("c:\\a\\|c:\\a\\|");
+  EXPECT_TRUE(text.contains_behind_beginning("c:\\a\\"));
+  text.set_text("0");
+  EXPECT_FALSE(text.contains_behind_beginning("0"));
+}
+
 }  // namespace
 }  // namespace quillvane

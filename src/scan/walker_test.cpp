@@ -295,9 +295,9 @@ TEST(Srch, WhatWasReadBeforeTheEndIsJudgedAsEver) {
   struct EndedFiles final : ForwardingFileSystem {
     using ForwardingFileSystem::ForwardingFileSystem;
     std::shared_ptr<const FolderTree> read_tree_watched(const std::string& folder,
-                                                        const std::vector<std::string>& patterns,
+                                                        const TreeRequest& request,
                                                         TreeReading* watch) const override {
-      auto tree = next().read_tree_for(folder, patterns);
+      auto tree = next().read_tree_for(folder, request);
       EXPECT_FALSE(watch->go_on({folder, 1}));
       return tree;
     }

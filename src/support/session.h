@@ -73,6 +73,13 @@ class Session {
   bool known_second_half = true;  // false after a second half that is none: it never cleans
   bool shown_at_start = true;     // a run switch keeps the main window hidden
 
+  // --- The chosen language, as it was last read.
+  int langcode = 0;      // character set of its fonts, as Windows numbers them
+  std::string lang;      // its code: a part of its file's name
+  int langindex = 0;     // of its label in the language panel
+  std::string langfile;  // "fernwick-de.lang"
+  int langpage = 0;      // code page of its texts; 0: the system's
+
   bool Is64Bit = false;  // a 32-bit program on a 64-bit system
   int page_value = 0;    // page that the suite's windows go by; 7 for the about window
 

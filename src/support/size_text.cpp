@@ -40,4 +40,11 @@ std::string NumberInKB(double bytes, std::string_view decimal_separator) {
   return rounded(whole, kK * kK * kK, 100, decimal_separator) + " GB";
 }
 
+std::string search_size_text(double bytes, std::string_view decimal_separator) {
+  if (bytes < kK) return number_text(bytes) + " Byte";
+  const auto whole = static_cast<std::int64_t>(bytes);
+  if (whole <= kK * kK) return rounded(whole, kK, 100, decimal_separator) + " KB";
+  return rounded(whole, kK * kK, 100, decimal_separator) + " MB";
+}
+
 }  // namespace quillvane

@@ -12,4 +12,8 @@ namespace quillvane {
 // the system's.
 [[nodiscard]] std::string NumberInKB(double bytes, std::string_view decimal_separator);
 
+// Bytes as the drive search shows them: with " Byte", from 1024 on in " KB", above 1024 KB in "
+// MB", both with at most 2 decimals, rounded to the nearest with ties to the even digit.
+[[nodiscard]] std::string search_size_text(double bytes, std::string_view decimal_separator);
+
 }  // namespace quillvane

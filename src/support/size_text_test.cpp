@@ -76,5 +76,25 @@ constexpr Case kWithComma[] = {
 
 TEST(NumberInKB, WritesTheSystemsDecimalSeparator) { expect_texts(kWithComma, ","); }
 
+TEST(SearchSizeText, CountsBytesThenKbThenMb) {
+  EXPECT_EQ(search_size_text(0, "."), "0 Byte");
+  EXPECT_EQ(search_size_text(1023, "."), "1023 Byte");
+  EXPECT_EQ(search_size_text(1024, "."), "1 KB");
+  EXPECT_EQ(search_size_text(1500, "."), "1.46 KB");
+  EXPECT_EQ(search_size_text(1500, ","), "1,46 KB");
+  // 1024 KB do not exceed 1024.
+  EXPECT_EQ(search_size_text(1048576, "."), "1024 KB");
+  EXPECT_EQ(search_size_text(1048577, "."), "1 MB");
+  EXPECT_EQ(search_size_text(3575644, "."), "3.41 MB");
+  // There is no unit above.
+  EXPECT_EQ(search_size_text(5368709120.0, "."), "5120 MB");
+}
+
+TEST(SearchSizeText, RoundsTiesToTheEvenDigit) {
+  // 1024 + 128 bytes are 1.125 KB, 1024 + 384 are 1.375 KB.
+  EXPECT_EQ(search_size_text(1152, "."), "1.12 KB");
+  EXPECT_EQ(search_size_text(1408, "."), "1.38 KB");
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -55,6 +55,18 @@ TEST_F(SystemInfoContract, ADateIsWrittenWithItsTimeButAtMidnight) {
   for (const auto& [date, text] : cases) EXPECT_EQ(platform.system.format_date(date), text);
 }
 
+TEST_F(SystemInfoContract, TimesOfFilesAreShownByTheClockOnTheWall) {
+  const FileTime noon{130'000'000'000'000'000};
+  const FileTime later{noon.ticks + 10'000'000};
+  const std::int64_t shift = platform.system.local_time(noon).ticks - noon.ticks;
+  EXPECT_EQ(platform.system.local_time(later).ticks - later.ticks, shift);
+  constexpr std::int64_t kTicksOfQuarter = 9'000'000'000;
+  constexpr std::int64_t kQuartersOfDay = 96;
+  EXPECT_EQ(shift % kTicksOfQuarter, 0);
+  EXPECT_LT(shift, kQuartersOfDay * kTicksOfQuarter);
+  EXPECT_GT(shift, -kQuartersOfDay * kTicksOfQuarter);
+}
+
 TEST_F(SystemInfoContract, TheProgramsFolderHasADriveAndNoBackslashAtItsEnd) {
   const std::string folder = platform.system.program_folder();
   ASSERT_GT(folder.size(), 3U);

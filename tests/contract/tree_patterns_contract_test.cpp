@@ -96,6 +96,42 @@ TEST_F(TreePatternsContract, AsManyPatternsAsThereAreBitsAndNoMore) {
   EXPECT_EQ(read(patterns), nullptr);
 }
 
+TEST_F(TreePatternsContract, TheFirstMatchIsToldOfAnyNumberOfPatterns) {
+  stage({}, {"39.txt", "7.log", "7.txt", "x.doc"});
+  TreeRequest request({"*.log"});
+  for (int i = 1; i < 40; ++i) request.patterns.push_back(std::to_string(i) + ".*");
+  request.tells = TreeRequest::Tells::kFirstMatch;
+  const Tree tree = platform.files.read_tree_for(machine->folder(), request);
+  ASSERT_NE(tree, nullptr);
+  ASSERT_EQ(tree->root().file_count(), 3U);
+  EXPECT_EQ(tree->root().name_of(0), "39.txt");
+  EXPECT_EQ(tree->root().first_match(0), 39U);
+  EXPECT_EQ(tree->root().name_of(1), "7.log");
+  EXPECT_EQ(tree->root().first_match(1), 0U);
+  EXPECT_EQ(tree->root().first_match(2), 7U);
+}
+
+TEST_F(TreePatternsContract, AFolderCanBeReadAlone) {
+  stage({"a"}, {"1.txt", "a\\2.txt"});
+  TreeRequest request({"*.txt"});
+  request.subfolders = false;
+  const Tree tree = platform.files.read_tree_for(machine->folder(), request);
+  EXPECT_EQ(files(tree, 0), Names{"1.txt"});
+  EXPECT_EQ(tree->root().first_subfolder(), nullptr);
+}
+
+TEST_F(TreePatternsContract, AFolderTellsHowManyEntriesItHolds) {
+  stage({"a", "b"}, {"1.txt", "2.log", "a\\3.doc"});
+  const Tree tree = read({"*.txt"});
+  ASSERT_NE(tree, nullptr);
+  const ListedFolder& root = tree->root();
+  EXPECT_TRUE(root.was_read());
+  EXPECT_EQ(root.entry_count(), 4U);
+  EXPECT_EQ(root.first_subfolder()->entry_count(), 1U);
+  EXPECT_EQ(root.first_subfolder()->next_sibling()->entry_count(), 0U);
+  EXPECT_TRUE(root.first_subfolder()->next_sibling()->was_read());
+}
+
 TEST_F(TreePatternsContract, APathCanBeTooLongForOnePatternAndNotForAnother) {
   // Folder, backslash and pattern stay below 260: with "*.*" this folder makes 259.
   const std::string upper = std::string(100, 'u');

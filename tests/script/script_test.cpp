@@ -8,6 +8,7 @@
 //   #:line PATH | TEXT       one more line of a text file
 //   #:left PATH | TEXT       one more line of what a text file must hold when the script has ended
 //   #:line1252, #:left1252   the same in code page 1252
+//   #:shipped                the files that ship with the program, beside it
 //   #:text PATH | TEXT       the whole of a text file; <CR> and <LF> are those characters
 // What it must print stands in NAME.expected. A script that ends early has NAME.problem with what
 // is told on standard error.
@@ -25,6 +26,7 @@
 #include <vector>
 
 #include "app/make_machine_host.h"
+#include "machine/data_files.h"
 #include "platform/folder/host_code_page.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_staging.h"
@@ -110,6 +112,11 @@ class StagedMachine {
       put(rest, {.text = {}, .bytes = bytes, .time = {}});
     } else if (std::getline(words, rest); rest.find(" | ") != std::string::npos) {
       stage_text(what, rest.substr(0, rest.find(" | ")), rest.substr(rest.find(" | ") + 3));
+    } else if (what == "shipped") {
+      for (const DataFile& file : data_files()) {
+        put(state().program_folder + "\\" + std::string(file.name),
+            {.text = file.bytes, .bytes = 0, .time = {}});
+      }
     } else if (what == "machine") {
       folder_.write("machine/machine.json", rest);
     } else if (what == "folder") {

@@ -15,7 +15,7 @@ namespace quillvane {
 class NoFiles : public FileSystem {
  public:
   [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_watched(const std::string&,
-                                                                    const std::vector<std::string>&,
+                                                                    const TreeRequest&,
                                                                     TreeReading*) const override {
     return nullptr;
   }

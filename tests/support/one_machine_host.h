@@ -7,6 +7,7 @@
 #include <string>
 #include <variant>
 
+#include "platform/folder/host_code_page.h"
 #include "tests/support/temp_console_machine.h"
 #include "view/console/machine_host.h"
 
@@ -31,6 +32,7 @@ class OneMachineHost final : public MachineHost {
                                              const std::string& /*content*/) override {
     return HostProblem{"import: not here"};
   }
+  const CodePage* code_page(int number) const override { return host_code_page(number); }
 
   TempConsoleMachine machine;
 };

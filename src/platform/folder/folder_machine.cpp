@@ -15,6 +15,8 @@
 #include "platform/folder/machine_files.h"
 #include "platform/folder/machine_instances.h"
 #include "platform/folder/machine_json.h"
+#include "platform/folder/machine_links.h"
+#include "platform/folder/machine_locale.h"
 #include "platform/folder/machine_outward.h"
 #include "platform/folder/machine_processes.h"
 #include "platform/folder/machine_system.h"
@@ -54,6 +56,7 @@ struct FolderMachine::Parts {
         event_log(effects),
         processes(state, effects, save),
         instances(dir),
+        links(state, files, environment),
         url_cache(state, save),
         security(effects),
         shell(state, effects, files, [&state, &files] { empty_recycle_bins(state, files); }),
@@ -63,9 +66,11 @@ struct FolderMachine::Parts {
   MachineDrives drives;
   MachineEnvironment environment;
   MachineSystem system;
+  MachineLocale locale;
   MachineEventLog event_log;
   MachineProcesses processes;
   MachineInstances instances;
+  MachineLinks links;
   MachineUrlCache url_cache;
   MachineSecurity security;
   MachineShell shell;
@@ -108,9 +113,11 @@ Platform FolderMachine::platform(Dialogs& dialogs) {
           .registry = *registry_,
           .environment = parts_->environment,
           .system = parts_->system,
+          .locale = parts_->locale,
           .event_log = parts_->event_log,
           .processes = parts_->processes,
           .instances = parts_->instances,
+          .links = parts_->links,
           .url_cache = parts_->url_cache,
           .security = parts_->security,
           .shell = parts_->shell,

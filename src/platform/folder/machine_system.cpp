@@ -1,5 +1,7 @@
 #include "platform/folder/machine_system.h"
 
+#include <cstdint>
+
 #include "platform/folder/host_code_page.h"
 
 namespace quillvane {
@@ -17,6 +19,11 @@ std::string MachineSystem::program_folder() const {
 }
 
 const CodePage* MachineSystem::code_page(int number) const { return host_code_page(number); }
+
+FileTime MachineSystem::local_time(FileTime time) const {
+  constexpr std::int64_t kTicksOfMinute = 600'000'000;
+  return {time.ticks + state_.utc_offset_minutes * kTicksOfMinute};
+}
 
 std::string MachineSystem::format_date(const DateTime& date) const {
   std::string text =

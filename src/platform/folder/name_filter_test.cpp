@@ -19,19 +19,19 @@ using Matches = std::vector<std::pair<std::string, std::uint32_t>>;
 class NameFilterTest : public ::testing::Test {
  protected:
   // The names that the filter leaves, with the patterns that they match.
-  Matches matches(const Names& patterns, std::uint32_t usable, Folders folders) {
+  Matches matches(const TreeRequest& request, std::size_t path_units, Folders folders) {
     CollectedNames listing;
     for (const auto& [name, kind] : folder) listing.add(name, kind);
-    NameFilter(patterns, folders).apply(listing, usable);
+    NameFilter(request, folders).apply(listing, path_units);
     Matches left;
     for (const auto& entry : listing.entries()) {
-      left.emplace_back(listing.name(entry), entry.matches & usable);
+      left.emplace_back(listing.name(entry), entry.matches);
     }
     return left;
   }
   Names left_by(const std::string& pattern, Folders folders = Folders::kMatched) {
     Names names;
-    for (const auto& [name, bits] : matches({pattern}, 1, folders)) names.push_back(name);
+    for (const auto& [name, bits] : matches({pattern}, 3, folders)) names.push_back(name);
     return names;
   }
 
@@ -86,14 +86,24 @@ TEST_F(NameFilterTest, TakesFoldersOfAnyNameWhenAsked) {
 
 TEST_F(NameFilterTest, TellsWhichPatternsMatch) {
   for (const char* name : {"a.tmp", "b.log", "c.txt", "data.logx"}) add(name);
-  EXPECT_EQ(matches({"*.tmp", "*.log", "?.*"}, 7, Folders::kMatched),
+  EXPECT_EQ(matches({"*.tmp", "*.log", "?.*"}, 3, Folders::kMatched),
             (Matches{{"a.tmp", 1 | 4}, {"b.log", 2 | 4}, {"c.txt", 4}, {"data.logx", 2}}));
 }
 
-TEST_F(NameFilterTest, CountsOnlyThePatternsThatCanBeUsed) {
+TEST_F(NameFilterTest, TellsTheFirstPatternThatMatches) {
+  for (const char* name : {"a.tmp", "b.log", "c.txt", "data.logx"}) add(name);
+  TreeRequest request({"*.log", "?.*", "*.tmp"});
+  request.tells = TreeRequest::Tells::kFirstMatch;
+  EXPECT_EQ(matches(request, 3, Folders::kMatched),
+            (Matches{{"a.tmp", 2}, {"b.log", 1}, {"c.txt", 2}, {"data.logx", 1}}));
+}
+
+TEST_F(NameFilterTest, CountsOnlyThePatternsThatFitBehindThePath) {
   for (const char* name : {"a.tmp", "b.log"}) add(name);
-  EXPECT_EQ(matches({"*.tmp", "*.log"}, 2, Folders::kMatched), (Matches{{"b.log", 2}}));
-  EXPECT_EQ(matches({"*.*"}, 0, Folders::kMatched), Matches{});
+  // 255 units of path and four of pattern are 259.
+  EXPECT_EQ(matches({"*.tmp", "b*.*"}, 255, Folders::kMatched), (Matches{{"b.log", 2}}));
+  EXPECT_EQ(matches({"*.*"}, 256, Folders::kMatched), (Matches{{"a.tmp", 1}, {"b.log", 1}}));
+  EXPECT_EQ(matches({"*.*"}, 257, Folders::kMatched), Matches{});
 }
 
 }  // namespace quillvane

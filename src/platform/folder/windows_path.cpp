@@ -51,11 +51,6 @@ std::string with_backslash(std::string_view folder) {
   return text;
 }
 
-bool fits_path_limit(std::string_view path) {
-  // No text has more units than bytes.
-  return fits_path_limit(path.size()) || fits_path_limit(utf16_length(path));
-}
-
 bool can_be_created(std::string_view name) {
   return std::none_of(name.begin(), name.end(), [](char c) {
     return static_cast<unsigned char>(c) < 0x20 ||

@@ -1,11 +1,12 @@
 // The parts of an absolute Windows path: its drive and the names below it.
 #pragma once
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "platform/path_limit.h"
 
 namespace quillvane {
 
@@ -24,10 +25,6 @@ struct WindowsPath {
 
 // The text with a backslash at its end, as a listing puts the pattern behind it.
 [[nodiscard]] std::string with_backslash(std::string_view folder);
-
-// Whether a path of so many UTF-16 units can be handed to a Windows call: it is below 260.
-[[nodiscard]] constexpr bool fits_path_limit(std::size_t utf16_units) { return utf16_units < 260; }
-[[nodiscard]] bool fits_path_limit(std::string_view path);
 
 // Whether Windows allows a file of this name. Names that are there already are used all the same.
 [[nodiscard]] bool can_be_created(std::string_view name);

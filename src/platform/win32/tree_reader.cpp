@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/unicode_case.h"
 #include "platform/win32/folder_listing.h"
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win32_path.h"
@@ -17,17 +16,14 @@ constexpr std::size_t kFolderPatternLength = 3;
 
 }  // namespace
 
-TreeReader::TreeReader(const std::vector<std::string>& patterns, FolderTree& tree,
-                       ReadingState& state)
-    : short_names_(FolderListing::ShortNames::kNo),
+TreeReader::TreeReader(const TreeRequest& request, FolderTree& tree, ReadingState& state)
+    : patterns_(request),
+      subfolders_(request.subfolders),
+      short_names_(patterns_.takes_every_name() ? FolderListing::ShortNames::kNo
+                                                : FolderListing::ShortNames::kYes),
       arena_(tree.add_arena()),
       tree_(tree),
-      state_(state) {
-  for (const std::string& pattern : patterns) {
-    patterns_.push_back({FilePattern(pattern), utf16_length(pattern)});
-    if (!patterns_.back().rule.matches_every_name()) short_names_ = FolderListing::ShortNames::kYes;
-  }
-}
+      state_(state) {}
 
 bool TreeReader::read(std::wstring folder) {
   path_ = std::move(folder);
@@ -39,9 +35,9 @@ bool TreeReader::read(std::wstring folder) {
 // One listing serves for files and subfolders. Each has a limit of its own, since a path is too
 // long by the pattern that is put behind it.
 bool TreeReader::read_folder(ListedFolder& folder) {
-  const std::uint32_t fitting = fitting_patterns(path_.size());
-  const bool folders_fit = path_.size() + kFolderPatternLength < kPathLimit;
-  if (fitting == 0 && !folders_fit) return false;
+  const bool files_fit = patterns_.any_fits(path_.size());
+  const bool folders_fit = subfolders_ && path_.size() + kFolderPatternLength < kPathLimit;
+  if (!files_fit && !folders_fit) return false;
 
   if (state_.ended()) return true;
   state_.enter(folder);
@@ -52,12 +48,13 @@ bool TreeReader::read_folder(ListedFolder& folder) {
   while (const WIN32_FIND_DATAW* entry = state_.ended() ? nullptr : listing.next()) {
     ++entries;
     if ((entry->dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) == 0) {
-      if (fitting != 0) note_file(*entry, fitting);
+      if (files_fit) note_file(*entry);
     } else if (folders_fit) {
       subfolders.push_back(make_subfolder(*entry, folder));
     }
   }
   guard_.note_read(entries);
+  folder.set_entry_count(static_cast<std::uint32_t>(entries));
   store_files(folder);
 
   ListedFolder* last = nullptr;
@@ -91,32 +88,17 @@ void TreeReader::read_subfolder(const Subfolder& subfolder) {
   path_.resize(length);
 }
 
-std::uint32_t TreeReader::fitting_patterns(std::size_t path_length) const {
-  std::uint32_t fitting = 0;
-  for (std::size_t i = 0; i < patterns_.size(); ++i) {
-    if (path_length + patterns_[i].length < kPathLimit) fitting |= std::uint32_t{1} << i;
-  }
-  return fitting;
-}
-
-std::uint32_t TreeReader::matching_patterns(const WIN32_FIND_DATAW& entry, std::string_view name,
-                                            std::uint32_t fitting) const {
+std::uint32_t TreeReader::matches(const WIN32_FIND_DATAW& entry, std::string_view name) const {
+  const std::uint32_t by_name = patterns_.matches(name, path_.size());
+  if (entry.cAlternateFileName[0] == L'\0') return by_name;
   const std::string short_name = narrow(entry.cAlternateFileName);
-  std::uint32_t matching = 0;
-  for (std::size_t i = 0; i < patterns_.size(); ++i) {
-    const FilePattern& rule = patterns_[i].rule;
-    if (rule.matches(name) || (!short_name.empty() && rule.matches(short_name))) {
-      matching |= std::uint32_t{1} << i;
-    }
-  }
-  return matching & fitting;
+  return patterns_.either(by_name, patterns_.matches(short_name, path_.size()));
 }
 
-void TreeReader::note_file(const WIN32_FIND_DATAW& entry, std::uint32_t fitting) {
+void TreeReader::note_file(const WIN32_FIND_DATAW& entry) {
   const std::size_t begin = names_.size();
   append_narrow(entry.cFileName, names_);
-  const std::uint32_t matching =
-      matching_patterns(entry, std::string_view(names_).substr(begin), fitting);
+  const std::uint32_t matching = matches(entry, std::string_view(names_).substr(begin));
   if (matching == 0) {
     names_.resize(begin);
     return;
@@ -143,7 +125,7 @@ void TreeReader::store_files(ListedFolder& folder) {
     ListedFolder::FixedRecord* stored = folder.allocate_files(arena_, count, names_.size());
     std::copy(records_.begin(), records_.end(), stored);
     std::copy(names_.begin(), names_.end(), reinterpret_cast<char*>(stored + count));
-    if (patterns_.size() > 1) {
+    if (patterns_.tells_matches()) {
       std::copy(matches_.begin(), matches_.end(), folder.allocate_matches(arena_));
     }
   }

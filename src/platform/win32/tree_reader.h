@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/file_pattern.h"
 #include "platform/folder_tree.h"
+#include "platform/pattern_set.h"
 #include "platform/reading_state.h"
 #include "platform/win32/folder_listing.h"
 #include "platform/win32/link_guard.h"
@@ -18,9 +18,8 @@ namespace quillvane {
 
 class TreeReader {
  public:
-  // Takes the files that match one of `patterns`, of which there are at most
-  // FolderTree::kMostPatterns; `tree` and `state` must outlive the reader.
-  TreeReader(const std::vector<std::string>& patterns, FolderTree& tree, ReadingState& state);
+  // Requires: FolderTree::can_tell(request). `tree` and `state` must outlive the reader.
+  TreeReader(const TreeRequest& request, FolderTree& tree, ReadingState& state);
 
   // Reads the tree from `folder` on, which ends in a backslash. False when the folder cannot be
   // listed. When `state` ends the reading, what was read until then stays.
@@ -34,19 +33,13 @@ class TreeReader {
 
   [[nodiscard]] bool read_folder(ListedFolder& folder);
   void read_subfolder(const Subfolder& subfolder);
-  // The patterns, one bit each, that may be used in a folder whose path has this length.
-  [[nodiscard]] std::uint32_t fitting_patterns(std::size_t path_length) const;
-  [[nodiscard]] std::uint32_t matching_patterns(const WIN32_FIND_DATAW& entry,
-                                                std::string_view name, std::uint32_t fitting) const;
-  void note_file(const WIN32_FIND_DATAW& entry, std::uint32_t fitting);
+  [[nodiscard]] std::uint32_t matches(const WIN32_FIND_DATAW& entry, std::string_view name) const;
+  void note_file(const WIN32_FIND_DATAW& entry);
   [[nodiscard]] Subfolder make_subfolder(const WIN32_FIND_DATAW& entry, const ListedFolder& parent);
   void store_files(ListedFolder& folder);
 
-  struct Pattern {
-    FilePattern rule;
-    std::size_t length;  // as it counts in a path
-  };
-  std::vector<Pattern> patterns_;
+  PatternSet patterns_;
+  bool subfolders_;  // are read too
   FolderListing::ShortNames short_names_;
   TreeArena& arena_;
   FolderTree& tree_;
@@ -56,7 +49,7 @@ class TreeReader {
 
   // The files of the folder being read; done with before a subfolder is begun.
   std::vector<ListedFolder::FixedRecord> records_;
-  std::vector<std::uint32_t> matches_;  // the patterns that each matches
+  std::vector<std::uint32_t> matches_;  // of each file, the word of PatternSet
   std::string names_;
 };
 

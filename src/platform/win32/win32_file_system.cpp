@@ -87,13 +87,14 @@ RemoveResult refused(const std::wstring& path) {
 
 }  // namespace
 
-std::shared_ptr<const FolderTree> Win32FileSystem::read_tree_watched(
-    const std::string& folder, const std::vector<std::string>& patterns, TreeReading* watch) const {
+std::shared_ptr<const FolderTree> Win32FileSystem::read_tree_watched(const std::string& folder,
+                                                                     const TreeRequest& request,
+                                                                     TreeReading* watch) const {
   auto prefix = folder_prefix(folder);
-  if (!prefix || patterns.empty() || patterns.size() > FolderTree::kMostPatterns) return nullptr;
+  if (!prefix || request.patterns.empty() || !FolderTree::can_tell(request)) return nullptr;
   auto tree = std::make_shared<FolderTree>();
   ReadingState state;
-  TreeReader reader(patterns, *tree, state);
+  TreeReader reader(request, *tree, state);
   bool could_be_listed = false;
   read_watched(watch, folder, state, [&] { could_be_listed = reader.read(std::move(*prefix)); });
   if (!could_be_listed) return nullptr;

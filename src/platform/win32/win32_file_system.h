@@ -8,8 +8,7 @@ namespace quillvane {
 class Win32FileSystem final : public FileSystem {
  public:
   [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_watched(
-      const std::string& folder, const std::vector<std::string>& patterns,
-      TreeReading* watch) const override;
+      const std::string& folder, const TreeRequest& request, TreeReading* watch) const override;
   [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
                                                      const std::string& pattern) const override;
   [[nodiscard]] std::optional<std::uint32_t> attributes(const std::string& path) const override;

@@ -7,6 +7,8 @@
 #include "platform/win32/win32_event_log.h"
 #include "platform/win32/win32_file_system.h"
 #include "platform/win32/win32_instances.h"
+#include "platform/win32/win32_links.h"
+#include "platform/win32/win32_locale.h"
 #include "platform/win32/win32_processes.h"
 #include "platform/win32/win32_registry.h"
 #include "platform/win32/win32_security.h"
@@ -32,9 +34,11 @@ class Win32Machine {
             .registry = registry_,
             .environment = environment_,
             .system = system_,
+            .locale = locale_,
             .event_log = event_log_,
             .processes = processes_,
             .instances = instances_,
+            .links = links_,
             .url_cache = url_cache_,
             .security = security_,
             .shell = shell_,
@@ -50,12 +54,14 @@ class Win32Machine {
   Win32Registry registry_;
   Win32Environment environment_;
   Win32SystemInfo system_;
+  Win32Locale locale_;
   Win32EventLog event_log_;
   Win32Processes processes_;
   Win32Instances instances_;
   Win32UrlCache url_cache_;
   Win32Security security_;
   Win32Shell shell_;
+  Win32Links links_;
   Win32SuiteChannel suite_;
   Win32Tray tray_;
 };

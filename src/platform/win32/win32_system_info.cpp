@@ -6,6 +6,7 @@
 
 #include "platform/win32/wide_text.h"
 #include "platform/win32/win32_code_page.h"
+#include "platform/win32/windows_time.h"
 
 namespace quillvane {
 
@@ -61,6 +62,12 @@ std::string Win32SystemInfo::program_folder() const {
                                     : narrow(std::wstring_view(path).substr(0, name));
 }
 
+std::string Win32SystemInfo::system_folder() const {
+  wchar_t path[MAX_PATH];
+  const UINT length = GetSystemDirectoryW(path, MAX_PATH);
+  return length < MAX_PATH ? narrow({path, length}) : std::string();
+}
+
 bool Win32SystemInfo::is_wow64() const {
   BOOL is_wow64 = FALSE;
   return IsWow64Process(GetCurrentProcess(), &is_wow64) && is_wow64;
@@ -107,6 +114,13 @@ std::string Win32SystemInfo::format_date(const DateTime& date) const {
     append_narrow({text, static_cast<std::size_t>(length - 1)}, formatted);
   }
   return formatted;
+}
+
+FileTime Win32SystemInfo::local_time(FileTime time) const {
+  const auto ticks = static_cast<std::uint64_t>(time.ticks);
+  const FILETIME utc{static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32U)};
+  FILETIME local{};
+  return FileTimeToLocalFileTime(&utc, &local) != 0 ? file_time(local) : time;
 }
 
 }  // namespace quillvane

@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <iterator>
+#include <string_view>
 #include <utility>
 
 #include "view/console/command_words.h"
@@ -16,15 +18,26 @@ struct PreparedCommand {
   std::function<int()> run;
 };
 
+struct GroupWords {
+  std::string_view name;
+  const char* description;
+};
+
+constexpr GroupWords kGroups[] = {
+    {"machine", "Machine folders"},
+    {"registry", "The registry of a machine folder"},
+    {"language", "Language files"},
+};
+
 CLI::App& group_of(CLI::App& app, const ConsoleCommand& command) {
   const std::string name = command.group;
   if (name.empty()) return app;
   const auto known =
       app.get_subcommands([&](const CLI::App* other) { return other->get_name() == name; });
   if (!known.empty()) return *known.front();
-  const char* description =
-      name == "machine" ? "Machine folders" : "The registry of a machine folder";
-  CLI::App* group = app.add_subcommand(name, description);
+  const auto* words = std::find_if(std::begin(kGroups), std::end(kGroups),
+                                   [&](const GroupWords& group) { return group.name == name; });
+  CLI::App* group = app.add_subcommand(name, words == std::end(kGroups) ? "" : words->description);
   group->require_subcommand(1);
   return *group;
 }

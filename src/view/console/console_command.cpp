@@ -22,6 +22,7 @@ constexpr std::array kCommands = {
                    prepare_registry_export},
     ConsoleCommand{"registry", "import", "Read .reg text into a machine's registry",
                    prepare_registry_import},
+    ConsoleCommand{"language", "check", "Tell what a language file lacks", prepare_language_check},
     ConsoleCommand{"", "search", "", prepare_unavailable},
     ConsoleCommand{"", "shortcuts", "", prepare_unavailable},
 };

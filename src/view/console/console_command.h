@@ -56,6 +56,7 @@ std::function<int()> prepare_machine_create(CLI::App& app, ConsoleSession& sessi
 std::function<int()> prepare_machine_show(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_registry_export(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_registry_import(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_language_check(CLI::App& app, ConsoleSession& session);
 // A command that this version does not have; takes any words.
 std::function<int()> prepare_unavailable(CLI::App& app, ConsoleSession& session);
 

@@ -4,6 +4,8 @@
 
 #include <sstream>
 
+#include "platform/folder/host_code_page.h"
+
 namespace quillvane {
 namespace {
 
@@ -34,6 +36,7 @@ class NotingHost final : public MachineHost {
     asked.push_back("import " + dir + ": " + content);
     return problem;
   }
+  const CodePage* code_page(int number) const override { return host_code_page(number); }
 
   std::vector<std::string> asked;
   std::optional<HostProblem> problem;

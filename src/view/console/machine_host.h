@@ -10,6 +10,7 @@
 #include <variant>
 #include <vector>
 
+#include "platform/code_page.h"
 #include "view/console/console_machine.h"
 
 namespace quillvane {
@@ -58,6 +59,9 @@ class MachineHost {
       const std::string& dir) = 0;
   [[nodiscard]] virtual std::optional<HostProblem> import_registry(const std::string& dir,
                                                                    const std::string& content) = 0;
+
+  // A code page, whatever the machine; null for one that is not installed here.
+  [[nodiscard]] virtual const CodePage* code_page(int number) const = 0;
 };
 
 }  // namespace quillvane

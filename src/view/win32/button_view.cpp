@@ -28,16 +28,18 @@ ButtonView::ButtonView(ViewHost& host, Clickable& button, const ControlPlace& pl
 
 HFONT ButtonView::font() const {
   if (is(ControlKind::kLink)) return link_font_.get();
-  return is(ControlKind::kMainButton) ? host().bold_font() : host().font();
+  return is(ControlKind::kMainButton) ? bold_font() : plain_font();
 }
 
 void ButtonView::restyle() {
   ControlView::restyle();
-  if (!is(ControlKind::kLink)) return;
-  LOGFONTW font{};
-  GetObjectW(host().font(), sizeof(font), &font);
-  font.lfUnderline = TRUE;
-  link_font_.reset(CreateFontIndirectW(&font));
+  if (is(ControlKind::kLink)) {
+    LOGFONTW underlined{};
+    GetObjectW(plain_font(), sizeof(underlined), &underlined);
+    underlined.lfUnderline = TRUE;
+    link_font_.reset(CreateFontIndirectW(&underlined));
+  }
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(font()), TRUE);
 }
 
 std::string ButtonView::caption() const {

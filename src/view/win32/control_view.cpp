@@ -9,6 +9,7 @@
 
 #include "platform/win32/wide_text.h"
 #include "view/win32/accessible_name.h"
+#include "view/win32/screen.h"
 
 namespace quillvane {
 
@@ -25,11 +26,13 @@ ControlView::~ControlView() {
 }
 
 void ControlView::create(const wchar_t* window_class, DWORD style, DWORD extended_style) {
-  window_ = CreateWindowExW(extended_style, window_class, L"", WS_CHILD | style, 0, 0, 0, 0,
-                            host_.window(), nullptr, GetModuleHandleW(nullptr), nullptr);
+  window_ =
+      CreateWindowExW(extended_style, window_class, L"", WS_CHILD | WS_CLIPSIBLINGS | style, 0, 0,
+                      0, 0, host_.window(), nullptr, GetModuleHandleW(nullptr), nullptr);
   if (window_ == nullptr) return;
   SetWindowSubclass(window_, procedure, 0, reinterpret_cast<DWORD_PTR>(this));
-  send(WM_SETFONT, reinterpret_cast<WPARAM>(host_.font()), FALSE);
+  take_fonts();
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), FALSE);
   if (!place_.accessible_name.empty() && !says_what_it_shows()) {
     name_for_readers(window_, widen(place_.accessible_name));
   }
@@ -55,14 +58,32 @@ void ControlView::changed(Control& /*control*/, Change what) {
 
 void ControlView::refresh() {
   if (noted_.none()) return;
+  if (model_.font() != shown_font_) restyle();
   const Changes changes = std::exchange(noted_, Changes());
   if (changes.has(Change::kEnabled)) EnableWindow(window_, model_.enabled() ? TRUE : FALSE);
   show_changes(changes);
   if (changes.has(Change::kFocus) && IsWindowVisible(window_) != 0) SetFocus(window_);
 }
 
+HFONT ControlView::plain_font() const {
+  return plain_font_ != nullptr ? plain_font_.get() : host_.font();
+}
+
+HFONT ControlView::bold_font() const {
+  return bold_font_ != nullptr ? bold_font_.get() : host_.bold_font();
+}
+
+void ControlView::take_fonts() {
+  shown_font_ = model_.font();
+  plain_font_ = shown_font_ ? make_font(*shown_font_, FW_NORMAL, host_.dpi()) : nullptr;
+  bold_font_ = shown_font_ ? make_font(*shown_font_, FW_SEMIBOLD, host_.dpi()) : nullptr;
+}
+
 void ControlView::restyle() {
-  send(WM_SETFONT, reinterpret_cast<WPARAM>(host_.font()), TRUE);
+  const FontOwner before = std::move(plain_font_);  // stays until the control has its new one
+  const FontOwner bold_before = std::move(bold_font_);
+  take_fonts();
+  send(WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), TRUE);
   noted_ = Changes::all();
 }
 

@@ -14,6 +14,7 @@
 #include <utility>
 
 #include "forms/control.h"
+#include "view/win32/gdi_objects.h"
 #include "view/win32/look/layout_table.h"
 #include "view/win32/look/theme.h"
 #include "view/win32/pictures.h"
@@ -110,6 +111,10 @@ class ControlView : public ControlObserver {
     return std::nullopt;
   }
 
+  // The font that the program gave the control, or the window's.
+  [[nodiscard]] HFONT plain_font() const;
+  [[nodiscard]] HFONT bold_font() const;
+
   LRESULT send(UINT message, WPARAM w = 0, LPARAM l = 0) const {
     return SendMessageW(window_, message, w, l);
   }
@@ -120,10 +125,15 @@ class ControlView : public ControlObserver {
   static LRESULT CALLBACK procedure(HWND window, UINT message, WPARAM w, LPARAM l, UINT_PTR id,
                                     DWORD_PTR view);
 
+  void take_fonts();
+
   ViewHost& host_;
   Control& model_;
   const ControlPlace& place_;
   HWND window_ = nullptr;
+  FontOwner plain_font_;  // null: the window's
+  FontOwner bold_font_;
+  std::optional<Font> shown_font_;  // for which they were made
   Changes noted_ = Changes::all();
 };
 

@@ -69,7 +69,7 @@ std::optional<LRESULT> EditView::filter(UINT message, WPARAM w, LPARAM l) {
 
 void EditView::keep_room(RECT& line) const {
   const int height = line.bottom - line.top;
-  const int above = std::max((height - text_height(host().font())) / 2, 1);
+  const int above = std::max((height - text_height(plain_font())) / 2, 1);
   const int beside = scaled(kBeside, host().dpi());
   InflateRect(&line, -beside, -above);
 }

@@ -60,6 +60,7 @@ FormWindow::~FormWindow() {
   views_.clear();
   tabs_ = nullptr;
   pages_ = nullptr;
+  choices_ = nullptr;
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
   DestroyWindow(window_);
 }
@@ -165,6 +166,10 @@ std::optional<LRESULT> FormWindow::handle_controls(UINT message, WPARAM w, LPARA
     }
     case WM_DRAWITEM: {
       const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(l);
+      if (choices_ != nullptr && item.hwndItem == choices_->window()) {
+        choices_->draw(item);
+        return TRUE;
+      }
       if (ControlView* view = view_of(item.hwndItem)) view->draw(item);
       return TRUE;
     }
@@ -267,8 +272,10 @@ void FormWindow::refresh() {
   KillTimer(window_, kRefreshTimer);
   refresh_is_due_ = false;
   for (const auto& view : views_) view->refresh();
+  if (wanted_widths() != arranged_widths_) arrange_controls();
   show_side();
   show_controls();
+  if (choices_ != nullptr) choices_->refresh();
   keep_focus();
   refreshed_ms_ = GetTickCount64();
 }
@@ -288,6 +295,7 @@ void FormWindow::restyle() {
   for (const auto& view : views_) view->restyle();
   if (tabs_ != nullptr) tabs_->restyle();
   if (pages_ != nullptr) pages_->restyle();
+  if (choices_ != nullptr) choices_->restyle();
   needs_refresh();
   InvalidateRect(window_, nullptr, TRUE);
 }

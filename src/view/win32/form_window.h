@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "forms/window.h"
+#include "view/win32/choice_list.h"
 #include "view/win32/control_view.h"
 #include "view/win32/hints.h"
 #include "view/win32/look/arrange.h"
@@ -75,6 +76,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   void limit_size(MINMAXINFO& limits) const;
   [[nodiscard]] RECT first_place() const;
   [[nodiscard]] std::string title() const;
+  [[nodiscard]] FontOwner title_font() const;
   void show_window();  // as the model tells
   void free_owner();
 
@@ -83,6 +85,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   void make_controls_of(const PageGrid* page, std::span<const ControlPlace> places);
   void watch(std::string_view name);
   [[nodiscard]] ControlView* view_of(HWND window) const;
+  [[nodiscard]] std::vector<int> wanted_widths() const;
   void arrange_controls();
   void place_controls(const Arrangement& places, std::size_t first);
   [[nodiscard]] bool is_shown(std::size_t view) const;
@@ -120,6 +123,8 @@ class FormWindow final : public ViewHost, private ControlObserver {
   Hints hints_;
   std::unique_ptr<TabStrip> tabs_;
   std::unique_ptr<PageTabs> pages_;  // null where the window does one job
+  std::unique_ptr<ChoiceList> choices_;
+  std::vector<int> arranged_widths_;  // what the captions needed when the controls were placed
   // As in the tables: the window's own controls, then those of its pages.
   std::vector<std::unique_ptr<ControlView>> views_;
   std::vector<const PageGrid*> page_of_;  // of each view; null: the window's own

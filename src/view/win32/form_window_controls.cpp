@@ -17,6 +17,9 @@ void FormWindow::make_controls() {
   watch(layout_.page_set.own_work);
   watch(layout_.page_set.pages_work);
   watch(layout_.title);
+  if (layout_.choices.panel.empty()) return;
+  watch(layout_.choices.panel);
+  choices_ = std::make_unique<ChoiceList>(*this, model_);
 }
 
 void FormWindow::make_controls_of(const PageGrid* page, std::span<const ControlPlace> places) {
@@ -52,13 +55,21 @@ ControlView* FormWindow::view_of(HWND window) const {
   return found == views_.end() ? nullptr : found->get();
 }
 
+// Of the controls that get wider with their captions.
+std::vector<int> FormWindow::wanted_widths() const {
+  std::vector<int> wanted;
+  for (const auto& view : views_) {
+    wanted.push_back(view->place().pack == Pack::kFill ? 0 : view->wanted_width());
+  }
+  return wanted;
+}
+
 void FormWindow::arrange_controls() {
   if (views_.empty()) return;
-  std::vector<int> wanted;
-  for (const auto& view : views_) wanted.push_back(view->wanted_width());
+  arranged_widths_ = wanted_widths();
   RECT area{};
   GetClientRect(window_, &area);
-  std::span<const int> rest = wanted;
+  std::span<const int> rest = arranged_widths_;
   const auto take = [&rest](std::size_t count) {
     const auto taken = rest.first(count);
     rest = rest.subspan(count);
@@ -66,10 +77,11 @@ void FormWindow::arrange_controls() {
   };
   place_controls(arrange(layout_, area.right, area.bottom, dpi_, take(layout_.controls.size())), 0);
   for (const PageGrid& page : layout_.page_set.pages) {
-    const std::size_t first = wanted.size() - rest.size();
+    const std::size_t first = arranged_widths_.size() - rest.size();
     place_controls(
         arrange(layout_, page, area.right, area.bottom, dpi_, take(page.controls.size())), first);
   }
+  if (choices_ != nullptr) choices_->place(area.right);
   if (pages_ != nullptr) {
     pages_->move(row_box(layout_, layout_.page_set.tab_row, area.right, area.bottom, dpi_));
   }

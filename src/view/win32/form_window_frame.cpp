@@ -16,6 +16,7 @@ constexpr int kEdge = 6;  // by which the window is made larger and smaller
 constexpr int kTitlePicture = 20;
 constexpr int kTitleIndent = 10;
 constexpr int kTitlePoints = 10;
+constexpr int kTextPoints = 9;
 constexpr WORD kProgramIcon = 1;
 
 }  // namespace
@@ -33,6 +34,15 @@ RECT FormWindow::first_place() const {
 std::string FormWindow::title() const {
   const auto* label = dynamic_cast<const Clickable*>(model_.find(layout_.title));
   return label != nullptr ? label->caption() : model_.caption();
+}
+
+// That of the label which it shows, a little larger.
+FontOwner FormWindow::title_font() const {
+  const Control* label = layout_.title.empty() ? nullptr : model_.find(layout_.title);
+  if (label == nullptr || !label->font()) return make_font(kTitlePoints, FW_SEMIBOLD, dpi_);
+  Font font = *label->font();
+  font.size_points += kTitlePoints - kTextPoints;
+  return make_font(font, FW_SEMIBOLD, dpi_);
 }
 
 void FormWindow::show_window() {
@@ -104,7 +114,7 @@ void FormWindow::paint() {
   if (icon != nullptr) {
     DrawIconEx(paint.dc(), indent, (height - size) / 2, icon, size, size, 0, nullptr, DI_NORMAL);
   }
-  const FontOwner font = make_font(kTitlePoints, FW_SEMIBOLD, dpi_);
+  const FontOwner font = title_font();
   const Selected selected(paint.dc(), font.get());
   SetBkMode(paint.dc(), TRANSPARENT);
   SetTextColor(paint.dc(), theme_.title_text);

@@ -43,6 +43,8 @@ bool FormWindow::take_key(MSG& message) {
   const bool is_ours = message.hwnd == window_ || IsChild(window_, message.hwnd) != 0;
   if (!is_ours) return false;
   if (message.message == WM_KEYDOWN) {
+    const bool is_for_choices = choices_ != nullptr && message.hwnd == choices_->window();
+    if (is_for_choices && choices_->take_key(message.wParam)) return true;
     if (pages_ != nullptr && message.wParam == VK_TAB && GetKeyState(VK_CONTROL) < 0) {
       pages_->turn();
       return true;

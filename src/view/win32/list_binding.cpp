@@ -67,6 +67,7 @@ void ListBinding::show_selection() {
 
 void ListBinding::show_changes(const Changes& changes) {
   is_drawing_ = true;
+  if (changes.has(Change::kCaption)) show_captions();
   const bool states_changed = changes.has(Change::kItemState);
   if (changes.has(Change::kItems)) {
     const int rows = list_.count();

@@ -31,6 +31,7 @@ class ListBinding final : public ControlView {
   [[nodiscard]] int picture_of(int row) const;   // in the list of pictures, from 0; below 0: none
   void make_images();
   void make_columns();
+  void show_captions();
   void set_widths();
   void fit_columns();
   void show_order();

@@ -135,6 +135,16 @@ void ListBinding::make_columns() {
   }
 }
 
+void ListBinding::show_captions() {
+  for (std::size_t i = 0; i < list_.columns().size(); ++i) {
+    std::wstring text = widen(list_.columns()[i]);
+    LVCOLUMNW column{};
+    column.mask = LVCF_TEXT;
+    column.pszText = text.data();
+    send(LVM_SETCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
+  }
+}
+
 // One column takes what the others leave.
 void ListBinding::fit_columns() {
   const std::size_t count = list_.columns().size();
@@ -181,7 +191,7 @@ LRESULT ListBinding::draw_header(const NMCUSTOMDRAW& drawing) const {
   fill(drawing.hdc, area, theme.page);
   frame(drawing.hdc, area, theme.border);
   InflateRect(&area, -scaled(kHeaderBeside, host().dpi()), 0);
-  const Selected font(drawing.hdc, host().font());
+  const Selected font(drawing.hdc, plain_font());
   SetBkMode(drawing.hdc, TRANSPARENT);
   SetTextColor(drawing.hdc, theme.text);
   const UINT side = look_of(column) == 'n' ? DT_RIGHT : DT_LEFT;

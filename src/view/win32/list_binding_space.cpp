@@ -68,7 +68,7 @@ void ListBinding::draw_space(HDC dc, int row, int column) const {
   }
   cell.left = bar.right + beside;
   cell.right -= beside;
-  const Selected font(dc, host().font());
+  const Selected font(dc, plain_font());
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, text);
   DrawTextW(dc, widen(list_.sub_item(row, column)).c_str(), -1, &cell,

@@ -25,7 +25,7 @@ LabelView::LabelView(ViewHost& host, Label& label, const ControlPlace& place)
 }
 
 HFONT LabelView::font() const {
-  return place().kind == ControlKind::kHeading ? host().bold_font() : host().font();
+  return place().kind == ControlKind::kHeading ? bold_font() : plain_font();
 }
 
 int LabelView::wanted_width() const { return text_width(font(), widen(label_.caption()).c_str()); }
@@ -84,7 +84,7 @@ void PathLineView::paint() {
   RECT area = client_area();
   fill(paint.dc(), area, back);
   InflateRect(&area, -scaled(kLinePadding, host().dpi()), 0);
-  const Selected font(paint.dc(), host().font());
+  const Selected font(paint.dc(), plain_font());
   SetBkMode(paint.dc(), TRANSPARENT);
   SetTextColor(paint.dc(), theme.high_contrast ? theme.text : readable_on(back));
   const std::wstring text = folder_.empty() ? widen(box_.text()) : folder_;

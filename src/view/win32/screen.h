@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include "forms/control.h"
 #include "view/win32/gdi_objects.h"
 #include "view/win32/look/theme.h"
 
@@ -20,6 +21,11 @@ namespace quillvane {
 
 // Segoe UI, or what this Windows has in its place.
 [[nodiscard]] FontOwner make_font(int points, int weight, int dpi);
+
+// A font that the program names. Where this Windows does not have it, or it lacks the letters of
+// its character set: the first that has them of those that Windows brings for that script. Sizes
+// that no window could show are taken as the nearest one.
+[[nodiscard]] FontOwner make_font(const Font& font, int weight, int dpi);
 
 // Pixels of a text in one line.
 [[nodiscard]] int text_width(HFONT font, const wchar_t* text);

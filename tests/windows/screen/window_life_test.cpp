@@ -58,7 +58,7 @@ TEST_F(WindowLife, MinimisedItWaitsInTheTrayAndADoubleClickBringsItBack) {
 }
 
 TEST_F(WindowLife, TheLanguageButtonOpensAndClosesThePanel) {
-  const HWND language = program_.control("English");
+  const HWND language = program_.control("Languages");
   EXPECT_FALSE(is_seen(language));
 
   program_.click("Language");

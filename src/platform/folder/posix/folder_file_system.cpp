@@ -103,15 +103,16 @@ FolderFileSystem::FolderFileSystem(const MachineState& machine, unsigned reading
     : paths_(machine),
       reading_threads_(reading_threads == 0 ? worthwhile_threads() : reading_threads) {}
 
-std::shared_ptr<const FolderTree> FolderFileSystem::read_tree_watched(
-    const std::string& folder, const std::vector<std::string>& patterns, TreeReading* watch) const {
+std::shared_ptr<const FolderTree> FolderFileSystem::read_tree_watched(const std::string& folder,
+                                                                      const TreeRequest& request,
+                                                                      TreeReading* watch) const {
   const auto path = paths_.parse(folder);
-  if (!path || patterns.size() > FolderTree::kMostPatterns) return nullptr;
+  if (!path || !FolderTree::can_tell(request)) return nullptr;
   const DriveFolder drive = paths_.drive(path->drive);
   const auto place = drive.find(path->names);
   if (!place || !is_folder(place->status)) return nullptr;
 
-  const TreeScope scope(drive, patterns, paths_.denied());
+  const TreeScope scope(drive, request, paths_.denied());
   const std::size_t path_units = utf16_length(with_backslash(folder));
   if (!scope.can_list(path_units) || scope.is_denied(HostIdentity::of(place->status))) {
     return nullptr;

@@ -28,7 +28,7 @@ std::vector<FolderEntry> list_entries(const DriveFolder& drive, HostPlace folder
   const Descriptor readable = open_for_listing(folder);
   DirectoryListing listing;
   if (!readable.is_open() || !listing.read(readable.number())) return {};
-  NameFilter({&pattern, 1}, NameFilter::Folders::kMatched).apply(listing, 1);
+  NameFilter({pattern}, NameFilter::Folders::kMatched).apply(listing, 0);
 
   std::vector<FolderEntry> entries;
   HostEntry entry{std::move(folder), {}};

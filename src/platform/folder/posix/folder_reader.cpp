@@ -38,9 +38,10 @@ std::size_t FolderReader::read(const FolderInWork& work) {
   if (listing_.has_links()) {
     follow_links(listing_, scope_.drive, work.route->path_of(*work.folder));
   }
-  scope_.filter.apply(listing_, scope_.usable_patterns(work.path_units));
+  work.folder->set_entry_count(static_cast<std::uint32_t>(names_read_));
+  scope_.filter.apply(listing_, work.path_units);
   const std::size_t subfolders =
-      TreeScope::can_list_subfolders(work.path_units) ? add_subfolders(*work.folder) : 0;
+      scope_.can_list_subfolders(work.path_units) ? add_subfolders(*work.folder) : 0;
   add_files(work);
   return subfolders;
 }
@@ -110,7 +111,7 @@ void FolderReader::add_names(ListedFolder& folder, char* names) {
     const std::string_view name = listing_.name(entry);
     names = std::copy(name.begin(), name.end(), names);
   }
-  if (scope_.pattern_units.size() == 1) return;
+  if (!scope_.filter.tells_matches()) return;
   std::uint32_t* matches = folder.allocate_matches(arena_);
   for (const Entry& entry : listing_.entries()) *matches++ = entry.matches;
 }

@@ -27,9 +27,8 @@ class FolderReaderTest : public ::testing::Test {
   }
 
   TempFolder host;
-  std::vector<std::string> patterns = {"*.*"};
   DriveFolder drive{host.path()};
-  TreeScope scope{drive, patterns, {}};
+  TreeScope scope{drive, {"*.*"}, {}};
   TreeArena arena;
   ReadingState state;
   ListedFolder* folder = ListedFolder::make(arena, "", nullptr);

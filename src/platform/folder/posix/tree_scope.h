@@ -2,8 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <span>
-#include <string>
 #include <utility>
 #include <vector>
 
@@ -13,9 +11,9 @@
 namespace quillvane {
 
 struct TreeScope : TreePatterns {
-  TreeScope(const DriveFolder& drive_folder, std::span<const std::string> patterns,
+  TreeScope(const DriveFolder& drive_folder, const TreeRequest& request,
             std::vector<HostIdentity> denied_folders)
-      : TreePatterns(patterns), drive(drive_folder), denied(std::move(denied_folders)) {}
+      : TreePatterns(request), drive(drive_folder), denied(std::move(denied_folders)) {}
 
   [[nodiscard]] bool is_denied(const HostIdentity& folder) const {
     return std::find(denied.begin(), denied.end(), folder) != denied.end();

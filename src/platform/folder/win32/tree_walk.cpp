@@ -80,9 +80,10 @@ void TreeWalk::read_folder(ListedFolder& folder, const Step& step) {
     names.add(file.name, is_folder(file.status) ? Kind::kFolder : Kind::kFile);
     status.emplace(file.name, &file.status);
   }
-  patterns_.filter.apply(names, patterns_.usable_patterns(step.path_units));
-  if (TreePatterns::can_list_subfolders(step.path_units)) add_subfolders(names, arena_, folder);
-  add_files(names, status, patterns_.pattern_units.size() > 1, arena_, folder);
+  folder.set_entry_count(static_cast<std::uint32_t>(files.size()));
+  patterns_.filter.apply(names, step.path_units);
+  if (patterns_.can_list_subfolders(step.path_units)) add_subfolders(names, arena_, folder);
+  add_files(names, status, patterns_.filter.tells_matches(), arena_, folder);
   state_.add_files(folder.file_count());
 
   way_.push_back(HostIdentity::of(step.place.status));

@@ -90,16 +90,17 @@ std::vector<HostIdentity> WindowsMachineFiles::denied() const {
   return folders;
 }
 
-std::shared_ptr<const FolderTree> WindowsMachineFiles::read_tree_watched(
-    const std::string& folder, const std::vector<std::string>& patterns, TreeReading* watch) const {
+std::shared_ptr<const FolderTree> WindowsMachineFiles::read_tree_watched(const std::string& folder,
+                                                                         const TreeRequest& request,
+                                                                         TreeReading* watch) const {
   const auto path = parse_machine_path(machine_, folder);
-  if (!path || patterns.size() > FolderTree::kMostPatterns) return nullptr;
+  if (!path || !FolderTree::can_tell(request)) return nullptr;
   const HostDrive on = drive(*path);
   const auto place = on.find(path->names, Access::kListed);
   const auto denied_folders = denied();
   if (!place || !place->is_folder() || contains(denied_folders, *place)) return nullptr;
 
-  const TreePatterns looked_for(patterns);
+  const TreePatterns looked_for(request);
   const std::size_t path_units = utf16_length(with_backslash(folder));
   if (!looked_for.can_list(path_units)) return nullptr;
   auto tree = std::make_shared<FolderTree>();
@@ -126,7 +127,7 @@ std::vector<FolderEntry> WindowsMachineFiles::list_folder(const std::string& fol
     names.add(file.name,
               is_folder(file.status) ? NameListing::Kind::kFolder : NameListing::Kind::kFile);
   }
-  NameFilter({&pattern, 1}, NameFilter::Folders::kMatched).apply(names, 1);
+  NameFilter({pattern}, NameFilter::Folders::kMatched).apply(names, 0);
   const auto by_name = [](const HostFile& left, const HostFile& right) {
     return left.name < right.name;
   };

@@ -14,8 +14,7 @@ class WindowsMachineFiles final : public MachineFiles {
   explicit WindowsMachineFiles(const MachineState& machine) : machine_(machine) {}
 
   [[nodiscard]] std::shared_ptr<const FolderTree> read_tree_watched(
-      const std::string& folder, const std::vector<std::string>& patterns,
-      TreeReading* watch) const override;
+      const std::string& folder, const TreeRequest& request, TreeReading* watch) const override;
   [[nodiscard]] std::vector<FolderEntry> list_folder(const std::string& folder,
                                                      const std::string& pattern) const override;
   [[nodiscard]] std::optional<std::uint32_t> attributes(const std::string& path) const override;

@@ -140,6 +140,7 @@ constexpr PageSet kPageSet = {
     .first_page = "chameleonButton6",
     .shared_page = "Frame80",
     .own_work = "cmd_cancel",
+    .pages_work = "Text6",
     .pages = kPages,
 };
 

@@ -23,7 +23,6 @@ constexpr Track kRows[] = {
 constexpr Track kColumns[] = {{230, 41}, {300, 59}};
 
 constexpr std::string_view kResultPage = "Frame80";
-constexpr std::string_view kLanguages = "pictrlang";
 
 using enum ControlKind;
 
@@ -52,10 +51,6 @@ constexpr ControlPlace hit_list(std::string_view name, std::string_view says,
   return beside_tree(name, kList, kMain).says(says).under(tab).with("category");
 }
 
-constexpr ControlPlace language_part(std::string_view name, ControlKind kind, int width) {
-  return right(name, kind, kTools, width).on(kLanguages);
-}
-
 constexpr ControlPlace title_button(std::string_view name) {
   return right(name, kTitleButton, kTitle, 42);
 }
@@ -63,8 +58,6 @@ constexpr ControlPlace title_button(std::string_view name) {
 // In the order in which Tab goes through them.
 constexpr ControlPlace kControls[] = {
     left("Toolbar1", kToolbar, kTools, 500).says("Commands").with("toolbar"),
-    language_part("lbllanguage(0)", kLabel, 70),
-    language_part("imglangselect", kPicture, 20).says("Chosen language").with("language-chosen"),
     filling("Tv1", kTree, kMain, 0, 1).on(kResultPage).says("Categories").with("category"),
     hit_list("view5", "Files of the category", "Category"),
     hit_list("view1", "All files found", "All files"),
@@ -119,6 +112,9 @@ constexpr std::string_view kUndrawn[] = {
     "Text15",
     "txtfilecont",
     "txtfilesize",
+    "Text6",
+    "txtviewf",
+    "txttime",
     "List1",
     "Drive1",
     "Shape2",
@@ -148,12 +144,16 @@ constexpr std::string_view kUndrawn[] = {
     "chameleonButton2",
     // Pages and panels: their controls are drawn, or come later.
     "Frame8",
+    // The list of the languages draws them.
     "pictrlang",
+    "lbllanguage(0)",
+    "imglangselect",
     "View10",
     "View4",
     // Not in the window: the help key, the tray, the timer and the pop-up menus.
     "Image44(0)",
     "TrayArea1",
+    "Timer1",
     "Timer2",
     "scf",
     "stc",
@@ -191,6 +191,10 @@ constexpr WindowLayout kLayout = {
     .height = 640,
     .least_width = 740,
     .least_height = 460,
+    .choices = {.panel = "pictrlang",
+                .label = "lbllanguage",
+                .mark = "imglangselect",
+                .says = "Languages"},
 };
 
 }  // namespace

@@ -177,6 +177,14 @@ struct ReadingClick {
   WhileReading what;
 };
 
+// A list that opens below the title bar to choose from: the labels of a panel.
+struct ChoicePanel {
+  std::string_view panel;  // the frame that shows it; empty: there is none
+  std::string_view label;  // what the names of its labels begin with: "lbllanguage(0)" and on
+  std::string_view mark;   // the picture that stands at the height of the chosen one
+  std::string_view says;   // what a screen reader says
+};
+
 struct WindowLayout {
   std::string_view window;
   // The label whose caption the title bar shows; empty: it shows the window's own.
@@ -199,6 +207,7 @@ struct WindowLayout {
   int height;
   int least_width;  // to which it can be made smaller; with both as at the start, it keeps its size
   int least_height;
+  ChoicePanel choices = {};
   PageSet page_set = {};
   std::span<const AskedClick> asked_clicks = {};
 

@@ -1,5 +1,5 @@
 // What the table of file types that comes with the program has to hold to.
-#include "machine/factory_type_table.h"
+#include "machine/data_files.h"
 
 #include <gtest/gtest.h>
 
@@ -20,14 +20,14 @@ constexpr std::size_t kRecord = 101;
 
 std::vector<FileTypeEntry> factory_rows() {
   TempMachine machine;
-  machine.add_text_file("C:\\tmptype.orv", factory_type_table());
+  machine.add_text_file("C:\\tmptype.orv", data_file("tmptype.orv"));
   TypeTable table = read_type_table_file(machine.platform(), "C:\\tmptype.orv");
   EXPECT_EQ(table.problem, "");
   return table.rows;
 }
 
 TEST(FactoryTypeTable, IsWholeRecordsOfPlainLetters) {
-  const std::string_view table = factory_type_table();
+  const std::string_view table = data_file("tmptype.orv");
   EXPECT_EQ(table.size() % kRecord, 0U);
   EXPECT_TRUE(std::all_of(table.begin(), table.end(), [](char c) { return c >= ' ' && c <= '~'; }));
   const auto rows = factory_rows();

@@ -80,6 +80,8 @@ bool read_options(int count, char** words, Options& options) {
                       : name == "--threads" ? read_number(value, options.threads)
                       : name == "--pairs"   ? read_number(value, options.pairs)
                       : name == "--lists"   ? read_number(value, options.list_megabytes)
+                      : name == "--names"   ? read_number(value, options.names)
+                      : name == "--suite"   ? read_number(value, options.suite)
                       : name == "--shape"   ? read_shape(value, options.shape)
                       : name == "--dir"     ? !(options.folder = value).empty()
                                             : false;

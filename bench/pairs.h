@@ -20,10 +20,12 @@ struct Options {
   std::uint32_t pairs = 9;
   TreeShape shape = TreeShape::kTree;
   std::uint32_t list_megabytes = 0;  // length of the ignore list and of the pending queue
+  std::uint32_t names = 0;           // names that a search leaves out
+  std::uint32_t suite = 0;           // 1: what telling the suite costs is measured
 };
 
-// --dir DIR, --files N, --threads N, --pairs N, --lists MB, --shape tree|flat|folders|deep. False
-// when the words are off.
+// --dir DIR, --files N, --threads N, --pairs N, --lists MB, --names N, --suite 1, --shape
+// tree|flat|folders|deep. False when the words are off.
 [[nodiscard]] bool read_options(int count, char** words, Options& options);
 
 // Makes the tree unless it is there. In a process of its own too: memory that this one has had

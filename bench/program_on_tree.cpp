@@ -10,7 +10,7 @@ namespace quillvane::bench {
 namespace {
 
 constexpr const char* kMachineJson = R"({
-  "drives": [{"letter": "C", "folder": ".."}],
+  "drives": [{"letter": "C", "folder": ".."}, {"letter": "D", "folder": "../tree"}],
   "environment": {"TEMP": "C:\\tree"}
 })";
 
@@ -25,13 +25,15 @@ bool make_machine_on_tree(const std::string& folder) {
   return std::fclose(file) == 0;
 }
 
-ProgramOnTree::ProgramOnTree(const std::string& folder, std::uint32_t threads) {
+ProgramOnTree::ProgramOnTree(const std::string& folder, std::uint32_t threads, Suite suite) {
   auto opened = FolderMachine::open(folder + "/machine");
   if (!std::holds_alternative<std::unique_ptr<FolderMachine>>(opened)) return;
   machine_ = std::get<std::unique_ptr<FolderMachine>>(std::move(opened));
   dialogs_ = std::make_unique<QueuedDialogs>(machine_->effects());
   files_ = std::make_unique<FolderFileSystem>(machine_->state(), threads);
-  program_.emplace(machine_->platform(*dialogs_).with({.files = files_.get()}));
+  Registry* registry = suite == Suite::kNotTold ? &registry_ : nullptr;
+  program_.emplace(
+      machine_->platform(*dialogs_).with({.files = files_.get(), .registry = registry}));
   program_->start("");
 }
 

@@ -25,8 +25,14 @@ Form7::Form7(Session& shared, ModalWindows& open_windows)
       DrivePage(*this, shared),
       TypePage(*this, shared),
       ListsPage(*this, shared, *this),
-      SearchRun(*this, shared),
       ReportPage(*this, shared),
+      SearchRun(*this, shared,
+                {.junk = *this,
+                 .frames = *this,
+                 .drives = *this,
+                 .types = *this,
+                 .lists = *this,
+                 .report = *this}),
       LanguagePanel(*this, shared, "fernwick"),
       windows(open_windows) {
   set_caption(kProgramName);
@@ -45,6 +51,8 @@ void Form7::connect_pages() {
   chameleonButton1.on_click = [this] { open_lists_page(); };
   on_edit_type = [this](int row) { open_type(row); };
 
+  search_custom_entries = [this] { searchcustom(); };
+  enable_removal = [this](bool enabled) { orvbutton2.set_enabled(enabled); };
   write_report = [this] { orvbutton3.raise_click(); };
   to_drives = [this] { chameleonButton6.raise_click(); };
   to_types = [this] { orvbutton8.raise_click(); };

@@ -31,8 +31,8 @@ class Form7 final : public Window,
                     public DrivePage,
                     public TypePage,
                     public ListsPage,
-                    public SearchRun,
                     public ReportPage,
+                    public SearchRun,
                     public LanguagePanel {
  public:
   // Both must outlive it.

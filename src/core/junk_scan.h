@@ -2,6 +2,9 @@
 // frames and the commands put together.
 #pragma once
 
+#include <functional>
+#include <string>
+
 #include "cleaning/cleaning_run.h"
 #include "core/junk_commands.h"
 #include "scan/junk_page.h"
@@ -17,7 +20,9 @@ class JunkScan : public JunkPage, public PageFrames, public JunkCommands, public
   void autosearch();          // the whole scan
   void startclean();          // rebuilds the tree and scans the Windows group
   void startcleanexplorer();  // scans the Browsers group, each behind its guard
-  void searchcustom();        // scans the user's own entries
+
+  // Scans the user's own entries; whoever puts the window together sets it.
+  std::function<void()> search_custom_entries;
 
  protected:
   void write_result_file();  // junst.txt: count, "|", bytes

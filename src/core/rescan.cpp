@@ -94,7 +94,7 @@ void JunkScan::scan_node_again(int node) {
       if (cancelflag == 1) break;
     }
   } else if (node >= kCustomNode) {
-    searchcustom();
+    search_custom_entries();
   } else {
     run_category(*this, node);
   }
@@ -184,7 +184,7 @@ void JunkScan::clean_clicked_node() {
   begin_rescan();
   startclean();
   startcleanexplorer();
-  searchcustom();
+  search_custom_entries();
   Tv1.select(kWindowsNode);
   end_rescan();
   show_summary(totals.totalfiles);

@@ -51,7 +51,7 @@ void JunkScan::autosearch() {
   pndtxt(*this);
   startclean();
   startcleanexplorer();
-  searchcustom();
+  search_custom_entries();
   if (session.stopped()) return;
 
   Tv1.select(kWindowsNode);
@@ -97,11 +97,6 @@ void JunkScan::startcleanexplorer() {
   add_group_result(kBrowsersNode, totals.brfiles, totals.brsize);
   enter_state(ButtonState::kCustomGroup);  // the custom group can no longer be cancelled
   add_to_count_and_size(totals.brfiles, totals.brsize);
-}
-
-void JunkScan::searchcustom() {
-  totals.custfiles = 0;
-  totals.custsize = 0;
 }
 
 void JunkScan::show_found_mark() {

@@ -16,7 +16,6 @@ constexpr std::array<std::size_t, 3> kWidths = {50, 50, 1};  // description, ext
 
 constexpr std::string_view kFactoryFile = "tmptype.orv";
 constexpr std::string_view kAllFiles = "file with zero size";
-constexpr std::string_view kMatchesNothing = "fgrft.gftr";
 
 TypeTable table_of(RecordFile file) {
   TypeTable table{{}, std::move(file.problem)};

@@ -45,6 +45,9 @@ void put_type_table_in_place(const Session& session);
 // A table's file as it stands, elsewhere than in the user's place. A missing one is empty.
 [[nodiscard]] TypeTable read_type_table_file(const Platform& platform, const std::string& path);
 
+// The pattern of a table without a row that is on: a name that no file bears.
+inline constexpr std::string_view kMatchesNothing = "fgrft.gftr";
+
 // What the drive search takes from the table.
 struct TypesToFind {
   std::string patterns;        // of the rows that are on, joined by "|"

@@ -10,17 +10,22 @@ std::string ListBox::item(int index) const {
 
 void ListBox::add(std::string_view text) {
   items_.emplace_back(text);
-  notify(Change::kItems);
+  changed();
 }
 
 void ListBox::remove(int index) {
   if (index < 0 || index >= count()) return;
   items_.erase(items_.begin() + index);
-  notify(Change::kItems);
+  changed();
 }
 
 void ListBox::clear() {
   items_.clear();
+  changed();
+}
+
+void ListBox::changed() {
+  ++version_;
   notify(Change::kItems);
 }
 

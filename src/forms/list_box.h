@@ -1,6 +1,7 @@
 // A plain list of strings. The windows keep hidden ones as working lists.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,8 @@ class ListBox : public Control {
   // Items count from 0, as in the handlers of the windows; empty when there is no such item.
   [[nodiscard]] std::string item(int index) const;
   [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
+  // Raised by each change, so that callers can keep what they made of the items.
+  [[nodiscard]] std::uint64_t version() const { return version_; }
   void add(std::string_view text);
   // Does nothing when there is no such item.
   void remove(int index);
@@ -26,7 +29,10 @@ class ListBox : public Control {
   [[nodiscard]] std::optional<PropertyValue> property(std::string_view name) const override;
 
  private:
+  void changed();
+
   std::vector<std::string> items_;
+  std::uint64_t version_ = 0;
 };
 
 }  // namespace quillvane

@@ -22,7 +22,9 @@ constexpr Row kRows[] = {
      true},
     {"view/win32", "core scan forms controls support platform/win32 platform", true},
     {"view/console",
-     "core cleaning categories scan lang forms controls support platform/virtual platform", true},
+     "core cleaning categories drivesearch scan lang forms controls support platform/virtual "
+     "platform",
+     true},
     {"core",
      "shortcuts cleaning categories drivesearch dialogs scan lang controls forms support platform"},
     {"shortcuts",

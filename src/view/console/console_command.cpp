@@ -14,6 +14,8 @@ namespace {
 constexpr std::array kCommands = {
     ConsoleCommand{"", "scan", "Search the machine for junk; nothing is removed", prepare_scan},
     ConsoleCommand{"", "clean", "Search, ask, and remove what was found", prepare_clean},
+    ConsoleCommand{"", "search", "Search whole drives by file types; nothing is removed",
+                   prepare_search},
     ConsoleCommand{"", "run", "Do what the suite asks for by a run switch", prepare_run},
     ConsoleCommand{"", "script", "Drive the windows by an automation script", prepare_script},
     ConsoleCommand{"machine", "create", "Make a machine folder", prepare_machine_create},
@@ -23,7 +25,6 @@ constexpr std::array kCommands = {
     ConsoleCommand{"registry", "import", "Read .reg text into a machine's registry",
                    prepare_registry_import},
     ConsoleCommand{"language", "check", "Tell what a language file lacks", prepare_language_check},
-    ConsoleCommand{"", "search", "", prepare_unavailable},
     ConsoleCommand{"", "shortcuts", "", prepare_unavailable},
 };
 

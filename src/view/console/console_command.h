@@ -50,6 +50,7 @@ struct ConsoleCommand {
 // One file each.
 std::function<int()> prepare_scan(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_clean(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_search(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_run(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_script(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_machine_create(CLI::App& app, ConsoleSession& session);

@@ -73,25 +73,22 @@ TEST(Console, VersionAndHelpAreResults) {
 TEST(Console, HelpLeavesOutWhatIsNotThereYet) {
   Stage stage;
   stage.run({"--help"});
-  for (const char* word : {"search", "shortcuts"}) {
+  for (const char* word : {"shortcuts"}) {
     EXPECT_EQ(stage.out.str().find(std::string("  ") + word), std::string::npos) << word;
   }
 }
 
 TEST(Console, CommandsThatAreNotThereYetSaySoWhateverTheirWords) {
-  for (const Words& words : {Words{"search"}, Words{"search", "--yes", "--json"},
-                             Words{"--json", "search"}, Words{"search", "--help"}}) {
+  for (const Words& words : {Words{"shortcuts"}, Words{"shortcuts", "--yes", "--json"},
+                             Words{"--json", "shortcuts"}, Words{"shortcuts", "--help"}}) {
     Stage stage;
     EXPECT_EQ(stage.run(words), 1);
-    EXPECT_EQ(stage.err.str(), "quillvane: search: not available in this version yet\n");
+    EXPECT_EQ(stage.err.str(), "quillvane: shortcuts: not available in this version yet\n");
     EXPECT_EQ(stage.out.str(), "");
   }
   Stage stage;
-  EXPECT_EQ(stage.run({"search", "C:", "D:"}), 1);
   EXPECT_EQ(stage.run({"shortcuts", "--drive", "C:"}), 1);
-  EXPECT_EQ(stage.err.str(),
-            "quillvane: search: not available in this version yet\n"
-            "quillvane: shortcuts: not available in this version yet\n");
+  EXPECT_EQ(stage.err.str(), "quillvane: shortcuts: not available in this version yet\n");
 }
 
 struct WrongWords {

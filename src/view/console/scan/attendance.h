@@ -16,8 +16,11 @@ namespace quillvane {
 // in hand; a second one ends the process.
 class Attendance {
  public:
+  // What the windows work at: the junk scan and what follows it, or the search of drives.
+  enum class Work { kScan, kSearch };
+
   // All of these must outlive it.
-  Attendance(ConsoleIo& io, VirtualLoop& loop, Program& program);
+  Attendance(ConsoleIo& io, VirtualLoop& loop, Program& program, Work work = Work::kScan);
   ~Attendance();
   Attendance(const Attendance&) = delete;
   Attendance& operator=(const Attendance&) = delete;
@@ -33,10 +36,12 @@ class Attendance {
 
  private:
   void serve();
+  void cancel(Form7& form) const;
 
   ConsoleIo& io_;
   VirtualLoop& loop_;
   Program& program_;
+  const Work work_;
   Interrupt interrupt_;
 };
 

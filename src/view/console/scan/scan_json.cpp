@@ -29,6 +29,16 @@ void print_scan_json(std::ostream& out, const ScanReport& report, const ListView
   out << "}\n";
 }
 
+void print_files_json(std::ostream& out, const ListView& files) {
+  out << ",\n \"files\": [";
+  const char* separator = "\n  ";
+  for (int row = 1; row <= files.count() && out; ++row) {
+    out << separator << json_text(file_json(files, row));
+    separator = ",\n  ";
+  }
+  out << ']';
+}
+
 void print_scan_json_open(std::ostream& out, const ScanReport& report, const ListView* files) {
   const Json totals = {{"files", json_number(report.totals.files)},
                        {"bytes", json_number(report.totals.bytes)}};
@@ -40,15 +50,7 @@ void print_scan_json_open(std::ostream& out, const ScanReport& report, const Lis
     separator = ",\n  ";
   }
   out << ']';
-  if (files != nullptr) {
-    out << ",\n \"files\": [";
-    separator = "\n  ";
-    for (int row = 1; row <= files->count() && out; ++row) {
-      out << separator << json_text(file_json(*files, row));
-      separator = ",\n  ";
-    }
-    out << ']';
-  }
+  if (files != nullptr) print_files_json(out, *files);
   if (!report.skipped.empty()) out << ",\n \"skipped\": " << json_text(report.skipped);
 }
 

@@ -15,4 +15,7 @@ void print_scan_json(std::ostream& out, const ScanReport& report, const ListView
 // writes the "}".
 void print_scan_json_open(std::ostream& out, const ScanReport& report, const ListView* files);
 
+// The member "files" of an open document with members before it.
+void print_files_json(std::ostream& out, const ListView& files);
+
 }  // namespace quillvane

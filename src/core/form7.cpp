@@ -12,9 +12,8 @@ namespace quillvane {
 namespace {
 
 constexpr int kAboutPage = 7;
-constexpr int kDrivesStep = 0;  // wizardstep of the page of the drives
-constexpr int kTypesStep = 1;   // wizardstep of the page of the file types
-constexpr int kListsStep = 2;   // wizardstep of the page of the lists
+constexpr int kTypesStep = 1;  // wizardstep of the page of the file types
+constexpr int kListsStep = 2;  // wizardstep of the page of the lists
 
 }  // namespace
 
@@ -46,7 +45,6 @@ void Form7::connect_pages() {
   Timer2.on_timer = [this] { tell_suite(); };
   orvbutton3.on_click = [this] { write_text_report(*this); };
   Command9.on_click = [this] { write_html_report(*this); };
-  chameleonButton6.on_click = [this] { open_drives_page(); };
   orvbutton8.on_click = [this] { open_types_page(); };
   chameleonButton1.on_click = [this] { open_lists_page(); };
   on_edit_type = [this](int row) { open_type(row); };
@@ -61,11 +59,6 @@ void Form7::connect_pages() {
   on_ignore_list = [this] { open_ignore_list(); };
   on_custom_list = [this] { open_custom_list(); };
   on_about = [this] { open_about(); };
-}
-
-void Form7::open_drives_page() {
-  wizardstep = kDrivesStep;
-  show_frame(Frame2);
 }
 
 void Form7::open_types_page() {

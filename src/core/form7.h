@@ -65,7 +65,6 @@ class Form7 final : public Window,
  private:
   // form7.cpp
   void connect_pages();
-  void open_drives_page();
   void open_types_page();
   void open_lists_page();
   void name_session();

@@ -40,13 +40,23 @@ constexpr ControlPlace command(std::string_view name, int row, int width) {
   return packed(Pack::kFromLeft, name, kButton, row, 1, width);
 }
 
+constexpr ControlPlace next(int row) {
+  return {"chameleonButton10", kMainButton, row, 1, 1, Pack::kFromRight, 94, "Next", {}, {}, {}};
+}
+
+constexpr ControlPlace back(int row) {
+  return {"chameleonButton8", kButton, row, 1, 1, Pack::kFromRight, 94, "Back", {}, {}, {}};
+}
+
 // --- On all pages.
 
-constexpr Track kCommonRows[] = {kTitleTrack, kTabsTrack, kStepsTrack, kListTrack, kCommandsTrack};
+constexpr Track kCommonRows[] = {kTitleTrack, kTabsTrack, kStepsTrack, kListTrack};
+
 constexpr ControlPlace kCommonControls[] = {
     step("chameleonButton6", "1  Drives"),
     step("orvbutton8", "2  File types"),
     step("chameleonButton1", "3  Folders"),
+    step("orvbutton5", "4  Search"),
 };
 
 // --- The drives.
@@ -57,6 +67,7 @@ constexpr ControlPlace kDriveControls[] = {
     note("Frame2",
          "Drives\nTick the drives that shall be searched. A search lists files and removes none."),
     list("View2", kList, kMain, "Drives").with("row-drive").columns_as("wnbt"),
+    next(kMain + 1),
 };
 
 // --- The file types.
@@ -75,6 +86,8 @@ constexpr ControlPlace kTypeControls[] = {
     command("command911", kTypeCommands, 84).says("Remove"),
     command("orvbutton611", kTypeCommands, 84).says("Tick all"),
     command("orvbutton711", kTypeCommands, 84).says("Tick none"),
+    next(kTypeCommands),
+    back(kTypeCommands),
 };
 
 // --- The exclude and include lists.
@@ -96,6 +109,43 @@ constexpr ControlPlace kListControls[] = {
     command("chameleonButton5", kListCommands, 84).says("Add file"),
     command("command338", kListCommands, 84).says("Edit"),
     command("command339", kListCommands, 84).says("Delete"),
+    next(kListCommands),
+    back(kListCommands),
+};
+
+// --- The run.
+
+constexpr int kRunFolder = kMain;
+constexpr int kRunFigures = kMain + 1;
+constexpr int kRunBar = kMain + 2;
+constexpr int kRunDrives = kMain + 3;
+constexpr int kRunTypes = kMain + 4;
+constexpr int kRunCommands = kMain + 5;
+constexpr Track kRunRows[] = {kTitleTrack, kTabsTrack, kStepsTrack, kNoteTrack, kLineTrack,
+                              kLineTrack,  {12, 0},    kListTrack,  kListTrack, kCommandsTrack};
+
+constexpr ControlPlace figure(std::string_view name, ControlKind kind, int width) {
+  return packed(Pack::kFromLeft, name, kind, kRunFigures, kBoth, width);
+}
+
+constexpr std::string_view kTypesFound = "File types that are searched for";
+
+constexpr ControlPlace kRunControls[] = {
+    note("Frame8",
+         "Search\nThe drives are searched one by one, then the temporary folders of the system. "
+         "Nothing is removed."),
+    packed(Pack::kFromLeft, "Label5", kCaption, kRunFolder, kBoth, 60).says("Folder"),
+    filling("Label5", kFolderLabel, kRunFolder, 0, kBoth),
+    figure("Label7", kCaption, 60).says("Found"),
+    figure("Label7", kLabel, 90),
+    figure("Label10", kCaption, 40).says("Size"),
+    figure("Label10", kLabel, 120),
+    filling("Bar1", kProgress, kRunBar, 0, kBoth).says("Drives that are done"),
+    list("View2", kList, kRunDrives, "Drives that are searched")
+        .with("row-drive")
+        .columns_as("wnbt"),
+    list("View1000", kList, kRunTypes, kTypesFound).with("row-oth").columns_as("wsnn"),
+    command("orvbutton10", kRunCommands, 110).says("Exit"),
 };
 
 // --- The result.
@@ -122,10 +172,13 @@ constexpr ControlPlace kResultControls[] = {
     filling("bar3", kProgress, kResultBar, 0, kBoth).says("Progress of the removal"),
     command("orvbutton2", kResultCommands, 84).says("Delete").drawn_though_hidden(),
     command("orvbutton3", kResultCommands, 112).says("Create Report").drawn_though_hidden(),
+    back(kResultCommands),
 };
 
-// The foremost first: at the start the result stands before the drives.
+// The foremost first: the run stands before all others, and at the start the result before the
+// drives.
 constexpr PageGrid kPages[] = {
+    {"Frame8", kRunRows, kColumns, kRunControls},
     {"Frame80", kResultRows, kColumns, kResultControls},
     {"Frame6", kListRows, kColumns, kListControls},
     {"Frame4", kTypeRows, kColumns, kTypeControls},
@@ -139,6 +192,7 @@ constexpr PageSet kPageSet = {
     .tab_row = kTabRow,
     .first_page = "chameleonButton6",
     .shared_page = "Frame80",
+    .run_page = "Frame8",
     .own_work = "cmd_cancel",
     .pages_work = "Text6",
     .pages = kPages,

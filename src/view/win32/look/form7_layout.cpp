@@ -88,15 +88,16 @@ constexpr ToolbarHint kHints[] = {
 };
 
 constexpr KeyClick kKeys[] = {
-    {0x70, "Image44(0)"},  // F1
-    {0x74, "cmd_start"},   // F5
-    {0x74, "chameleonButton10"},
-    {0x1B, "cmd_cancel"},  // Escape
+    {0x70, "Image44(0)"},                                                            // F1
+    {0x74, "cmd_start"},                                                             // F5
+    {0x74, "chameleonButton10"}, {0x74, "chameleonButton10"}, {0x1B, "cmd_cancel"},  // Escape
+    {0x1B, "orvbutton10"},
 };
 
 constexpr ReadingClick kReadingClicks[] = {
     {"cmd_cancel", 0, WhileReading::kEndsIt},
     {"Toolbar1", 7, WhileReading::kEndsIt},  // Cancel the scan
+    {"orvbutton10", 0, WhileReading::kEndsIt},
     {"chameleonButton9", 0, WhileReading::kEndsIt},
     {"chameleonButton12", 0, WhileReading::kActsNow},
 };
@@ -138,14 +139,6 @@ constexpr std::string_view kUndrawn[] = {
     "Text11",
     "Text12",
     // The drive search: its commands, its progress and its variables.
-    "chameleonButton10",
-    "chameleonButton8",
-    "orvbutton5",
-    "orvbutton10",
-    "Label5",
-    "Label7",
-    "Label10",
-    "Bar1",
     "orvbutton6",
     "Command2",
     "chameleonButton3",
@@ -165,7 +158,6 @@ constexpr std::string_view kUndrawn[] = {
     "Label12(1)",
     "chameleonButton2",
     // Pages and panels: their controls are drawn, or come later.
-    "Frame8",
     // The list of the languages draws them.
     "pictrlang",
     "lbllanguage(0)",

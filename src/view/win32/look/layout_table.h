@@ -121,7 +121,8 @@ struct Track {
 
 // Controls with a grid of their own that take turns with the window's others.
 struct PageGrid {
-  std::string_view frame;  // the frame whose page it is; empty: it shows on all pages
+  std::string_view
+      frame;  // the frame whose page it is; empty: it shows on all pages, while none is at work
   std::span<const Track> rows;
   std::span<const Track> columns;
   std::span<const ControlPlace> controls;

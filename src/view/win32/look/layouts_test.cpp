@@ -152,15 +152,13 @@ TEST_P(Layouts, WhatItNamesForTheTurnsOfItsPagesIsThereToo) {
   if (set.empty()) return;
   EXPECT_NE(dynamic_cast<Button*>(window().find(set.first_page)), nullptr);
   EXPECT_NE(window().find(set.own_work), nullptr);
-  if (!set.pages_work.empty()) {
-    EXPECT_NE(dynamic_cast<TextBox*>(window().find(set.pages_work)), nullptr);
-  }
+  EXPECT_NE(dynamic_cast<TextBox*>(window().find(set.pages_work)), nullptr);
   const auto is_page = [&set](std::string_view frame) {
     return std::any_of(set.pages.begin(), set.pages.end(),
                        [frame](const PageGrid& page) { return page.frame == frame; });
   };
   EXPECT_TRUE(is_page(set.shared_page));
-  EXPECT_TRUE(set.run_page.empty() || is_page(set.run_page));
+  EXPECT_TRUE(is_page(set.run_page));
 }
 
 // As the view casts them; another kind would not be drawn.

@@ -44,7 +44,8 @@ std::string_view PageChoice::choose(bool pages) {
 
 bool PageChoice::shows(const PageGrid* page) const {
   if (page == nullptr) return !shows_pages_;
-  return shows_pages_ && (page->frame.empty() || page->frame == front_);
+  if (!shows_pages_) return false;
+  return page->frame.empty() ? !is_locked_ : page->frame == front_;
 }
 
 }  // namespace quillvane

@@ -116,6 +116,7 @@ TEST(PageChoice, NoTabIsChosenWhileAJobRuns) {
   EXPECT_TRUE(stage.choice.is_locked());
   EXPECT_EQ(stage.choice.choose(false), "");
   EXPECT_TRUE(stage.choice.shows(&kPages[0]));
+  EXPECT_FALSE(stage.choice.shows(&kPages[3]));  // nothing that leads away from the run
 
   stage.working.set_text("0");
   stage.choice.look();

@@ -2,16 +2,20 @@
 #include <gtest/gtest.h>
 #include <windows.h>
 
-#include <algorithm>
+#include <filesystem>
 #include <string>
 #include <vector>
 
+#include <nlohmann/json.hpp>
+
+#include "tests/windows/screen/console_result.h"
 #include "tests/windows/screen/drive_search_stage.h"
 
 namespace quillvane {
 namespace {
 
 using DriveSearchOnScreen = DriveSearchStage;
+using Json = nlohmann::json;
 
 int row_beginning(const ProgramOnScreen& program, HWND list, std::string_view begin) {
   for (int row = 0; row < program.rows(list); ++row) {
@@ -122,6 +126,91 @@ TEST_F(DriveSearchOnScreen, AFolderAndItsDescriptionAreAskedFor) {
   EXPECT_EQ(program().row_text(list, 0, 0), "C:\\qv-drive");
   keep_picture("window-folders", program().area());
   EXPECT_TRUE(copy().text("exfolder.orv").starts_with("C:\\qv-drive "));
+}
+
+// From the drives to the result, by the keyboard alone from the first tick on.
+class SearchedOnScreen : public DriveSearchStage {
+ protected:
+  void search() const {
+    open_drive_search();
+    const HWND drives = program().control("Drives");
+    const int row = row_beginning(program(), drives, "Local Disk (C:)");
+    tick(drives, row);
+    for (const char* page : {"File types", "Excluded files and folders"}) {
+      press_keys("F5");
+      ASSERT_TRUE(eventually(page, [&] { return shows(page); }));
+    }
+    press_keys("F5");
+    ASSERT_TRUE(eventually("the end of the run", [this] {
+      return shows("Drives that are searched") && shows("Exit") && program().is_enabled("Jobs");
+    }));
+  }
+  void leave_run() const {
+    press_keys("Escape");
+    ASSERT_TRUE(eventually("the result", [this] { return shows("Files found on the drives"); }));
+  }
+  [[nodiscard]] HWND files() const { return program().control("Files found on the drives"); }
+};
+
+TEST_F(SearchedOnScreen, FindsWhatTheConsoleFinds) {
+  search();
+  const HWND drives = program().control("Drives that are searched");
+  EXPECT_EQ(program().row_text(drives, row_beginning(program(), drives, "Local Disk (C:)"), 3),
+            "Finish");
+  EXPECT_FALSE(shows("Next"));
+  keep_picture("window-searched", program().area());
+  leave_run();
+
+  const Json found = Json::parse(console_output(L"search C: --types *.qvbak --json --list"));
+  EXPECT_EQ(found["totals"]["files"], 2);
+  std::vector<std::string> paths;
+  std::vector<std::string> sizes;
+  for (const Json& file : found["files"]) {
+    paths.push_back(file["path"]);
+    sizes.push_back(file["size"]);
+  }
+  EXPECT_EQ(program().row_texts(files(), 0), paths);
+  EXPECT_EQ(program().row_texts(files(), 1), sizes);
+  keep_picture("window-search-result", program().area());
+}
+
+TEST_F(SearchedOnScreen, DeleteAsksFirstAndNoIsInHand) {
+  search();
+  leave_run();
+  program().click("Delete");
+  const HWND box = await_box(program(), "Quillvane Disk Cleaner");
+  EXPECT_TRUE(program().box_text(box).starts_with("2 files are removed"));
+  keep_picture("window-search-question", program().area());
+  press_keys("Return");
+  ASSERT_TRUE(eventually("the end of the question", [box] { return IsWindow(box) == 0; }));
+  EXPECT_EQ(program().rows(files()), 2);
+  EXPECT_TRUE(std::filesystem::exists("C:\\qv-drive\\one.qvbak"));
+
+  program().click("Delete");
+  answer_box(await_box(program(), "Quillvane Disk Cleaner"), "Yes");
+
+  ASSERT_TRUE(eventually("an empty list", [this] { return program().rows(files()) == 0; }));
+  EXPECT_FALSE(std::filesystem::exists("C:\\qv-drive\\one.qvbak"));
+  EXPECT_FALSE(std::filesystem::exists("C:\\qv-drive\\sub\\two.qvbak"));
+  EXPECT_TRUE(std::filesystem::exists("C:\\qv-drive\\sub\\three.qvlog"));
+}
+
+TEST_F(SearchedOnScreen, TheJunkPageShowsTheSameListOfAllFiles) {
+  search();
+  leave_run();
+  press_keys("ctrl+Tab");
+
+  ASSERT_TRUE(eventually("all files", [this] { return shows("All files found"); }));
+  EXPECT_EQ(program().rows(program().control("All files found")), 2);
+}
+
+TEST_F(DriveSearchOnScreen, WithoutATickedDriveTheSearchSaysSo) {
+  open_drive_search();
+  program().click("4  Search");
+  const HWND box = await_box(program(), "Quillvane Disk Cleaner");
+  EXPECT_EQ(program().box_text(box), "Please Select at least one drive to check it");
+  answer_box(box, "OK");
+  ASSERT_TRUE(eventually("the drives", [this] { return shows("Drives"); }));
 }
 
 }  // namespace

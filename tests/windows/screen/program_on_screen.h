@@ -35,8 +35,8 @@ struct ScreenNode {
 [[nodiscard]] std::string text_of(HWND window);
 [[nodiscard]] RECT area_of(HWND window);
 
-// Controls of a window. One is known by its text, which is its accessible name; null when there is
-// none of it.
+// Controls of a window. One is known by its text, which is its accessible name, the one that shows
+// first; null when there is none of it.
 [[nodiscard]] std::vector<HWND> controls_in(HWND window);
 [[nodiscard]] HWND control_in(HWND window, std::string_view text);
 [[nodiscard]] HWND control_of_class(HWND window, const wchar_t* window_class);

@@ -19,7 +19,7 @@ add_custom_command(OUTPUT ${QUILLVANE_PICTURES_STAMP}
 set(picture_list "// Made from the names in data/pictures.\n1 ICON \"quillvane.ico\"\n")
 foreach(source ${picture_sources})
   get_filename_component(name ${source} NAME_WE)
-  if(name MATCHES "^category-|^title-|^language-")
+  if(name MATCHES "^category-|^title-|^language-|^row-")
     set(sizes 16 24 32)
   elseif(name MATCHES "^toolbar-")
     set(sizes 24 36 48)

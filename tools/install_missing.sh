@@ -52,7 +52,10 @@ install_missing() {
   return 1
 }
 
-program_packages=(g++ cmake ninja-build ccache libcli11-dev nlohmann-json3-dev libsqlite3-dev)
+program_packages=(
+  g++ cmake ninja-build ccache libcli11-dev nlohmann-json3-dev libsqlite3-dev
+  libfreetype-dev libpng-dev fonts-dejavu-core        # pictures of the controls
+)
 test_packages=(
   libgtest-dev libgmock-dev googletest                # tests
   clang clang-format clang-tidy libclang-rt-14-dev    # format, mistakes, fuzz targets

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/make_machine_host.h"
+#include "app/picture_tools.h"
 #include "app/standard_output.h"
 #include "app/terminal.h"
 #include "view/console/console.h"
@@ -34,7 +35,8 @@ int main(int argc, char** argv) {
                           .in_is_terminal = quillvane::input_is_terminal(),
                           .out_is_terminal = quillvane::output_is_terminal(),
                           .await_line = await_line,
-                          .reader_gone = [&] { return output.reader_gone(); }};
+                          .reader_gone = [&] { return output.reader_gone(); },
+                          .pictures = &quillvane::picture_tools()};
   const auto host = quillvane::make_machine_host();
   return quillvane::run_console(std::vector<std::string>(argv + 1, argv + argc), io, *host);
 }

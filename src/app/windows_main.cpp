@@ -17,5 +17,6 @@ int main(int argc, char** argv) {
   quillvane::Win32Dialogs dialogs;
   quillvane::Win32Loop loop;
   quillvane::Program program(machine.platform(dialogs, loop));
-  return quillvane::run_program(program, loop, command_line) ? 0 : 1;
+  quillvane::run_program(program, loop, command_line);
+  return 0;
 }

@@ -3,6 +3,7 @@
 
 #include "core/form7.h"
 #include "platform/unicode_case.h"
+#include "shortcuts/form3.h"
 #include "support/text.h"
 
 namespace quillvane {
@@ -59,16 +60,28 @@ void Form7::initialize(std::string_view command_line) {
       session.known_second_half = halves.size() == 1 || session.cleanmode != 0;
     }
   }
-  if (session.cmdline == "g") {
-    session.silentmode = 2;
-    session.shown_at_start = false;
-    session.HiddenRun = 1;
+  if (session.cmdline == "g") run_shortcuts_unseen();
+  if (session.cmdline == "s") show_shortcuts_alone();
+}
+
+// The whole run takes place in here.
+void Form7::run_shortcuts_unseen() {
+  session.shown_at_start = false;
+  if (load_shortcuts) {
+    Form3& shortcuts = load_shortcuts();
+    shortcuts.Text6.set_text("");
+    shortcuts.Text6.set_text("1");
+    shortcuts.hide();
   }
-  if (session.cmdline == "s") {
-    session.CommandLineGiven = true;
-    session.shown_at_start = false;
-    session.HiddenRun = 1;
-  }
+  session.silentmode = 2;
+  session.HiddenRun = 1;
+}
+
+void Form7::show_shortcuts_alone() {
+  session.CommandLineGiven = true;
+  session.shown_at_start = false;
+  session.HiddenRun = 1;
+  open_shortcuts();
 }
 
 }  // namespace quillvane

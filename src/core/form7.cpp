@@ -6,12 +6,12 @@
 #include "dialogs/custom_dialog.h"
 #include "dialogs/ignore_dialog.h"
 #include "dialogs/type_dialog.h"
+#include "shortcuts/form3.h"
 
 namespace quillvane {
 
 namespace {
 
-constexpr int kAboutPage = 7;
 constexpr int kTypesStep = 1;  // wizardstep of the page of the file types
 constexpr int kListsStep = 2;  // wizardstep of the page of the lists
 
@@ -58,7 +58,8 @@ void Form7::connect_pages() {
   turn_over_languages = [this] { turn_over(); };
   on_ignore_list = [this] { open_ignore_list(); };
   on_custom_list = [this] { open_custom_list(); };
-  on_about = [this] { open_about(); };
+  on_about = [this] { show_about(session, windows); };
+  on_shortcuts = [this] { open_shortcuts(); };
 }
 
 void Form7::open_types_page() {
@@ -137,12 +138,11 @@ void Form7::open_type(int row) {
   windows.show(dialog);
 }
 
-void Form7::open_about() {
-  session.page_value = kAboutPage;
-  if (windows.find("frmabout") != nullptr) return;
-  frmabout about(session);
-  about.load();
-  windows.show(about);
+void Form7::open_shortcuts() {
+  if (!load_shortcuts) return;
+  Form3& shortcuts = load_shortcuts();
+  shortcuts.show();
+  shortcuts.activate();
 }
 
 void Form7::resized() {

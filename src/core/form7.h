@@ -5,6 +5,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -15,16 +16,13 @@
 #include "drivesearch/search_run.h"
 #include "drivesearch/type_page.h"
 #include "forms/modal_windows.h"
+#include "forms/shadow.h"
 #include "forms/timer.h"
 #include "lang/language_panel.h"
 
 namespace quillvane {
 
-// The window's shadow; a depth of 0 is none.
-struct Shadow {
-  Color color = 0;
-  int depth = 0;
-};
+class Form3;
 
 class Form7 final : public Window,
                     public JunkScan,
@@ -45,6 +43,8 @@ class Form7 final : public Window,
   void close() override;                           // saves the ticked drives, ends the program
 
   ModalWindows& windows;  // the small windows that are open
+  // Answers the shortcut window, which is made and loaded at the first call; the program sets it.
+  std::function<Form3&()> load_shortcuts;
 
   Field<int> fontcharset{*this, "fontcharset"};  // character set of the system's code page
   Field<std::string> systempaccess{*this, "systempaccess"};  // option of the suite, read and kept
@@ -63,6 +63,10 @@ class Form7 final : public Window,
   void resized() override;
 
  private:
+  // command_line.cpp
+  void run_shortcuts_unseen();
+  void show_shortcuts_alone();
+
   // form7.cpp
   void connect_pages();
   void open_types_page();
@@ -73,7 +77,7 @@ class Form7 final : public Window,
   void tell_ignore_list_problem() const;
   void open_ignore_list();
   void open_custom_list();
-  void open_about();
+  void open_shortcuts();
   void open_type(int row);  // of View101; 0: a new one
 
   // start_up.cpp

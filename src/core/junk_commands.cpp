@@ -58,6 +58,7 @@ void JunkCommands::connect_buttons() {
   cmd_non.on_click = [this] { junk_.show_everything(false); };
   orvbutton2.on_click = [this] { clean_all(); };
   Command14.on_click = [this] { back_up(junk_); };
+  chameleonButton2.on_click = [this] { on_shortcuts(); };
   chameleonButton9.on_click = [this] { window.close(); };
   chameleonButton12.on_click = [this] { window.minimise(); };
   chameleonButton13.on_click = [this] { turn_over_languages(); };

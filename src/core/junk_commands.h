@@ -40,6 +40,7 @@ class JunkCommands : public virtual Page {
   std::function<void()> on_custom_list;       // the user's own entries
   std::function<void()> on_ignore_list;       // the ignore list
   std::function<void()> on_about;             // the about window
+  std::function<void()> on_shortcuts;         // the shortcut window
   std::function<void()> turn_over_languages;  // the language panel
   std::function<void()> to_drives;            // the page of the drives
   std::function<void()> to_types;             // the page of the file types

@@ -8,6 +8,12 @@
 
 namespace quillvane {
 
+namespace {
+
+constexpr int kAboutPage = 7;
+
+}  // namespace
+
 frmabout::frmabout(Session& session) : ModalWindow("frmabout"), session_(session) {
   set_caption("About");
 
@@ -25,6 +31,14 @@ void frmabout::load() {
 // The start simply fails when there is nothing of that name.
 void frmabout::open(const std::string& what) {
   session_.platform.shell.open({"open", what, {}, kShowNormal});
+}
+
+void show_about(Session& session, ModalWindows& windows) {
+  session.page_value = kAboutPage;
+  if (windows.find("frmabout") != nullptr) return;
+  frmabout about(session);
+  about.load();
+  windows.show(about);
 }
 
 }  // namespace quillvane

@@ -3,6 +3,7 @@
 
 #include "forms/buttons.h"
 #include "forms/modal_window.h"
+#include "forms/modal_windows.h"
 #include "support/program_name.h"
 #include "support/session.h"
 
@@ -31,5 +32,9 @@ class frmabout final : public ModalWindow {
 
   Session& session_;
 };
+
+// Opens the about window before the others and waits until it is closed; nothing happens while it
+// is open already.
+void show_about(Session& session, ModalWindows& windows);
 
 }  // namespace quillvane

@@ -50,7 +50,7 @@ void Form2::write_list() {
   for (int row = 1; row <= view1.count(); ++row) {
     lines.push_back(line_of(custom_entry_at(view1, row)));
   }
-  write_list_file(session_.platform, session_.data_file(kCustomFile), lines);
+  static_cast<void>(write_list_file(session_.platform, session_.data_file(kCustomFile), lines));
 }
 
 void tell_custom_list_problem(const Session& session, const std::string& problem) {

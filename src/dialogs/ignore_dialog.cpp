@@ -53,7 +53,7 @@ void Form1::save() {
   std::vector<std::string> lines;
   for (int row = 1; row <= view1.count(); ++row) lines.push_back(view1.text(row));
   // When it cannot be written, the main window reads the old list again.
-  write_list_file(session_.platform, session_.data_file(kIgnoreFile), lines);
+  static_cast<void>(write_list_file(session_.platform, session_.data_file(kIgnoreFile), lines));
   mail_box_.set_text("i");
   unload();
 }

@@ -37,7 +37,7 @@ TEST(Searchcustom, EachLineIsANodeWithItsOwnCount) {
   EXPECT_EQ(text_of(form, kFirst), "Logs ( 2 files, 2 KB )");
   EXPECT_EQ(text_of(form, kFirst + 1), "Old ( 1 files, 1000 B )");
   EXPECT_EQ(text_of(form, kCustomNode), "Custom Files and Folders ( 3 files, 2.9 KB )");
-  EXPECT_EQ(form.Tv1.node(kFirst).color, kDarkRed);
+  EXPECT_EQ(form.Tv1.node(kFirst).fore_color, kDarkRed);
   EXPECT_EQ(form.totals.custfiles, 3);
   EXPECT_EQ(form.totals.custsize, 3000);
   EXPECT_EQ(form.totals.totalfiles, 3);
@@ -69,7 +69,7 @@ TEST(Searchcustom, AnEntryWithoutAHitIsBlack) {
   Entries fixture({"Logs|C:\\L|*.log||0"}, {});
   const Form7& form = fixture.scanned();
   EXPECT_EQ(text_of(form, kFirst), "Logs ( 0 files, 0 B )");
-  EXPECT_EQ(form.Tv1.node(kFirst).color, 0U);
+  EXPECT_EQ(form.Tv1.node(kFirst).fore_color, 0U);
 }
 
 TEST(Searchcustom, ALineWithTooFewFieldsGoesOnWithEmptyOnes) {

@@ -12,7 +12,7 @@ namespace quillvane {
 
 namespace {
 
-constexpr std::array<std::size_t, 3> kWidths = {150, 250, 1};  // name, description, flag
+constexpr std::array<std::size_t, 3> kWidths = {kPlaceBytes, kPlaceDescriptionBytes, 1};
 
 FolderList list_of(RecordFile file) {
   FolderList list{{}, std::move(file.problem)};

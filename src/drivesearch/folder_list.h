@@ -2,6 +2,7 @@
 // entry: what is left out (exfolder.orv) and the folders that are junk whole (incfolder.orv).
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,11 +17,14 @@ inline constexpr std::string_view kIncludeFile = "incfolder.orv";
 inline constexpr std::string_view kFolderFlag = "9";  // of a folder in the exclude list
 inline constexpr std::string_view kFileFlag = "1";  // of a file there, and of all included folders
 
+inline constexpr std::size_t kPlaceBytes = 150;  // what a list keeps of each field
+inline constexpr std::size_t kPlaceDescriptionBytes = 250;
+
 // One entry of either list. Fields are without the blanks around them.
 struct ListedPlace {
-  std::string name;         // a folder's path, or a file's bare name; at most 150 bytes are kept
-  std::string description;  // at most 250 bytes
-  std::string flag;         // one digit
+  std::string name;  // a folder's path, or a file's bare name
+  std::string description;
+  std::string flag;  // one digit
 
   [[nodiscard]] bool is_folder() const;  // in the exclude list: its flag's number is 9
   [[nodiscard]] bool is_file() const;    // its flag's number is 1

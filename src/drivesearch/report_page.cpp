@@ -22,8 +22,10 @@ DateTime now(const Platform& platform) {
   return calendar_date(platform.loop.local_now()).value_or(DateTime{});
 }
 
+}  // namespace
+
 // The size is that of the category scan, also after a drive search. Meant so.
-std::string text_report(const JunkPage& junk) {
+std::string ReportPage::text_report(const JunkPage& junk) {
   const DateTime time = now(junk.platform());
   std::string report = "Report Time " + date_text(time, "dd,mm,yyyy") + "   " +
                        time_text(time, "hh:mm:ss") + kLineEnd;
@@ -43,15 +45,15 @@ std::string text_report(const JunkPage& junk) {
 
 // A row's link is its path as it stands, without quotes, and its heading is closed by "<h/5>"; a
 // "</font>" that nothing opened closes the list; the time begins with its seconds. All meant so.
-std::string html_report(const ReportPage& page, const JunkPage& junk) {
+std::string ReportPage::html_report(const JunkPage& junk) const {
   const DateTime time = now(junk.platform());
   std::string report = std::string("<body>") + kLineEnd;
-  report += "<h4><font face = verdana > Report For Drive  " + std::string(Trim(page.Text1.text())) +
+  report += "<h4><font face = verdana > Report For Drive  " + std::string(Trim(Text1.text())) +
             "  At        " + date_text(time, " dd /mm/yyyy ") + "             " +
             time_text(time, " ss: mm: hh ") + "</font></h4>" + kLineEnd;
   report += std::string("<br>") + kLineEnd;
   report += "<h4>Total files found = " + std::to_string(junk.view1.count()) +
-            " Total files size = " + page.foundsizetext + "</h4>" + kLineEnd;
+            " Total files size = " + foundsizetext + "</h4>" + kLineEnd;
   report += "<h5>" + rule(59) + "</h5>" + kLineEnd;
   for (int row = 1; row <= junk.view1.count(); ++row) {
     const std::string path(Trim(junk.view1.text(row)));
@@ -63,8 +65,6 @@ std::string html_report(const ReportPage& page, const JunkPage& junk) {
   report += "<h5>" + addresses() + "</h5>" + kLineEnd;
   return report;
 }
-
-}  // namespace
 
 void ReportPage::write_text_report(const JunkPage& junk) {
   if (junk.view1.count() == 0) return;
@@ -80,7 +80,7 @@ void ReportPage::write_text_report(const JunkPage& junk) {
 
 void ReportPage::write_html_report(const JunkPage& junk) {
   if (Trim(Text5.text()).empty()) return;
-  static_cast<void>(write_text_file(platform(), Text5.text(), html_report(*this, junk)));
+  static_cast<void>(write_text_file(platform(), Text5.text(), html_report(junk)));
 }
 
 }  // namespace quillvane

@@ -19,6 +19,10 @@ class ReportPage : public virtual Page {
   // Writes into the file that the text report named.
   void write_html_report(const JunkPage& junk);
 
+  // What they write, in UTF-8.
+  [[nodiscard]] static std::string text_report(const JunkPage& junk);
+  [[nodiscard]] std::string html_report(const JunkPage& junk) const;
+
   TextBox Text1{window, "Text1", kHidden};  // what the HTML report names behind "Report For Drive"
   TextBox Text5{window, "Text5", kHidden};  // name of the report's file
   Button orvbutton3{window, "orvbutton3", kHidden};  // holds the text report

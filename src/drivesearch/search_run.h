@@ -55,6 +55,10 @@ class SearchRun : public virtual Page {
   // Enables or disables the removal of what was found; whoever puts the window together sets it.
   std::function<void(bool enabled)> enable_removal;
 
+  // Patterns joined by "|" that the console's user names; the runs take these instead of the file
+  // types that are on. Empty: the file types.
+  std::string types_instead;
+
   clsdirsearch search{session};
 
   // --- The way through the pages.

@@ -12,7 +12,7 @@ namespace quillvane {
 
 namespace {
 
-constexpr std::array<std::size_t, 3> kWidths = {50, 50, 1};  // description, extension, flag
+constexpr std::array<std::size_t, 3> kWidths = {kTypeBytes, kTypeBytes, 1};
 
 constexpr std::string_view kFactoryFile = "tmptype.orv";
 constexpr std::string_view kAllFiles = "file with zero size";

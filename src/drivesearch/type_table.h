@@ -4,6 +4,7 @@
 // that the program comes with is tmptype.orv, of the same form.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,6 +14,8 @@
 namespace quillvane {
 
 inline constexpr std::string_view kTypeFile = "tmptype.txt";
+
+inline constexpr std::size_t kTypeBytes = 50;  // what the table keeps of description and pattern
 
 // One row of the table. Fields are without the blanks around them.
 struct FileTypeEntry {

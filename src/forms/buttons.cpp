@@ -59,6 +59,12 @@ void OptionButton::choose() {
   if (on_click) on_click();
 }
 
+void OptionButton::clear() {
+  if (!chosen_) return;
+  chosen_ = false;
+  notify(Change::kValue);
+}
+
 void OptionButton::click() {
   if (enabled()) choose();
 }

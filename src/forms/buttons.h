@@ -91,6 +91,8 @@ class OptionButton : public Clickable {
   [[nodiscard]] bool chosen() const { return chosen_; }
   // Chooses it, takes the choice from the others of its group, and runs on_click.
   void choose();
+  // Takes the choice from it; then none of its group is chosen. Runs nothing.
+  void clear();
   void click() override;
   // The options among which one is chosen; the same list for all of them.
   void set_group(std::vector<OptionButton*> group) { group_ = std::move(group); }

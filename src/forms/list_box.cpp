@@ -13,6 +13,11 @@ void ListBox::add(std::string_view text) {
   changed();
 }
 
+void ListBox::remove_first(int count) {
+  items_.erase(items_.begin(), items_.begin() + count);
+  notify(Change::kItems);
+}
+
 void ListBox::remove(int index) {
   if (index < 0 || index >= count()) return;
   items_.erase(items_.begin() + index);

@@ -21,6 +21,8 @@ class ListBox : public Control {
   // Raised by each change, so that callers can keep what they made of the items.
   [[nodiscard]] std::uint64_t version() const { return version_; }
   void add(std::string_view text);
+  // Those behind them move up. Requires: there are so many.
+  void remove_first(int count);
   // Does nothing when there is no such item.
   void remove(int index);
   void clear();

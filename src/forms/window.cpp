@@ -38,6 +38,10 @@ void Window::add_field(std::string_view name, std::function<PropertyValue()> rea
   fields_[lower_case(name)] = std::move(read);
 }
 
+void Window::add_second_name(std::string_view name, Control& control) {
+  by_name_[lower_case(name)] = &control;
+}
+
 void Window::add_control(Control& control) {
   controls_.push_back(&control);
   by_name_[lower_case(control.name())] = &control;

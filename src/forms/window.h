@@ -54,6 +54,10 @@ class Window {
   // Makes a field readable by name.
   void add_field(std::string_view name, std::function<PropertyValue()> read);
 
+  // Lets a control be found by a second name: an array of controls without an index means one of
+  // them.
+  void add_second_name(std::string_view name, Control& control);
+
   // Called when visible, state or topmost change.
   std::function<void()> on_view_change;
 

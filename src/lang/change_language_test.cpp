@@ -10,6 +10,7 @@
 #include "dialogs/ignore_dialog.h"
 #include "dialogs/type_dialog.h"
 #include "lang/window_texts.h"
+#include "shortcuts/form3.h"
 #include "tests/support/scan_fixture.h"
 
 namespace quillvane {
@@ -97,6 +98,34 @@ TEST(ChangeLanguage, SetsTheTextsOfTheSmallWindowsWhenTheyOpen) {
   EXPECT_EQ(expect_all_texts(list), 8);
   EXPECT_EQ(expect_all_texts(entry), 12);
   EXPECT_EQ(expect_all_texts(about), 5);
+}
+
+TEST(ChangeLanguage, SetsEachTextOfTheShortcutWindow) {
+  Stage stage;
+  stage.choose("xx", "204");
+  stage.add_full_file("xx");
+  stage.start();
+  Form3& form = stage.program->load_shortcut_window();
+
+  EXPECT_EQ(expect_all_texts(form), 31);
+  EXPECT_EQ(form.cmd_where.font(), (Font{"Segoe UI", 9, 204}));
+}
+
+TEST(ChangeLanguage, TheShortcutWindowOffersTheLanguagesOfItsOwnCatalogueEntry) {
+  Stage stage;
+  stage.add_full_file("oo");
+  stage.add_program_file("lang\\data.lang",
+                         "[lang]\r\nfernwick=A,0,aa\r\nTidewrack=B,0,bb|O,0,oo\r\n");
+  stage.start();
+  Form3& form = stage.program->load_shortcut_window();
+  EXPECT_EQ(form.language_count(), 2);
+
+  form.chameleonButton13.click();
+  EXPECT_TRUE(form.pictrlang.visible());
+  form.language(1)->click();
+
+  EXPECT_FALSE(form.pictrlang.visible());
+  EXPECT_EQ(form.cmd_fix.caption(), "<cmd_fix>");
 }
 
 TEST(ChangeLanguage, LeavesTreeStatusAndMessagesEnglish) {

@@ -30,6 +30,10 @@ class Shell {
   // none.
   [[nodiscard]] virtual std::string special_folder(int id) const = 0;
 
+  // Moves one file to the recycle bin without a question. False when it could not be moved: then it
+  // stays where it is.
+  virtual bool recycle(const std::string& path) = 0;
+
   // Empties the recycle bin of all drives without a question.
   virtual void empty_recycle_bin() = 0;
   virtual void update_recycle_bin_icon() = 0;

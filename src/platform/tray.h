@@ -10,10 +10,13 @@ class Tray {
  public:
   virtual ~Tray() = default;
 
-  // Shows the program's icon; `double_click` is called from the message loop.
-  virtual void add(const std::string& tip, std::function<void()> double_click) = 0;
-  virtual void modify(const std::string& tip) = 0;
-  virtual void remove() = 0;
+  // Shows the program's icon once more, for `owner`, which tells it from those of others. `mouse`
+  // is called from the message loop with what the mouse does to it, as Windows numbers it.
+  virtual void add(const void* owner, const std::string& tip,
+                   std::function<void(int message)> mouse) = 0;
+  // Nothing happens when `owner` has none.
+  virtual void modify(const void* owner, const std::string& tip) = 0;
+  virtual void remove(const void* owner) = 0;
 };
 
 }  // namespace quillvane

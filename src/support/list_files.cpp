@@ -36,11 +36,11 @@ std::string list_problem_message(const std::string& path, const std::string& pro
   return path + ": " + problem + ". " + std::string(what_follows);
 }
 
-void write_list_file(const Platform& platform, const std::string& path,
+bool write_list_file(const Platform& platform, const std::string& path,
                      const std::vector<std::string>& lines) {
   std::string text;
   for (const std::string& line : lines) text += line + kLineEnd;
-  static_cast<void>(write_text_file(platform, path, text));
+  return write_text_file(platform, path, text);
 }
 
 CustomEntry custom_entry_of(const std::string& line) {

@@ -29,9 +29,9 @@ struct ListLines {
 [[nodiscard]] std::string list_problem_message(const std::string& path, const std::string& problem,
                                                std::string_view what_follows);
 
-// Replaces the list by these lines. Without a word when it cannot be written.
-void write_list_file(const Platform& platform, const std::string& path,
-                     const std::vector<std::string>& lines);
+// Replaces the list by these lines; false when it cannot be written.
+[[nodiscard]] bool write_list_file(const Platform& platform, const std::string& path,
+                                   const std::vector<std::string>& lines);
 
 // One line of custom.tdw: its fields joined by "|", which nothing keeps out of a field.
 struct CustomEntry {

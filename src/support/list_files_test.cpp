@@ -90,11 +90,11 @@ TEST(ListFile, OneThatCannotBeReadIsAProblemAndIsNotTouched) {
 
 TEST(ListFile, IsReplacedInTheSystemsCodePage) {
   Stage stage("old\r\n");
-  write_list_file(stage.platform(), kPath, {"C:\\Gr\u00F6\u00DFe", "b"});
+  EXPECT_TRUE(write_list_file(stage.platform(), kPath, {"C:\\Gr\u00F6\u00DFe", "b"}));
   EXPECT_EQ(stage.file_text(kPath),
             "C:\\Gr\xF6\xDF"
             "e\r\nb\r\n");
-  write_list_file(stage.platform(), kPath, {});
+  EXPECT_TRUE(write_list_file(stage.platform(), kPath, {}));
   EXPECT_EQ(stage.file_text(kPath), "");
 }
 

@@ -21,6 +21,7 @@
 #include "dialogs/custom_entry_dialog.h"
 #include "dialogs/ignore_dialog.h"
 #include "dialogs/type_dialog.h"
+#include "shortcuts/form3.h"
 #include "tests/support/scan_fixture.h"
 
 namespace quillvane {
@@ -33,7 +34,8 @@ std::string text_of(const std::filesystem::path& path) {
   return {std::istreambuf_iterator<char>(file), {}};
 }
 
-// By the window that has them. What no header of a small window declares is the main window's.
+// By the window that has them. What no header of a small window declares is the main window's, or
+// the shortcut window's where it lies in that one's folder.
 std::map<std::string, std::vector<DeclaredName>> all_declared() {
   const std::map<std::string, std::string> small_windows = {{"ignore_dialog.h", "Form1"},
                                                             {"custom_dialog.h", "Form2"},
@@ -44,8 +46,14 @@ std::map<std::string, std::vector<DeclaredName>> all_declared() {
   for (const auto& entry : std::filesystem::recursive_directory_iterator(QUILLVANE_SOURCES)) {
     if (entry.path().extension() != ".h") continue;
     const auto window = small_windows.find(entry.path().filename());
-    auto& names = all[window == small_windows.end() ? "Form7" : window->second];
-    std::ranges::move(declared_names(text_of(entry.path())), std::back_inserter(names));
+    const bool of_shortcuts = entry.path().parent_path().filename() == "shortcuts";
+    const std::string other = of_shortcuts ? "Form3" : "Form7";
+    auto& names = all[window == small_windows.end() ? other : window->second];
+    auto declared = declared_names(text_of(entry.path()));
+    // The language panel is in both windows.
+    if (entry.path().parent_path().filename() == "lang")
+      std::ranges::copy(declared, std::back_inserter(all["Form3"]));
+    std::ranges::move(declared, std::back_inserter(names));
   }
   return all;
 }
@@ -86,9 +94,10 @@ TEST(DeclaredNames, AreTheControlsThatTheWindowsHave) {
   Form1 ignored(session, form.Text14);
   Form4 type(session, form.View101, form.Text12, form.view1);
   frmabout about(session);
+  const Form3& shortcuts = fixture.program->load_shortcut_window();
   const auto declared = all_declared();
-  for (const Window* window :
-       std::initializer_list<const Window*>{&form, &list, &type, &entry, &ignored, &about}) {
+  for (const Window* window : std::initializer_list<const Window*>{&form, &shortcuts, &list, &type,
+                                                                   &entry, &ignored, &about}) {
     Names controls;
     for (const Control* control : window->controls()) controls.insert(control->name());
     Names told;

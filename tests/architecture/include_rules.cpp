@@ -17,13 +17,13 @@ struct Row {
 
 constexpr Row kRows[] = {
     {"app",
-     "view/win32 view/console core forms machine support platform/folder platform/virtual "
-     "platform/win32 platform",
+     "view/win32 view/console core forms machine support platform/folder platform/pictures "
+     "platform/virtual platform/win32 platform",
      true},
     {"view/win32", "core scan forms controls support platform/win32 platform", true},
     {"view/console",
-     "core cleaning categories drivesearch scan lang forms controls support platform/virtual "
-     "platform",
+     "core shortcuts cleaning categories drivesearch scan lang forms controls support "
+     "platform/virtual platform",
      true},
     {"core",
      "shortcuts cleaning categories drivesearch dialogs scan lang controls forms support platform"},
@@ -40,6 +40,7 @@ constexpr Row kRows[] = {
     {"machine", "platform/folder support platform"},
     {"platform/folder/win32", "platform/folder platform/win32 support platform", true},
     {"platform/folder", "platform/virtual support platform", true},
+    {"platform/pictures", "platform", true},
     {"platform/win32", "support platform", true},
     {"platform/virtual", "platform"},
     {"support", "platform"},

@@ -38,6 +38,9 @@ class ContractMachine {
   // Whether a listing applies the patterns to the last detail as Windows does.
   [[nodiscard]] virtual bool lists_like_windows() const = 0;
 
+  // Whether the show command of a link file is told as it stands in the file.
+  [[nodiscard]] virtual bool reads_show_commands() const = 0;
+
   // Files and folders, by their path; a file of `bytes` bytes takes no room on the disk.
   virtual void add_file(const std::string& path, std::string_view content) = 0;
   virtual void add_big_file(const std::string& path, std::uint64_t bytes) = 0;

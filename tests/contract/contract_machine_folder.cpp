@@ -21,6 +21,7 @@ class FolderContractMachine final : public ContractMachine {
     return constant_attributes_of_host();
   }
   [[nodiscard]] bool lists_like_windows() const override { return true; }
+  [[nodiscard]] bool reads_show_commands() const override { return true; }
 
   void add_file(const std::string& path, std::string_view content) override {
     machine_.add_text_file(path, content);

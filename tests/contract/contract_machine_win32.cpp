@@ -58,6 +58,8 @@ class Win32ContractMachine final : public ContractMachine {
     return is_wine() ? kAttributeArchive : 0;  // Wine does not keep this one for a file
   }
   [[nodiscard]] bool lists_like_windows() const override { return !is_wine(); }
+  // Wine writes it, and does not read it.
+  [[nodiscard]] bool reads_show_commands() const override { return !is_wine(); }
 
   void add_file(const std::string& path, std::string_view content) override {
     const FileHandle file = make_file(path);

@@ -9,7 +9,13 @@
 //   #:left PATH | TEXT       one more line of what a text file must hold when the script has ended
 //   #:line1252, #:left1252   the same in code page 1252
 //   #:shipped                the files that ship with the program, beside it
-//   #:text PATH | TEXT       the whole of a text file; <CR> and <LF> are those characters
+//   #:record PATH | F | F    one more record of a file; a field is its width and its text: "50
+//   *.tmp"
+//   #:leftrecord PATH | ...  one more record that such a file must hold when the script has ended
+//   #:leftempty PATH         a file that must be there without a byte
+//   #:text PATH | TEXT       the whole of a text file
+//   #:link PATH | TARGET     a shell link, made behind all files
+// In texts but those of code page 1252 <CR> is that character, in #:text <LF> too.
 // What it must print stands in NAME.expected. A script that ends early has NAME.problem with what
 // is told on standard error.
 
@@ -27,9 +33,11 @@
 
 #include "app/make_machine_host.h"
 #include "machine/data_files.h"
+#include "platform/folder/folder_machine.h"
 #include "platform/folder/host_code_page.h"
 #include "platform/folder/machine_json.h"
 #include "platform/folder/machine_staging.h"
+#include "platform/virtual/queued_dialogs.h"
 #include "support/text.h"
 #include "tests/script/expected_output.h"
 #include "tests/support/temp_folder.h"
@@ -67,6 +75,7 @@ class StagedMachine {
       if (line.starts_with("#:")) stage(line.substr(2));
     }
     for (const auto& [path, text] : texts_) put(path, {.text = text, .bytes = 0, .time = {}});
+    make_links();
   }
 
   // Runs the console program; `out` and `err` hold what it wrote.
@@ -119,10 +128,25 @@ class StagedMachine {
       }
     } else if (what == "machine") {
       folder_.write("machine/machine.json", rest);
+    } else if (what == "leftempty") {
+      shall_be_left_[rest] = "";
     } else if (what == "folder") {
       EXPECT_FALSE(stage_folder(state(), rest)) << rest;
     } else {
       FAIL() << "a remark that stages nothing: " << remark;
+    }
+  }
+
+  void make_links() {
+    if (links_.empty()) return;
+    auto opened = FolderMachine::open(dir());
+    ASSERT_TRUE(std::holds_alternative<std::unique_ptr<FolderMachine>>(opened));
+    FolderMachine& machine = *std::get<std::unique_ptr<FolderMachine>>(opened);
+    QueuedDialogs dialogs(machine.effects());
+    const Platform platform = machine.platform(dialogs);
+    for (const auto& [path, target] : links_) {
+      EXPECT_FALSE(stage_folder(state(), path.substr(0, path.rfind('\\')))) << path;
+      EXPECT_TRUE(platform.links.write_link(path, {.target = target})) << path;
     }
   }
 
@@ -131,15 +155,29 @@ class StagedMachine {
       texts_[path] = replace_all(replace_all(text, "<CR>", "\r"), "<LF>", "\n");
       return;
     }
+    if (what == "link") {
+      links_[path] = text;
+      return;
+    }
     Texts& texts = what.starts_with("left") ? shall_be_left_ : texts_;
-    if (what == "line1252" || what == "left1252") {
+    if (what.ends_with("record")) {
+      for (const std::string& field : Split(text, " | ")) texts[path] += record_field(field);
+    } else if (what == "line1252" || what == "left1252") {
       const auto bytes = host_code_page(1252)->encode(text);
       ASSERT_TRUE(bytes) << text;
       texts[path] += *bytes + "\r\n";
     } else {
       EXPECT_TRUE(what == "line" || what == "left") << what;
-      texts[path] += text + "\r\n";
+      texts[path] += replace_all(text, "<CR>", "\r") + "\r\n";
     }
+  }
+
+  // "50 *.tmp": that text, filled up with blanks.
+  static std::string record_field(const std::string& field) {
+    const auto blank = std::min(field.find(' '), field.size());
+    std::string text = field.substr(std::min(blank + 1, field.size()));
+    text.resize(std::stoul(field), ' ');
+    return text;
   }
 
   void put(const std::string& path, const StagedContent& content) {
@@ -156,6 +194,7 @@ class StagedMachine {
   TempFolder folder_;
   std::unique_ptr<MachineHost> host_ = make_machine_host();
   Texts texts_;
+  Texts links_;  // targets
   Texts shall_be_left_;
 };
 

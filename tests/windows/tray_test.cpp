@@ -21,35 +21,43 @@ HWND tray_window() { return FindWindowW(kTrayWindowClass, nullptr); }
 // What Windows tells it of the mouse.
 void tell_mouse(LPARAM mouse) { SendMessageW(tray_window(), kTrayMessage, 1, mouse); }
 
-TEST(Tray, ADoubleClickOfEitherButtonCalls) {
-  int calls = 0;
-  Win32Tray tray;
-  tray.add("Cleaner", [&calls] { ++calls; });
-  ASSERT_NE(tray_window(), nullptr);
-  tell_mouse(WM_LBUTTONDBLCLK);
-  EXPECT_EQ(calls, 1);
-  tell_mouse(WM_RBUTTONDBLCLK);
-  EXPECT_EQ(calls, 2);
-}
+// Whose icon it is.
+constexpr int kOwner = 0;
+void pass_over(int /*message*/) {}
 
-TEST(Tray, OtherMovesOfTheMouseDoNothing) {
-  int calls = 0;
+TEST(Tray, TellsWhatTheMouseDoesByItsNumber) {
+  std::vector<int> told;
   Win32Tray tray;
-  tray.add("Cleaner", [&calls] { ++calls; });
-  for (const LPARAM mouse : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDOWN,
-                             WM_RBUTTONUP, WM_MBUTTONDBLCLK}) {
+  tray.add(&kOwner, "Cleaner", [&told](int message) { told.push_back(message); });
+  ASSERT_NE(tray_window(), nullptr);
+  for (const LPARAM mouse : {WM_MOUSEMOVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_RBUTTONDBLCLK}) {
     tell_mouse(mouse);
   }
-  EXPECT_EQ(calls, 0);
+  EXPECT_EQ(told, (std::vector<int>{512, 513, 514, 518}));
+}
+
+TEST(Tray, TellsTheOwnerOfTheIconThatWasMeant) {
+  constexpr int kOther = 0;
+  std::vector<std::string> told;
+  Win32Tray tray;
+  tray.add(&kOwner, "Cleaner", [&told](int) { told.emplace_back("first"); });
+  tray.add(&kOther, "Shortcuts", [&told](int) { told.emplace_back("second"); });
+  SendMessageW(tray_window(), kTrayMessage, 2, WM_LBUTTONUP);
+  SendMessageW(tray_window(), kTrayMessage, 1, WM_LBUTTONUP);
+  tray.remove(&kOwner);
+  SendMessageW(tray_window(), kTrayMessage, 1, WM_LBUTTONUP);
+  SendMessageW(tray_window(), kTrayMessage, 2, WM_LBUTTONUP);
+  EXPECT_EQ(told, (std::vector<std::string>{"second", "first", "second"}));
 }
 
 TEST(Tray, TheCallMayTakeTheIconAway) {
   std::vector<std::string> calls;
   Win32Tray tray;
-  tray.add("Cleaner", [&tray, &calls, name = std::string("a name of its own, kept by the call")] {
-    tray.remove();
-    calls.push_back(name);
-  });
+  tray.add(&kOwner, "Cleaner",
+           [&tray, &calls, name = std::string("a name of its own, kept by the call")](int) {
+             tray.remove(&kOwner);
+             calls.push_back(name);
+           });
   tell_mouse(WM_LBUTTONDBLCLK);
   tell_mouse(WM_LBUTTONDBLCLK);
   EXPECT_EQ(calls, std::vector<std::string>{"a name of its own, kept by the call"});
@@ -57,7 +65,7 @@ TEST(Tray, TheCallMayTakeTheIconAway) {
 
 TEST(Tray, ItsWindowIsNeverSeenAndHasNoTitle) {
   Win32Tray tray;
-  tray.add("Cleaner", [] {});
+  tray.add(&kOwner, "Cleaner", pass_over);
   ASSERT_NE(tray_window(), nullptr);
   EXPECT_FALSE(IsWindowVisible(tray_window()));
   EXPECT_EQ(GetWindowTextLengthW(tray_window()), 0);
@@ -66,7 +74,7 @@ TEST(Tray, ItsWindowIsNeverSeenAndHasNoTitle) {
 TEST(Tray, ItsWindowGoesWithIt) {
   {
     Win32Tray tray;
-    tray.add("Cleaner", [] {});
+    tray.add(&kOwner, "Cleaner", pass_over);
     EXPECT_NE(tray_window(), nullptr);
   }
   EXPECT_EQ(tray_window(), nullptr);
@@ -114,16 +122,16 @@ TEST(TrayIcon, TheTaskbarIsAskedToAddChangeAndRemoveIt) {
   if (!is_wine()) GTEST_SKIP() << "the taskbar of a real PC shows its icons to nobody";
   WineTaskbar taskbar;
   Win32Tray tray;
-  tray.modify("not there yet");
-  tray.remove();
+  tray.modify(&kOwner, "not there yet");
+  tray.remove(&kOwner);
   EXPECT_EQ(taskbar.take_requests(), Requests{});
-  tray.add("Cleaner", [] {});
+  tray.add(&kOwner, "Cleaner", pass_over);
   EXPECT_EQ(taskbar.take_requests(), Requests{NIM_ADD});
-  tray.modify("Cleaner at work");
+  tray.modify(&kOwner, "Cleaner at work");
   EXPECT_EQ(taskbar.take_requests(), Requests{NIM_MODIFY});
-  tray.remove();
+  tray.remove(&kOwner);
   EXPECT_EQ(taskbar.take_requests(), Requests{NIM_DELETE});
-  tray.remove();
+  tray.remove(&kOwner);
   EXPECT_EQ(taskbar.take_requests(), Requests{});
 }
 
@@ -132,10 +140,10 @@ TEST(TrayIcon, ItComesBackWithTheTaskbar) {
   WineTaskbar taskbar;
   Win32Tray tray;
   const UINT created = RegisterWindowMessageW(L"TaskbarCreated");
-  tray.add("Cleaner", [] {});
+  tray.add(&kOwner, "Cleaner", pass_over);
   SendMessageW(tray_window(), created, 0, 0);
   EXPECT_EQ(taskbar.take_requests(), (Requests{NIM_ADD, NIM_ADD}));
-  tray.remove();
+  tray.remove(&kOwner);
   SendMessageW(tray_window(), created, 0, 0);
   EXPECT_EQ(taskbar.take_requests(), Requests{NIM_DELETE});
 }
@@ -143,7 +151,7 @@ TEST(TrayIcon, ItComesBackWithTheTaskbar) {
 TEST(TrayIcon, ItGoesWithTheTray) {
   if (!is_wine()) GTEST_SKIP() << "the taskbar of a real PC shows its icons to nobody";
   WineTaskbar taskbar;
-  Win32Tray().add("Cleaner", [] {});
+  Win32Tray().add(&kOwner, "Cleaner", pass_over);
   EXPECT_EQ(taskbar.take_requests(), (Requests{NIM_ADD, NIM_DELETE}));
 }
 

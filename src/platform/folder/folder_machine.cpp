@@ -49,7 +49,7 @@ bool holds_machine(const std::string& dir) {
 
 struct FolderMachine::Parts {
   Parts(const std::string& dir, MachineState& state, EffectLog& effects, MachineFiles& files,
-        const std::function<void()>& save)
+        const MessageLoop& loop, const std::function<void()>& save)
       : drives(state),
         environment(state),
         system(state),
@@ -59,7 +59,7 @@ struct FolderMachine::Parts {
         links(state, files, environment),
         url_cache(state, save),
         security(effects),
-        shell(state, effects, files, [&state, &files] { empty_recycle_bins(state, files); }),
+        shell(state, effects, files, loop, [&state, &files] { empty_recycle_bins(state, files); }),
         suite(state, effects),
         tray(effects) {}
 
@@ -103,7 +103,7 @@ FolderMachine::FolderMachine(std::string dir, MachineState state)
       state_(std::move(state)),
       loop_(machine_clock(std::chrono::system_clock::now(), state_.utc_offset_minutes)),
       files_(make_machine_files(state_)),
-      parts_(std::make_unique<Parts>(dir_, state_, effects_, *files_, [this] { save(); })) {}
+      parts_(std::make_unique<Parts>(dir_, state_, effects_, *files_, loop_, [this] { save(); })) {}
 
 FolderMachine::~FolderMachine() = default;
 

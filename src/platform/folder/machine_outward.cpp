@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/folder/recycle_bin.h"
 #include "platform/unicode_case.h"
 
 namespace quillvane {
@@ -55,9 +56,13 @@ void MachineSecurity::set_file_access(const std::string& /*account*/, const std:
   effects_.add("file-access", {{"path", path}});
 }
 
-MachineShell::MachineShell(const MachineState& state, EffectLog& effects, const FileSystem& files,
-                           std::function<void()> empty_bin)
-    : state_(state), effects_(effects), files_(files), empty_bin_(std::move(empty_bin)) {}
+MachineShell::MachineShell(const MachineState& state, EffectLog& effects, FileSystem& files,
+                           const MessageLoop& loop, std::function<void()> empty_bin)
+    : state_(state),
+      effects_(effects),
+      files_(files),
+      loop_(loop),
+      empty_bin_(std::move(empty_bin)) {}
 
 int MachineShell::open(const ShellRequest& request) {
   effects_.add(
@@ -82,6 +87,10 @@ std::string MachineShell::special_folder(int id) const {
   return {};
 }
 
+bool MachineShell::recycle(const std::string& path) {
+  return move_to_recycle_bin(files_, path, loop_.local_now());
+}
+
 void MachineShell::empty_recycle_bin() {
   effects_.add("empty-recycle-bin");
   empty_bin_();
@@ -103,12 +112,15 @@ bool MachineSuiteChannel::notify(const std::string& title, std::size_t length) {
   return found;
 }
 
-void MachineTray::add(const std::string& /*tip*/, std::function<void()> /*double_click*/) {
+void MachineTray::add(const void* /*owner*/, const std::string& /*tip*/,
+                      std::function<void(int message)> /*mouse*/) {
   effects_.add("tray-add");
 }
 
-void MachineTray::modify(const std::string& tip) { effects_.add("tray-modify", {{"tip", tip}}); }
+void MachineTray::modify(const void* /*owner*/, const std::string& tip) {
+  effects_.add("tray-modify", {{"tip", tip}});
+}
 
-void MachineTray::remove() { effects_.add("tray-remove"); }
+void MachineTray::remove(const void* /*owner*/) { effects_.add("tray-remove"); }
 
 }  // namespace quillvane

@@ -6,6 +6,7 @@
 
 #include "platform/file_system.h"
 #include "platform/folder/machine_state.h"
+#include "platform/message_loop.h"
 #include "platform/security.h"
 #include "platform/shell.h"
 #include "platform/suite_channel.h"
@@ -30,13 +31,14 @@ class MachineSecurity final : public Security {
 class MachineShell final : public Shell {
  public:
   // `empty_bin` removes what lies in the recycle bin of every drive.
-  MachineShell(const MachineState& state, EffectLog& effects, const FileSystem& files,
-               std::function<void()> empty_bin);
+  MachineShell(const MachineState& state, EffectLog& effects, FileSystem& files,
+               const MessageLoop& loop, std::function<void()> empty_bin);
 
   // Nothing is started; what is there counts as opened.
   int open(const ShellRequest& request) override;
   bool show_properties(const std::string& path) override;
   [[nodiscard]] std::string special_folder(int id) const override;
+  bool recycle(const std::string& path) override;
   void empty_recycle_bin() override;
   void update_recycle_bin_icon() override {}
   void show_help(const std::string& file, int topic) override;
@@ -44,7 +46,8 @@ class MachineShell final : public Shell {
  private:
   const MachineState& state_;
   EffectLog& effects_;
-  const FileSystem& files_;
+  FileSystem& files_;
+  const MessageLoop& loop_;
   std::function<void()> empty_bin_;
 };
 
@@ -67,9 +70,10 @@ class MachineTray final : public Tray {
  public:
   explicit MachineTray(EffectLog& effects) : effects_(effects) {}
 
-  void add(const std::string& tip, std::function<void()> double_click) override;
-  void modify(const std::string& tip) override;
-  void remove() override;
+  void add(const void* owner, const std::string& tip,
+           std::function<void(int message)> mouse) override;
+  void modify(const void* owner, const std::string& tip) override;
+  void remove(const void* owner) override;
 
  private:
   EffectLog& effects_;

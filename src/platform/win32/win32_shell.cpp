@@ -78,6 +78,17 @@ std::string Win32Shell::special_folder(int id) const {
   return result == S_OK ? narrow(path) : std::string();
 }
 
+bool Win32Shell::recycle(const std::string& path) {
+  // The call takes a list of paths; a second zero ends it.
+  const std::wstring paths = widen(path) + L'\0';
+  SHFILEOPSTRUCTW request{};
+  request.hwnd = GetActiveWindow();
+  request.wFunc = FO_DELETE;
+  request.pFrom = paths.c_str();
+  request.fFlags = FOF_ALLOWUNDO | FOF_NOCONFIRMATION;
+  return SHFileOperationW(&request) == 0 && request.fAnyOperationsAborted == FALSE;
+}
+
 void Win32Shell::empty_recycle_bin() {
   // An empty bin is a failure to Windows; to the program both outcomes are the same.
   static_cast<void>(SHEmptyRecycleBinW(nullptr, /*pszRootPath=*/nullptr, SHERB_NOCONFIRMATION));

@@ -19,6 +19,7 @@ class Win32Shell final : public Shell {
   int open(const ShellRequest& request) override;
   bool show_properties(const std::string& path) override;
   [[nodiscard]] std::string special_folder(int id) const override;
+  bool recycle(const std::string& path) override;
   void empty_recycle_bin() override;
   void update_recycle_bin_icon() override;
   // Without the help viewer, or without the file, nothing is shown.

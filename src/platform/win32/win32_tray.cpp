@@ -12,7 +12,6 @@ namespace quillvane {
 
 namespace {
 
-constexpr UINT kIconId = 1;
 constexpr WORD kProgramIcon = 1;  // number among the program's resources
 
 // What the taskbar tells everybody when it has begun anew, without any icon.
@@ -26,11 +25,11 @@ HICON program_icon() {
   return own != nullptr ? own : LoadIconW(nullptr, IDI_APPLICATION);
 }
 
-NOTIFYICONDATAW icon_of(HWND window) {
+NOTIFYICONDATAW icon_of(HWND window, UINT number) {
   NOTIFYICONDATAW icon{};
   icon.cbSize = sizeof(icon);
   icon.hWnd = window;
-  icon.uID = kIconId;
+  icon.uID = number;
   return icon;
 }
 
@@ -42,38 +41,47 @@ void set_tip(NOTIFYICONDATAW& icon, const std::wstring& tip) {
 
 }  // namespace
 
-Win32Tray::~Win32Tray() { remove(); }
-
-void Win32Tray::add(const std::string& tip, std::function<void()> double_click) {
-  if (window_ == nullptr) make_window();
-  tip_ = widen(tip);
-  double_click_ = std::move(double_click);
-  is_shown_ = true;
-  show();
+Win32Tray::~Win32Tray() {
+  for (const auto& [owner, icon] : icons_) take_away(icon);
 }
 
-void Win32Tray::modify(const std::string& tip) {
-  if (!is_shown_) return;
-  tip_ = widen(tip);
-  NOTIFYICONDATAW icon = icon_of(window_.get());
-  set_tip(icon, tip_);
+void Win32Tray::add(const void* owner, const std::string& tip,
+                    std::function<void(int message)> mouse) {
+  if (window_ == nullptr) make_window();
+  Icon& icon = icons_[owner];
+  if (icon.number == 0) icon.number = ++last_number_;
+  icon.tip = widen(tip);
+  icon.mouse = std::move(mouse);
+  show(icon);
+}
+
+void Win32Tray::modify(const void* owner, const std::string& tip) {
+  const auto found = icons_.find(owner);
+  if (found == icons_.end()) return;
+  found->second.tip = widen(tip);
+  NOTIFYICONDATAW icon = icon_of(window_.get(), found->second.number);
+  set_tip(icon, found->second.tip);
   Shell_NotifyIconW(NIM_MODIFY, &icon);
 }
 
-void Win32Tray::remove() {
-  if (!is_shown_) return;
-  is_shown_ = false;
-  double_click_ = nullptr;
-  NOTIFYICONDATAW icon = icon_of(window_.get());
+void Win32Tray::remove(const void* owner) {
+  const auto found = icons_.find(owner);
+  if (found == icons_.end()) return;
+  take_away(found->second);
+  icons_.erase(found);
+}
+
+void Win32Tray::take_away(const Icon& shown) {
+  NOTIFYICONDATAW icon = icon_of(window_.get(), shown.number);
   Shell_NotifyIconW(NIM_DELETE, &icon);
 }
 
-void Win32Tray::show() {
-  NOTIFYICONDATAW icon = icon_of(window_.get());
+void Win32Tray::show(const Icon& shown) {
+  NOTIFYICONDATAW icon = icon_of(window_.get(), shown.number);
   icon.uFlags = NIF_MESSAGE | NIF_ICON;
   icon.uCallbackMessage = kTrayMessage;
   icon.hIcon = program_icon();
-  set_tip(icon, tip_);
+  set_tip(icon, shown.tip);
   Shell_NotifyIconW(NIM_ADD, &icon);
 }
 
@@ -95,16 +103,21 @@ void Win32Tray::make_window() {
 
 LRESULT CALLBACK Win32Tray::window_procedure(HWND window, UINT message, WPARAM w, LPARAM l) {
   auto* tray = reinterpret_cast<Win32Tray*>(GetWindowLongPtrW(window, GWLP_USERDATA));
-  if (tray != nullptr) tray->handle(message, l);
+  if (tray != nullptr) tray->handle(message, w, l);
   return DefWindowProcW(window, message, w, l);
 }
 
-void Win32Tray::handle(UINT message, LPARAM l) {
-  if (message == taskbar_created_message() && is_shown_) show();
-  if (message != kTrayMessage || (l != WM_LBUTTONDBLCLK && l != WM_RBUTTONDBLCLK)) return;
+void Win32Tray::handle(UINT message, WPARAM w, LPARAM l) {
+  if (message == taskbar_created_message()) {
+    for (const auto& [owner, icon] : icons_) show(icon);
+  }
+  if (message != kTrayMessage) return;
+  const auto found = std::find_if(icons_.begin(), icons_.end(),
+                                  [w](const auto& icon) { return icon.second.number == w; });
+  if (found == icons_.end()) return;
   // A copy, since the call may take the icon away.
-  const auto double_click = double_click_;
-  if (double_click) double_click();
+  const auto mouse = found->second.mouse;
+  if (mouse) mouse(static_cast<int>(l));
 }
 
 }  // namespace quillvane

@@ -24,9 +24,9 @@ struct GroupWords {
 };
 
 constexpr GroupWords kGroups[] = {
-    {"machine", "Machine folders"},
-    {"registry", "The registry of a machine folder"},
-    {"language", "Language files"},
+    {"machine", "Machine folders"},   {"registry", "The registry of a machine folder"},
+    {"language", "Language files"},   {"paint", "The program's own controls as PNG files"},
+    {"lists", "The program's lists"},
 };
 
 CLI::App& group_of(CLI::App& app, const ConsoleCommand& command) {

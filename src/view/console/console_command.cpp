@@ -16,8 +16,15 @@ constexpr std::array kCommands = {
     ConsoleCommand{"", "clean", "Search, ask, and remove what was found", prepare_clean},
     ConsoleCommand{"", "search", "Search whole drives by file types; nothing is removed",
                    prepare_search},
+    ConsoleCommand{"", "shortcuts", "Find links whose target is gone", prepare_shortcuts},
     ConsoleCommand{"", "run", "Do what the suite asks for by a run switch", prepare_run},
     ConsoleCommand{"", "script", "Drive the windows by an automation script", prepare_script},
+    ConsoleCommand{"", "report", "Search, and write what was found into a report", prepare_report},
+    ConsoleCommand{"lists", "show", "Show one of the program's lists", prepare_lists_show},
+    ConsoleCommand{"lists", "add", "Add an entry to a list", prepare_lists_add},
+    ConsoleCommand{"lists", "remove", "Remove entries from a list", prepare_lists_remove},
+    ConsoleCommand{"lists", "on", "Have the drive search look for types", prepare_lists_on},
+    ConsoleCommand{"lists", "off", "Have it pass over types", prepare_lists_off},
     ConsoleCommand{"machine", "create", "Make a machine folder", prepare_machine_create},
     ConsoleCommand{"machine", "show", "Show what a machine folder holds", prepare_machine_show},
     ConsoleCommand{"registry", "export", "Print a machine's registry as .reg text",
@@ -25,7 +32,11 @@ constexpr std::array kCommands = {
     ConsoleCommand{"registry", "import", "Read .reg text into a machine's registry",
                    prepare_registry_import},
     ConsoleCommand{"language", "check", "Tell what a language file lacks", prepare_language_check},
-    ConsoleCommand{"", "shortcuts", "", prepare_unavailable},
+    ConsoleCommand{"paint", "button", "Draw a button", prepare_paint_button},
+    ConsoleCommand{"paint", "bar", "Draw a progress bar", prepare_paint_bar},
+    ConsoleCommand{"paint", "shadow", "Draw the shadow of a window", prepare_paint_shadow},
+    ConsoleCommand{"", "gallery", "Draw all controls in all their states on one sheet",
+                   prepare_gallery},
 };
 
 // Each a line.

@@ -50,6 +50,7 @@ struct ConsoleCommand {
 // One file each.
 std::function<int()> prepare_scan(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_clean(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_shortcuts(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_search(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_run(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_script(CLI::App& app, ConsoleSession& session);
@@ -58,7 +59,15 @@ std::function<int()> prepare_machine_show(CLI::App& app, ConsoleSession& session
 std::function<int()> prepare_registry_export(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_registry_import(CLI::App& app, ConsoleSession& session);
 std::function<int()> prepare_language_check(CLI::App& app, ConsoleSession& session);
-// A command that this version does not have; takes any words.
-std::function<int()> prepare_unavailable(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_report(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_show(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_add(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_remove(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_on(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_lists_off(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_paint_button(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_paint_bar(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_paint_shadow(CLI::App& app, ConsoleSession& session);
+std::function<int()> prepare_gallery(CLI::App& app, ConsoleSession& session);
 
 }  // namespace quillvane

@@ -5,6 +5,8 @@
 #include <istream>
 #include <ostream>
 
+#include "platform/picture_tools.h"
+
 namespace quillvane {
 
 struct ConsoleIo {
@@ -24,6 +26,8 @@ struct ConsoleIo {
   std::function<bool(const std::function<bool()>& interrupted)> await_line = nullptr;
   // Whether writing to `out` failed since nobody reads it any more.
   std::function<bool()> reader_gone = nullptr;
+  // Draws text and writes picture files; null where there is neither.
+  PictureTools* pictures = nullptr;
 };
 
 }  // namespace quillvane

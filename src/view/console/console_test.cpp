@@ -64,31 +64,11 @@ TEST(Console, VersionAndHelpAreResults) {
 
   Stage help;
   EXPECT_EQ(help.run({"--help"}), 0);
-  for (const char* word : {"scan", "script", "machine", "registry", "--machine", "--json"}) {
+  for (const char* word :
+       {"scan", "shortcuts", "script", "machine", "registry", "--machine", "--json"}) {
     EXPECT_NE(help.out.str().find(word), std::string::npos) << word;
   }
   EXPECT_EQ(help.err.str(), "");
-}
-
-TEST(Console, HelpLeavesOutWhatIsNotThereYet) {
-  Stage stage;
-  stage.run({"--help"});
-  for (const char* word : {"shortcuts"}) {
-    EXPECT_EQ(stage.out.str().find(std::string("  ") + word), std::string::npos) << word;
-  }
-}
-
-TEST(Console, CommandsThatAreNotThereYetSaySoWhateverTheirWords) {
-  for (const Words& words : {Words{"shortcuts"}, Words{"shortcuts", "--yes", "--json"},
-                             Words{"--json", "shortcuts"}, Words{"shortcuts", "--help"}}) {
-    Stage stage;
-    EXPECT_EQ(stage.run(words), 1);
-    EXPECT_EQ(stage.err.str(), "quillvane: shortcuts: not available in this version yet\n");
-    EXPECT_EQ(stage.out.str(), "");
-  }
-  Stage stage;
-  EXPECT_EQ(stage.run({"shortcuts", "--drive", "C:"}), 1);
-  EXPECT_EQ(stage.err.str(), "quillvane: shortcuts: not available in this version yet\n");
 }
 
 struct WrongWords {

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "platform/win32/gdiplus_api.h"
 #include "platform/win32/system_handle.h"
 #include "platform/win32/wide_text.h"
 #include "view/win32/gdi_objects.h"
-#include "view/win32/gdiplus_api.h"
 
 namespace quillvane {
 

@@ -1,4 +1,4 @@
-// A box with a tick and its caption on the screen.
+// Boxes with a tick, and choices, with their captions on the screen.
 #pragma once
 
 #include "forms/buttons.h"
@@ -21,6 +21,23 @@ class CheckBoxView final : public ControlView {
 
  private:
   CheckBox& box_;
+  BrushOwner page_;
+};
+
+// One of a group of choices. The choice is the model's too.
+class OptionView final : public ControlView {
+ public:
+  OptionView(ViewHost& host, OptionButton& option, const ControlPlace& place);
+
+  [[nodiscard]] int wanted_width() const override;
+  void commanded(int code) override;
+  HBRUSH prepare(HDC dc) override;
+
+ protected:
+  void show_changes(const Changes& changes) override;
+
+ private:
+  OptionButton& option_;
   BrushOwner page_;
 };
 

@@ -44,7 +44,7 @@ std::unique_ptr<ControlView> make_control_view(ViewHost& host, Control& model,
       return make<ButtonView, Clickable>(host, model, place);
     case ControlKind::kLabel:
     case ControlKind::kHeading:
-    case ControlKind::kFolderLabel:
+    case ControlKind::kPathLabel:
       return make<LabelView, Label>(host, model, place);
     case ControlKind::kCaption:
     case ControlKind::kNote:
@@ -53,6 +53,8 @@ std::unique_ptr<ControlView> make_control_view(ViewHost& host, Control& model,
       return make<EditView, TextBox>(host, model, place);
     case ControlKind::kCheckBox:
       return make<CheckBoxView, CheckBox>(host, model, place);
+    case ControlKind::kOption:
+      return make<OptionView, OptionButton>(host, model, place);
     case ControlKind::kPathLine:
       return make<PathLineView, TextBox>(host, model, place);
     case ControlKind::kMark:

@@ -89,7 +89,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   void arrange_controls();
   void place_controls(const Arrangement& places, std::size_t first);
   [[nodiscard]] bool is_shown(std::size_t view) const;
-  [[nodiscard]] bool shows_with_its_frame(const ControlPlace& place) const;
+  [[nodiscard]] bool is_page_shown(std::string_view page) const;
   void show_side();  // the one of two jobs that the models tell
   void show_controls();
   [[nodiscard]] bool takes_keys(HWND control) const;

@@ -106,15 +106,23 @@ bool FormWindow::is_shown(std::size_t number) const {
   if (!view.model().visible() && !place.though_hidden) return false;
   const bool is_on_title = page_of_[number] == nullptr && place.row == 0;
   if (pages_ != nullptr && !is_on_title && !pages_->shows(page_of_[number])) return false;
-  if (!shows_with_its_frame(place)) return false;
+  if (!is_page_shown(place.page)) return false;
   return place.tab.empty() || tabs_ == nullptr || tabs_->chosen() == place.tab;
 }
 
-// What both jobs share stays where the window's own controls show, whichever page is in front.
-bool FormWindow::shows_with_its_frame(const ControlPlace& place) const {
-  if (place.page.empty() || place.page == layout_.page_set.shared_page) return true;
-  const Control* frame = model_.find(place.page);
-  return frame == nullptr || frame->visible();
+// Of the frames of the stack the first that is there hides the others. What two jobs share stays
+// where the window's own controls show, whichever page is in front.
+bool FormWindow::is_page_shown(std::string_view page) const {
+  if (page == layout_.page_set.shared_page) return true;
+  const auto is_there = [this](std::string_view frame) {
+    const Control* control = frame.empty() ? nullptr : model_.find(frame);
+    return control == nullptr || control->visible();
+  };
+  const int place = layout_.stacked(page);
+  for (int above = 0; above < place; ++above) {
+    if (is_there(layout_.stack[static_cast<std::size_t>(above)])) return false;
+  }
+  return is_there(page);
 }
 
 // Who comes back to the window's own controls with the results of the other job is shown the list

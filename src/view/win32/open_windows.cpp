@@ -15,10 +15,22 @@ OpenWindows::OpenWindows(std::function<bool()> ended) : ended_(std::move(ended))
 
 OpenWindows::~OpenWindows() = default;
 
+// Before the one that the user works in, else before the one that was opened last.
 std::shared_ptr<void> OpenWindows::open(Window& model) {
+  HWND owner = windows_.empty() ? nullptr : windows_.back()->window();
+  for (const auto& window : windows_) {
+    if (window->window() == GetActiveWindow()) owner = window->window();
+  }
+  return open_before(model, owner);
+}
+
+std::shared_ptr<void> OpenWindows::open_beside(Window& model) {
+  return open_before(model, nullptr);
+}
+
+std::shared_ptr<void> OpenWindows::open_before(Window& model, HWND owner) {
   const WindowLayout* layout = find_layout(model.name());
   if (layout == nullptr) return nullptr;
-  const HWND owner = windows_.empty() ? nullptr : windows_.back()->window();
   windows_.push_back(std::make_unique<FormWindow>(model, *layout, owner, ended_));
   return {windows_.back().get(), [this](const void* opened) {
             std::erase_if(windows_,

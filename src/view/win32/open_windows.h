@@ -29,6 +29,9 @@ class OpenWindows {
   // there for it.
   [[nodiscard]] std::shared_ptr<void> open(Window& model);
 
+  // The same for a window that stands beside the others: they go on taking acts.
+  [[nodiscard]] std::shared_ptr<void> open_beside(Window& model);
+
   // Lets the windows answer while a tree is read: they paint, show the folder in work and take what
   // the user does. False: the user wants the reading ended.
   [[nodiscard]] bool show_reading(const TreeProgress& progress);
@@ -37,6 +40,8 @@ class OpenWindows {
   [[nodiscard]] bool take_key(MSG& message);
 
  private:
+  std::shared_ptr<void> open_before(Window& model, HWND owner);
+
   std::function<bool()> ended_;
   std::vector<std::unique_ptr<FormWindow>> windows_;  // the last opened last
 };

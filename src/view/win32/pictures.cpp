@@ -6,7 +6,7 @@
 #include <cstring>
 #include <utility>
 
-#include "view/win32/gdiplus_api.h"
+#include "platform/win32/gdiplus_api.h"
 
 namespace quillvane {
 
@@ -135,6 +135,7 @@ void Pictures::draw(HDC dc, int left, int top, int size, std::string_view name, 
 
 ImageListOwner Pictures::list(std::string_view name, int size, COLORREF look, int beside,
                               int above) {
+  if (find(name, size) != nullptr) return list_of({std::string(name)}, size, look, beside, above);
   std::vector<std::string> names;
   for (int number = 1; number <= kMostPictures; ++number) {
     std::array<char, 4> digits{};

@@ -40,7 +40,8 @@ class Pictures {
   // leaves it as it was. `tint` recolours it, keeping its shape; CLR_NONE keeps its colours.
   void draw(HDC dc, int left, int top, int size, std::string_view name, COLORREF tint);
 
-  // Pictures "NAME-01", "NAME-02", ... as far as there are any. `look`: kPale is without colour,
+  // Pictures "NAME-01", "NAME-02", ... as far as there are any; where a picture has that name
+  // itself, it alone. `look`: kPale is without colour,
   // for what is disabled; any other look is a tint as above. Each stands in a space of its own,
   // `beside` pixels wider on its left and right and `above` higher, so that rows have room.
   [[nodiscard]] ImageListOwner list(std::string_view name, int size, COLORREF look = CLR_NONE,

@@ -30,6 +30,10 @@ HFONT LabelView::font() const {
 
 int LabelView::wanted_width() const { return text_width(font(), widen(label_.caption()).c_str()); }
 
+void LabelView::show_reading(const std::wstring& folder) {
+  if (names_a_folder()) SetWindowTextW(window(), folder.c_str());
+}
+
 void LabelView::restyle() {
   ControlView::restyle();
   send(WM_SETFONT, reinterpret_cast<WPARAM>(font()), TRUE);
@@ -49,10 +53,6 @@ void LabelView::show_changes(const Changes& changes) {
 PathLineView::PathLineView(ViewHost& host, TextBox& box, const ControlPlace& place)
     : ControlView(host, box, place), box_(box) {
   create(WC_STATICW, SS_LEFT | SS_NOPREFIX);
-}
-
-void LabelView::show_reading(const std::wstring& folder) {
-  if (names_a_folder()) show_text(narrow(folder));
 }
 
 void PathLineView::show_changes(const Changes& changes) {

@@ -10,7 +10,7 @@
 
 namespace quillvane {
 
-// A caption on the page; that of a heading is bold.
+// A caption on the page; that of a heading is bold, that of a path is shortened in its middle.
 class LabelView final : public ControlView {
  public:
   LabelView(ViewHost& host, Label& label, const ControlPlace& place);
@@ -24,7 +24,7 @@ class LabelView final : public ControlView {
 
  private:
   [[nodiscard]] HFONT font() const;
-  [[nodiscard]] bool names_a_folder() const { return place().kind == ControlKind::kFolderLabel; }
+  [[nodiscard]] bool names_a_folder() const { return place().kind == ControlKind::kPathLabel; }
 
   Label& label_;
   BrushOwner page_;

@@ -1,6 +1,6 @@
 #include "view/win32/tick_boxes.h"
 
-#include "view/win32/gdiplus_api.h"
+#include "platform/win32/gdiplus_api.h"
 #include "view/win32/look/arrange.h"
 
 namespace quillvane {

@@ -172,19 +172,20 @@ TEST_F(PoorFolder, ARunSwitchCountsUnseenAndLeavesItsResult) {
   EXPECT_EQ(junk_.still_there(), 4);
 }
 
-TEST_F(PoorFolder, TheUnseenShortcutRunTellsByItsStatusThatItIsNotThereYet) {
-  EXPECT_EQ(run_unseen(copy_.executable(), L"g"), 1U);
+TEST_F(PoorFolder, TheUnseenShortcutRunEndsByItself) {
+  EXPECT_EQ(run_unseen(copy_.executable(), L"g"), 0U);
 }
 
-TEST_F(PoorFolder, TheSwitchOfTheShortcutWindowSaysThatItIsNotThereYet) {
+TEST_F(PoorFolder, TheShortcutWindowStandsAloneAndEndsTheProgram) {
   const FileHandle process = start_unseen(copy_.executable(), L"s");
-  HWND box = nullptr;
-  ASSERT_TRUE(eventually("the box", [&] {
-    box = FindWindowW(L"#32770", L"Quillvane Disk Cleaner");
-    return box != nullptr && IsWindowVisible(box) != 0;
+  HWND window = nullptr;
+  ASSERT_TRUE(eventually("the shortcut window", [&] {
+    window = FindWindowW(L"QuillvaneForm", L"Find and Fix Invalid Shortcuts");
+    return window != nullptr && IsWindowVisible(window) != 0;
   }));
-  answer_box(box, "OK");
-  EXPECT_EQ(exit_code_of(process), 1U);
+  EXPECT_EQ(FindWindowW(L"QuillvaneForm", L"Quillvane Disk Cleaner"), nullptr);
+  PostMessageW(window, WM_CLOSE, 0, 0);
+  EXPECT_EQ(exit_code_of(process), 0U);
 }
 
 TEST_F(PoorFolder, WithoutTheAnimationItScansAllTheSame) { scan_to_the_end(); }

@@ -11,6 +11,7 @@
 #include "view/console/console_command.h"
 #include "view/console/json_text.h"
 #include "view/console/readable.h"
+#include "view/console/shortcuts/attended_links.h"
 
 namespace quillvane {
 
@@ -38,6 +39,8 @@ constexpr SwitchHelp kSwitches[] = {
     {"w2-c2", "scans and counts; removes nothing"},
     {"w4", "the same, and lists the files in junktmp.txt"},
     {"d", "opens the window with its start button off; removes nothing"},
+    {"s", "opens the shortcut window alone; removes nothing"},
+    {"g", "scans for broken links and REMOVES them, without a question and without a backup"},
 };
 
 std::string switches_text() {
@@ -70,17 +73,49 @@ void print_result(const ConsoleSession& session, const Form7& form, const Cleani
   }
 }
 
+CleaningResult result_of(const Form3& form) {
+  CleaningResult result;
+  result.begun = !form.removed_links.empty();
+  result.not_reached = form.view1.count();
+  for (const RemovedLink& link : form.removed_links) {
+    if (link.removed) {
+      ++result.removed;
+    } else {
+      result.left.push_back({link.path, false, "it could not be removed"});
+    }
+  }
+  return result;
+}
+
+// "s" makes the window; "g" scans and removes what it finds.
+int run_shortcuts(const ConsoleSession& session, ConsoleMachine& machine,
+                  const std::string& words) {
+  AttendedLinks attended(session, machine);
+  attended.start(words);
+  if (!attended.program.ended()) return kDone;
+  const CleaningResult result = result_of(attended.form());
+  const Outcome outcome = outcome_of_run(result, AttendedLinks::cancelled());
+  if (session.json) {
+    print_links_json_open(session.io.out, attended.links, session.list);
+    print_cleaning_json(session.io.out, result, outcome);
+    session.io.out << "}\n";
+  } else {
+    print_links(session.io, attended.links, session.list);
+    print_cleaning(session.io, result);
+  }
+  tell_outcome(session.io, "run", result, outcome);
+  return exit_status(outcome);
+}
+
 int run(const ConsoleSession& session, const std::string& words) {
   const SwitchKind kind = kind_of(words);
   if (kind == SwitchKind::kUnknown) {
     session.problem("run " + words + ": there is no such switch");
     return kWrongWords;
   }
-  if (kind == SwitchKind::kShortcuts) {
-    return session.problem("run " + words + ": not available in this version yet");
-  }
   const std::unique_ptr<ConsoleMachine> machine = session.open_machine();
   if (machine == nullptr) return kNotDone;
+  if (kind == SwitchKind::kShortcuts) return run_shortcuts(session, *machine, words);
   AttendedCleaning cleaning(session.io, *machine);
   Program& program = cleaning.program;
   program.session.on_problem = session.problem_teller();

@@ -30,9 +30,11 @@ void start(ScriptContext& context, ScriptArguments arguments) {
   context.program.start(command_line);
 }
 
-// click W.C, click W.C N
+// click W.C, click W.C N; the tray icon too
 void click(ScriptContext& context, ScriptArguments arguments) {
   if (arguments.size() == 1) {
+    Control& control = control_named(context.program, arguments[0]);
+    if (auto* tray = dynamic_cast<TrayArea*>(&control)) return tray->click();
     control_of_kind<Clickable>(context.program, arguments[0], "cannot be clicked").click();
     return;
   }

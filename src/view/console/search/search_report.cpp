@@ -1,6 +1,7 @@
 #include "view/console/search/search_report.h"
 
 #include <algorithm>
+#include <array>
 
 #include "platform/unicode_case.h"
 #include "scan/hit_rows.h"

@@ -64,8 +64,9 @@ class Cells {
   std::vector<Span> columns_;
 };
 
-bool same_cell(const ControlPlace& one, const ControlPlace& other) {
-  return one.row == other.row && one.column == other.column && one.columns == other.columns;
+bool same_cell(const WindowLayout& layout, const ControlPlace& one, const ControlPlace& other) {
+  return one.row == other.row && one.column == other.column && one.columns == other.columns &&
+         !layout.take_turns(one, other);
 }
 
 // A packed control takes its part of what its cell has left.
@@ -111,7 +112,7 @@ Arrangement arrange(const WindowLayout& layout, const PageGrid& page, int width,
   std::vector<Box> rest(count);  // of the cell of each control, kept at the cell's first control
   const auto rest_of = [&](std::size_t control) -> Box& {
     std::size_t first = 0;
-    while (!same_cell(page.controls[first], page.controls[control])) ++first;
+    while (!same_cell(layout, page.controls[first], page.controls[control])) ++first;
     if (first == control) rest[first] = cells.cell(page.controls[first]);
     return rest[first];
   };
@@ -128,7 +129,7 @@ Arrangement arrange(const WindowLayout& layout, const PageGrid& page, int width,
     const ControlPlace& place = page.controls[i];
     if (place.pack != Pack::kFill) continue;
     std::size_t first = 0;
-    while (!same_cell(page.controls[first], place)) ++first;
+    while (!same_cell(layout, page.controls[first], place)) ++first;
     Box box = rest[first];
     if (!place.tab.empty()) {
       const int strip = std::min(scaled(layout.tab_height, dpi), box.height);

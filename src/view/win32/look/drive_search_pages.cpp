@@ -135,7 +135,7 @@ constexpr ControlPlace kRunControls[] = {
          "Search\nThe drives are searched one by one, then the temporary folders of the system. "
          "Nothing is removed."),
     packed(Pack::kFromLeft, "Label5", kCaption, kRunFolder, kBoth, 60).says("Folder"),
-    filling("Label5", kFolderLabel, kRunFolder, 0, kBoth),
+    filling("Label5", kPathLabel, kRunFolder, 0, kBoth),
     figure("Label7", kCaption, 60).says("Found"),
     figure("Label7", kLabel, 90),
     figure("Label10", kCaption, 40).says("Size"),

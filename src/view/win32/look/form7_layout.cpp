@@ -78,6 +78,7 @@ constexpr ControlPlace kControls[] = {
     title_button("chameleonButton12").says("Minimise").with("title-minimise"),
     title_button("chameleonButton18").says("About").with("title-about"),
     title_button("chameleonButton13").says("Language").with("title-language"),
+    title_button("chameleonButton2").says("Shortcut tool").with("title-shortcuts"),
 };
 
 constexpr ToolbarHint kHints[] = {
@@ -152,11 +153,10 @@ constexpr std::string_view kUndrawn[] = {
     "Text10",
     "List7",
     "List8",
-    // The backup's bar, the year and the way to the shortcut window: on pages to come.
+    // The backup's bar and the year: on pages to come.
     "Bar2",
     "Label12(0)",
     "Label12(1)",
-    "chameleonButton2",
     // Pages and panels: their controls are drawn, or come later.
     // The list of the languages draws them.
     "pictrlang",

@@ -4,6 +4,7 @@
 // 1/96 inch; the view turns them into pixels of the screen that the window stands on.
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string_view>
 
@@ -22,14 +23,15 @@ enum class ControlKind {
   kTitleButton,  // a picture in the title bar
   kLink,         // a text that is clicked
   kLabel,
-  kHeading,      // a label in bold
-  kFolderLabel,  // a label that names a folder, shortened in its middle
-  kCaption,      // the view's own words before a control, whose showing they share
-  kNote,         // the view's own words on a page: a heading, and below it what follows a line end
-  kEdit,         // a line of text to be typed
+  kHeading,  // a label in bold
+  kCaption,  // the view's own words before a control, whose showing they share
+  kNote,     // the view's own words on a page: a heading, and below it what follows a line end
+  kEdit,     // a line of text to be typed
   kCheckBox,
-  kPathLine,  // a line of text that is shortened in its middle
-  kMark,      // a small square of colour
+  kOption,     // one of a group of choices
+  kPathLine,   // a line of text that is shortened in its middle
+  kPathLabel,  // a label that is shortened so, and shows the folder that is being read
+  kMark,       // a small square of colour
   kPicture,
   kProgress,
   kAnimation,
@@ -201,6 +203,9 @@ struct WindowLayout {
   // Controls of the window that it does not draw: variables, pages to come, and what stands for
   // itself (timers, menus, the tray icon).
   std::span<const std::string_view> undrawn;
+  // Frames that take the same place: of those that are shown, the first is drawn. Their controls
+  // may share cells with each other, and with nothing else.
+  std::span<const std::string_view> stack = {};
   int margin;      // to the window's edges; row 0 is the title bar and has none
   int gap;         // between rows, columns and packed controls
   int tab_height;  // of the strip above controls that share a cell
@@ -218,6 +223,18 @@ struct WindowLayout {
       if (click.control == control && click.button == button) return click.what;
     }
     return WhileReading::kWaits;
+  }
+  // The place of a frame in the stack; -1 for none.
+  [[nodiscard]] constexpr int stacked(std::string_view frame) const {
+    for (std::size_t i = 0; i < stack.size(); ++i) {
+      if (stack[i] == frame) return static_cast<int>(i);
+    }
+    return -1;
+  }
+  // Whether both are never seen together.
+  [[nodiscard]] constexpr bool take_turns(const ControlPlace& one,
+                                          const ControlPlace& other) const {
+    return one.page != other.page && stacked(one.page) >= 0 && stacked(other.page) >= 0;
   }
   [[nodiscard]] constexpr bool can_be_sized() const {
     return least_width != width || least_height != height;

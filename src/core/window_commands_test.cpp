@@ -53,6 +53,21 @@ TEST(WindowCommands, TheAboutWindowSetsThePage) {
   EXPECT_EQ(attended.program->session.page_value, 7);
 }
 
+TEST(WindowCommands, TheWayToTheDrivesBringsTheirPageToTheFront) {
+  ScanFixture fixture;
+  Form7& form = fixture.start();
+  form.orvbutton8.click();
+  EXPECT_EQ(form.wizardstep, 1);
+
+  form.chameleonButton6.click();
+
+  EXPECT_EQ(form.wizardstep, 0);
+  EXPECT_TRUE(form.Frame2.visible());
+  for (const Frame* other : {&form.Frame4, &form.Frame6, &form.Frame8, &form.Frame80}) {
+    EXPECT_FALSE(other->visible()) << other->name();
+  }
+}
+
 struct PageCase {
   int tool;
   Button Form7::*page;

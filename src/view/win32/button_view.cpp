@@ -42,10 +42,15 @@ void ButtonView::restyle() {
   send(WM_SETFONT, reinterpret_cast<WPARAM>(font()), TRUE);
 }
 
+std::string ButtonView::caption() const {
+  const bool has_none = button_.caption().empty() && says_what_it_shows();
+  return has_none ? std::string(place().accessible_name) : button_.caption();
+}
+
 int ButtonView::wanted_width() const {
   if (is(ControlKind::kTitleButton)) return 0;
   const int padding = is(ControlKind::kLink) ? kLinkPadding : kPadding;
-  return text_width(font(), widen(button_.caption()).c_str()) + 2 * scaled(padding, host().dpi());
+  return text_width(font(), widen(caption()).c_str()) + 2 * scaled(padding, host().dpi());
 }
 
 int ButtonView::overhang() const {
@@ -63,13 +68,16 @@ void ButtonView::commanded(int code) {
   // A button that is off by now does nothing when its turn comes.
   const auto meanwhile =
       button_.enabled() ? host().layout().while_reading(place().name) : WhileReading::kWaits;
-  host().act([this] { button_.click(); }, meanwhile);
+  host().act(
+      [this] {
+        if (button_.enabled() && host().confirms(place().name)) button_.click();
+      },
+      meanwhile);
 }
 
 void ButtonView::show_changes(const Changes& changes) {
-  if (changes.has(Change::kCaption) && place().accessible_name.empty()) {
-    show_text(button_.caption());
-  }
+  const bool says_its_caption = place().accessible_name.empty() || says_what_it_shows();
+  if (changes.has(Change::kCaption) && says_its_caption) show_text(caption());
   InvalidateRect(window(), nullptr, FALSE);
 }
 
@@ -109,10 +117,10 @@ void ButtonView::draw_caption(HDC dc, RECT area, const Look& look) const {
   const Selected selected(dc, font());
   SetBkMode(dc, TRANSPARENT);
   SetTextColor(dc, look.text);
-  const std::wstring caption = widen(button_.caption());
+  const std::wstring text = widen(caption());
   if (is(ControlKind::kLink)) InflateRect(&area, -scaled(kLinkPadding, host().dpi()), 0);
   const UINT place = is(ControlKind::kLink) ? DT_LEFT : DT_CENTER;
-  DrawTextW(dc, caption.c_str(), -1, &area,
+  DrawTextW(dc, text.c_str(), -1, &area,
             place | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 

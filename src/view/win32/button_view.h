@@ -2,6 +2,8 @@
 // title bar, or a link.
 #pragma once
 
+#include <string>
+
 #include "forms/buttons.h"
 #include "view/win32/control_view.h"
 #include "view/win32/gdi_objects.h"
@@ -32,6 +34,7 @@ class ButtonView final : public ControlView {
 
   [[nodiscard]] bool is(ControlKind kind) const { return place().kind == kind; }
   [[nodiscard]] HFONT font() const;
+  [[nodiscard]] std::string caption() const;
   [[nodiscard]] Look look(bool enabled, bool pressed) const;
   [[nodiscard]] Look command_look(bool enabled, bool pressed) const;
   [[nodiscard]] Look title_look(bool pressed) const;

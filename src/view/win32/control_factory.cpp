@@ -5,7 +5,9 @@
 #include "view/win32/check_box_view.h"
 #include "view/win32/edit_view.h"
 #include "view/win32/list_binding.h"
+#include "view/win32/note_view.h"
 #include "view/win32/plain_views.h"
+#include "view/win32/tabs_view.h"
 #include "view/win32/toolbar_binding.h"
 #include "view/win32/tree_binding.h"
 
@@ -30,8 +32,11 @@ std::unique_ptr<ControlView> make_control_view(ViewHost& host, Control& model,
     case ControlKind::kTree:
       return make<TreeBinding, TreeView>(host, model, place);
     case ControlKind::kList:
+    case ControlKind::kPictureList:
     case ControlKind::kPlainList:
       return make<ListBinding, ListView>(host, model, place);
+    case ControlKind::kTabs:
+      return make<TabsView, Tabs>(host, model, place);
     case ControlKind::kButton:
     case ControlKind::kMainButton:
     case ControlKind::kTitleButton:
@@ -41,6 +46,9 @@ std::unique_ptr<ControlView> make_control_view(ViewHost& host, Control& model,
     case ControlKind::kHeading:
     case ControlKind::kPathLabel:
       return make<LabelView, Label>(host, model, place);
+    case ControlKind::kCaption:
+    case ControlKind::kNote:
+      return make<NoteView, Control>(host, model, place);
     case ControlKind::kEdit:
       return make<EditView, TextBox>(host, model, place);
     case ControlKind::kCheckBox:

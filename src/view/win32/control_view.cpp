@@ -33,9 +33,13 @@ void ControlView::create(const wchar_t* window_class, DWORD style, DWORD extende
   SetWindowSubclass(window_, procedure, 0, reinterpret_cast<DWORD_PTR>(this));
   take_fonts();
   send(WM_SETFONT, reinterpret_cast<WPARAM>(plain_font()), FALSE);
-  if (!place_.accessible_name.empty()) {
+  if (!place_.accessible_name.empty() && !says_what_it_shows()) {
     name_for_readers(window_, widen(place_.accessible_name));
   }
+}
+
+bool ControlView::says_what_it_shows() const {
+  return place_.kind == ControlKind::kButton || place_.kind == ControlKind::kMainButton;
 }
 
 void ControlView::show_text(const std::string& text) {

@@ -56,6 +56,8 @@ class ViewHost {
   // whole scan, which no control's own procedure should wait for.
   virtual void act(std::function<void()> act, WhileReading meanwhile) = 0;
   void act(std::function<void()> run) { act(std::move(run), WhileReading::kWaits); }
+  // Asks the user, where the table wants that, before a control is clicked. False: No.
+  [[nodiscard]] virtual bool confirms(std::string_view /*control*/) { return true; }
   // Some control has noted a change.
   virtual void needs_refresh() = 0;
   // Shows a popup menu at a place of the screen and clicks the chosen entry.
@@ -99,6 +101,8 @@ class ControlView : public ControlObserver {
   void create(const wchar_t* window_class, DWORD style, DWORD extended_style = 0);
   // The window's own text, which is shown or is what a screen reader says.
   void show_text(const std::string& text);
+  // A button with a caption; its own words in the table stand in where the model has none.
+  [[nodiscard]] bool says_what_it_shows() const;
 
   // Draws the model anew, as far as it has changed.
   virtual void show_changes(const Changes& /*changes*/) {}

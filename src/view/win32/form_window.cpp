@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/list_view.h"
 #include "platform/win32/wide_text.h"
 #include "view/win32/dispatch.h"
 #include "view/win32/popup_menu.h"
@@ -58,6 +59,7 @@ FormWindow::~FormWindow() {
   free_owner();
   views_.clear();
   tabs_ = nullptr;
+  pages_ = nullptr;
   choices_ = nullptr;
   SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
   DestroyWindow(window_);
@@ -155,6 +157,10 @@ std::optional<LRESULT> FormWindow::handle_controls(UINT message, WPARAM w, LPARA
         if (header.code == static_cast<UINT>(TCN_SELCHANGE)) show_controls();
         return 0;
       }
+      if (pages_ != nullptr && header.hwndFrom == pages_->window()) {
+        if (header.code == static_cast<UINT>(TCN_SELCHANGE)) pages_->chosen();
+        return 0;
+      }
       ControlView* view = view_of(header.hwndFrom);
       return view != nullptr ? view->notified(header) : std::nullopt;
     }
@@ -238,6 +244,19 @@ bool FormWindow::serve_reading(const std::wstring& folder) {
                       [](const UserAct& act) { return act.meanwhile == WhileReading::kEndsIt; });
 }
 
+// No is the button in hand.
+bool FormWindow::confirms(std::string_view control) {
+  for (const AskedClick& asked : layout_.asked_clicks) {
+    if (asked.control != control) continue;
+    const auto* list = dynamic_cast<const ListView*>(model_.find(asked.list));
+    const int rows = list != nullptr ? list->count() : 0;
+    const std::string text = std::to_string(rows) + " " + std::string(asked.question);
+    return MessageBoxW(window_, widen(text).c_str(), widen(title()).c_str(),
+                       MB_YESNO | MB_ICONQUESTION | MB_DEFBUTTON2) == IDYES;
+  }
+  return true;
+}
+
 void FormWindow::needs_refresh() {
   if (refresh_is_due_) return;
   refresh_is_due_ = true;
@@ -254,6 +273,7 @@ void FormWindow::refresh() {
   refresh_is_due_ = false;
   for (const auto& view : views_) view->refresh();
   if (wanted_widths() != arranged_widths_) arrange_controls();
+  show_side();
   show_controls();
   if (choices_ != nullptr) choices_->refresh();
   keep_focus();
@@ -261,8 +281,7 @@ void FormWindow::refresh() {
 }
 
 void FormWindow::changed(Control& /*control*/, Change what) {
-  if (what == Change::kVisible) needs_refresh();
-  if (what != Change::kCaption) return;
+  if (what != Change::kCaption) return needs_refresh();
   SetWindowTextW(window_, widen(title()).c_str());
   InvalidateRect(window_, nullptr, FALSE);
 }
@@ -275,6 +294,7 @@ void FormWindow::restyle() {
   std::swap(bold_font, bold_font_);
   for (const auto& view : views_) view->restyle();
   if (tabs_ != nullptr) tabs_->restyle();
+  if (pages_ != nullptr) pages_->restyle();
   if (choices_ != nullptr) choices_->restyle();
   needs_refresh();
   InvalidateRect(window_, nullptr, TRUE);

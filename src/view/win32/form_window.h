@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,7 @@
 #include "view/win32/control_view.h"
 #include "view/win32/hints.h"
 #include "view/win32/look/arrange.h"
+#include "view/win32/page_tabs.h"
 #include "view/win32/tab_strip.h"
 
 namespace quillvane {
@@ -51,6 +53,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
   [[nodiscard]] Pictures& pictures() override { return pictures_; }
   using ViewHost::act;
   void act(std::function<void()> act, WhileReading meanwhile) override;
+  [[nodiscard]] bool confirms(std::string_view control) override;
   void needs_refresh() override;
   void show_menu(const Menu& menu, POINT place) override;
 
@@ -79,12 +82,15 @@ class FormWindow final : public ViewHost, private ControlObserver {
 
   // form_window_controls.cpp
   void make_controls();
+  void make_controls_of(const PageGrid* page, std::span<const ControlPlace> places);
   void watch(std::string_view name);
   [[nodiscard]] ControlView* view_of(HWND window) const;
   [[nodiscard]] std::vector<int> wanted_widths() const;
   void arrange_controls();
-  [[nodiscard]] bool is_shown(const ControlView& view) const;
+  void place_controls(const Arrangement& places, std::size_t first);
+  [[nodiscard]] bool is_shown(std::size_t view) const;
   [[nodiscard]] bool is_page_shown(std::string_view page) const;
+  void show_side();  // the one of two jobs that the models tell
   void show_controls();
   [[nodiscard]] bool takes_keys(HWND control) const;
   [[nodiscard]] HWND first_focus() const;  // null: nothing takes keys
@@ -99,6 +105,7 @@ class FormWindow final : public ViewHost, private ControlObserver {
 
   // form_window_keys.cpp
   void click(std::string_view name);
+  [[nodiscard]] bool is_out_of_sight(std::string_view name) const;
   bool click_by_key(WPARAM key);
   bool press_focused_or_default(HWND focused);
 
@@ -115,14 +122,18 @@ class FormWindow final : public ViewHost, private ControlObserver {
   Pictures pictures_;
   Hints hints_;
   std::unique_ptr<TabStrip> tabs_;
+  std::unique_ptr<PageTabs> pages_;  // null where the window does one job
   std::unique_ptr<ChoiceList> choices_;
   std::vector<int> arranged_widths_;  // what the captions needed when the controls were placed
-  std::vector<std::unique_ptr<ControlView>> views_;  // as in the table
+  // As in the tables: the window's own controls, then those of its pages.
+  std::vector<std::unique_ptr<ControlView>> views_;
+  std::vector<const PageGrid*> page_of_;  // of each view; null: the window's own
   std::deque<UserAct> acts_;
   bool is_reading_ = false;         // inside serve_reading
   std::vector<Control*> observed_;  // frames that the table names, and the title's label
   std::uint64_t refreshed_ms_ = 0;
   bool refresh_is_due_ = false;
+  bool shows_own_side_ = true;  // and not a page
   bool is_topmost_ = false;
 };
 

@@ -4,7 +4,6 @@
 #include <windowsx.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <cwchar>
 
 #include "platform/win32/wide_text.h"
@@ -97,11 +96,7 @@ void ListBinding::answer(LVITEMW& item) {
     item.pszText[item.cchTextMax - 1] = L'\0';
   }
   if ((item.mask & LVIF_IMAGE) != 0) {
-    // The number is that of the category's picture; entries of the user's own share the last one.
-    // A key that is no number is that of the only picture.
-    const auto icon = is_there ? list_.icon(row) : std::nullopt;
-    const int number = icon ? std::max(std::atoi(icon->c_str()), 1) : 0;
-    item.iImage = std::min(number, image_count_) - 1;
+    item.iImage = is_there ? picture_of(row) : -1;
   }
   if ((item.mask & LVIF_STATE) != 0) {
     const bool ticked = is_there && list_.checked(row);
@@ -211,6 +206,9 @@ std::optional<LRESULT> ListBinding::notified(NMHDR& header) {
   if (header.code == LVN_GETDISPINFOW) {
     answer(reinterpret_cast<NMLVDISPINFOW&>(header).item);
     return 0;
+  }
+  if (header.code == static_cast<UINT>(NM_CUSTOMDRAW)) {
+    return draw_row(reinterpret_cast<const NMLVCUSTOMDRAW&>(header));
   }
   if (is_drawing_) return std::nullopt;
   switch (header.code) {

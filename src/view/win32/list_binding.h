@@ -26,12 +26,17 @@ class ListBinding final : public ControlView {
 
  private:
   [[nodiscard]] bool has_boxes() const { return place().kind == ControlKind::kList; }
+  [[nodiscard]] bool has_pictures() const { return place().kind != ControlKind::kPlainList; }
+  [[nodiscard]] char look_of(int column) const;  // from 0; a letter of the table's
+  [[nodiscard]] int picture_of(int row) const;   // in the list of pictures, from 0; below 0: none
   void make_images();
   void make_columns();
   void show_captions();
   void set_widths();
   void fit_columns();
   void show_order();
+  [[nodiscard]] LRESULT draw_row(const NMLVCUSTOMDRAW& drawing) const;
+  void draw_space(HDC dc, int row, int column) const;
   [[nodiscard]] LRESULT draw_header(const NMCUSTOMDRAW& drawing) const;
   void show_selection();
   [[nodiscard]] int selected_row() const;  // in the control; 0: none

@@ -4,7 +4,12 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <iterator>
+#include <string>
+#include <string_view>
 #include <utility>
+#include <vector>
 
 #include "platform/win32/wide_text.h"
 #include "view/win32/list_binding.h"
@@ -18,15 +23,61 @@ namespace {
 constexpr int kPictureSize = 16;
 constexpr int kPictureBeside = 3;
 constexpr int kPictureAbove = 2;
-constexpr int kOtherColumn = 88;  // sizes; dates take more
-constexpr int kLastColumn = 160;
+constexpr int kShortColumn = 72;
+constexpr int kNumberColumn = 100;
+constexpr int kTextColumn = 160;  // dates
+constexpr int kSpaceColumn = 230;
 constexpr int kLeastColumn = 120;  // of the one that takes what the others leave
 constexpr int kHeaderHeight = 24;
-constexpr int kHeaderBeside = 6;   // of a caption
-constexpr int kPlainColumn = 160;  // of a list without boxes, but for the last one
+constexpr int kHeaderBeside = 6;  // of a caption
 constexpr int kTwipsOfUnit = 15;
 
+constexpr std::string_view kRowSet = "row-";
+// Of the pictures of that set; a row's picture is set by one of them.
+constexpr std::string_view kRowKeys[] = {"tmp",  "gid",   "bak", "0by", "oth", "log", "fol",
+                                         "file", "drive", "t",   "te",  "f",   "ss"};
+
+int row_picture(std::string_view key) {
+  const auto* const found = std::find(std::begin(kRowKeys), std::end(kRowKeys), key);
+  return found == std::end(kRowKeys) ? -1 : static_cast<int>(found - std::begin(kRowKeys));
+}
+
+std::vector<std::string> row_pictures() {
+  std::vector<std::string> names;
+  for (const std::string_view key : kRowKeys) {
+    names.push_back(std::string(kRowSet) + std::string(key));
+  }
+  return names;
+}
+
+int width_of(char look) {
+  if (look == 's') return kShortColumn;
+  if (look == 'n') return kNumberColumn;
+  return look == 'b' ? kSpaceColumn : kTextColumn;
+}
+
 }  // namespace
+
+// Files with their sizes and dates, or texts of which the last one is long.
+char ListBinding::look_of(int column) const {
+  const std::string_view told = place().column_looks;
+  if (column < static_cast<int>(told.size())) return told[static_cast<std::size_t>(column)];
+  const int last = static_cast<int>(list_.columns().size()) - 1;
+  if (!has_boxes()) return column == last ? 'w' : 't';
+  if (column == 0) return 'w';
+  return column == last ? 't' : 'n';
+}
+
+int ListBinding::picture_of(int row) const {
+  const auto icon = list_.icon(row);
+  if (place().picture.starts_with(kRowSet)) {
+    const int picture = icon ? row_picture(*icon) : -1;
+    return picture >= 0 ? picture : row_picture(place().picture.substr(kRowSet.size()));
+  }
+  // The number is that of the category's picture; entries of the user's own share the last one.
+  const int number = icon ? std::atoi(icon->c_str()) : 0;
+  return std::min(number, image_count_) - 1;
+}
 
 // A header of Windows is as low as its letters allow.
 LRESULT CALLBACK ListBinding::header_procedure(HWND header, UINT message, WPARAM w, LPARAM l,
@@ -44,14 +95,18 @@ LRESULT CALLBACK ListBinding::header_procedure(HWND header, UINT message, WPARAM
 void ListBinding::make_images() {
   const int size = scaled(kPictureSize, host().dpi());
   const int above = scaled(kPictureAbove, host().dpi());
+  const int beside = scaled(kPictureBeside, host().dpi());
+  if (place().picture.starts_with(kRowSet)) {
+    images_ = host().pictures().list_of(row_pictures(), size, CLR_NONE, beside, above);
+  } else if (has_pictures()) {
+    images_ = host().pictures().list(place().picture, size, CLR_NONE, beside, above);
+  } else {
+    images_.reset(ImageList_Create(1, size + 2 * above, ILC_COLOR32, 0, 1));
+  }
   if (has_boxes()) {
-    images_ = host().pictures().list(place().picture, size, CLR_NONE,
-                                     scaled(kPictureBeside, host().dpi()), above);
     ImageListOwner boxes = tick_boxes(host(), size + 2 * above, 0);
     send(LVM_SETIMAGELIST, LVSIL_STATE, reinterpret_cast<LPARAM>(boxes.get()));
     boxes_ = std::move(boxes);
-  } else {
-    images_.reset(ImageList_Create(1, size + 2 * above, ILC_COLOR32, 0, 1));
   }
   image_count_ = ImageList_GetImageCount(images_.get());
   send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.get()));
@@ -60,8 +115,7 @@ void ListBinding::make_images() {
 void ListBinding::set_widths() {
   const int count = static_cast<int>(list_.columns().size());
   for (int column = 0; column < count; ++column) {
-    int width = column + 1 == count ? kLastColumn : kOtherColumn;
-    if (!has_boxes()) width = kPlainColumn;
+    const int width = width_of(look_of(column));
     const int told = list_.column_width(column + 1) / kTwipsOfUnit;
     send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column),
          scaled(told != 0 ? told : width, host().dpi()));
@@ -74,9 +128,7 @@ void ListBinding::make_columns() {
     std::wstring text = widen(list_.columns()[i]);
     LVCOLUMNW column{};
     column.mask = LVCF_TEXT | LVCF_FMT | LVCF_SUBITEM;
-    // Sizes stand on the right. A column that was given a width is none of them.
-    const bool is_size = has_boxes() && i == 1 && list_.column_width(2) == 0;
-    column.fmt = is_size ? LVCFMT_RIGHT : LVCFMT_LEFT;
+    column.fmt = look_of(static_cast<int>(i)) == 'n' ? LVCFMT_RIGHT : LVCFMT_LEFT;
     column.pszText = text.data();
     column.iSubItem = static_cast<int>(i);
     send(LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
@@ -93,10 +145,11 @@ void ListBinding::show_captions() {
   }
 }
 
-// File names take what the other columns leave; in a list without boxes it is the last column.
+// One column takes what the others leave.
 void ListBinding::fit_columns() {
   const std::size_t count = list_.columns().size();
-  const std::size_t wide = has_boxes() ? 0 : count - 1;
+  std::size_t wide = 0;
+  while (wide + 1 < count && look_of(static_cast<int>(wide)) != 'w') ++wide;
   int others = 0;
   for (std::size_t i = 0; i < count; ++i) {
     if (i != wide) others += static_cast<int>(send(LVM_GETCOLUMNWIDTH, i));
@@ -141,7 +194,7 @@ LRESULT ListBinding::draw_header(const NMCUSTOMDRAW& drawing) const {
   const Selected font(drawing.hdc, plain_font());
   SetBkMode(drawing.hdc, TRANSPARENT);
   SetTextColor(drawing.hdc, theme.text);
-  const UINT side = has_boxes() && column == 1 ? DT_RIGHT : DT_LEFT;  // sizes
+  const UINT side = look_of(column) == 'n' ? DT_RIGHT : DT_LEFT;
   DrawTextW(drawing.hdc, text.c_str(), -1, &area,
             side | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
   return CDRF_SKIPDEFAULT;

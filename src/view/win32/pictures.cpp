@@ -135,19 +135,30 @@ void Pictures::draw(HDC dc, int left, int top, int size, std::string_view name, 
 
 ImageListOwner Pictures::list(std::string_view name, int size, COLORREF look, int beside,
                               int above) {
+  if (find(name, size) != nullptr) return list_of({std::string(name)}, size, look, beside, above);
+  std::vector<std::string> names;
+  for (int number = 1; number <= kMostPictures; ++number) {
+    std::array<char, 4> digits{};
+    std::snprintf(digits.data(), digits.size(), "-%02d", number % 100);
+    names.push_back(std::string(name) + digits.data());
+    if (find(names.back(), size) != nullptr) continue;
+    names.pop_back();
+    break;
+  }
+  return list_of(names, size, look, beside, above);
+}
+
+ImageListOwner Pictures::list_of(const std::vector<std::string>& names, int size, COLORREF look,
+                                 int beside, int above) {
   const int width = size + 2 * beside;
   const int height = size + 2 * above;
-  ImageListOwner list(
-      ImageList_Create(width, height, ILC_COLOR32 | ILC_MASK, kMostPictures / 2, 1));
+  const auto room = static_cast<int>(names.size());
+  ImageListOwner list(ImageList_Create(width, height, ILC_COLOR32 | ILC_MASK, room, 1));
   const Matrix matrix = look == kPale ? gray_matrix() : tint_matrix(look);
-  const bool is_one = find(name, size) != nullptr;
-  for (int number = 1; number <= (is_one ? 1 : kMostPictures); ++number) {
-    std::array<char, 4> digits{};
-    if (!is_one) std::snprintf(digits.data(), digits.size(), "-%02d", number % 100);
-    Gdiplus::Bitmap* picture = find(std::string(name) + digits.data(), size);
-    if (picture == nullptr) break;
+  for (const std::string& name : names) {
     Gdiplus::Bitmap space(width, height, PixelFormat32bppARGB);
-    {
+    // One that is missing leaves its space, so that the others keep their numbers.
+    if (Gdiplus::Bitmap* picture = find(name, size)) {
       Gdiplus::Graphics graphics(&space);
       draw_scaled(graphics, *picture, beside, above, size, look == CLR_NONE ? nullptr : &matrix);
     }

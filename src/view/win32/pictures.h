@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "view/win32/gdi_objects.h"
 
@@ -45,6 +46,9 @@ class Pictures {
   // `beside` pixels wider on its left and right and `above` higher, so that rows have room.
   [[nodiscard]] ImageListOwner list(std::string_view name, int size, COLORREF look = CLR_NONE,
                                     int beside = 0, int above = 0);
+  // Pictures of these names, in their order.
+  [[nodiscard]] ImageListOwner list_of(const std::vector<std::string>& names, int size,
+                                       COLORREF look = CLR_NONE, int beside = 0, int above = 0);
   static constexpr COLORREF kPale = CLR_NONE - 1;
 
  private:

@@ -14,12 +14,13 @@ constexpr int kLinePadding = 8;
 constexpr int kMarkSize = 12;
 constexpr int kPictureSize = 16;
 
+constexpr DWORD kLabelStyle = SS_LEFT | SS_CENTERIMAGE | SS_NOPREFIX;
+
 }  // namespace
 
 LabelView::LabelView(ViewHost& host, Label& label, const ControlPlace& place)
     : ControlView(host, label, place), label_(label) {
-  const DWORD ellipsis = place.kind == ControlKind::kPathLabel ? SS_PATHELLIPSIS : SS_ENDELLIPSIS;
-  create(WC_STATICW, SS_LEFT | SS_CENTERIMAGE | SS_NOPREFIX | ellipsis);
+  create(WC_STATICW, kLabelStyle | (names_a_folder() ? SS_PATHELLIPSIS : SS_ENDELLIPSIS));
   send(WM_SETFONT, reinterpret_cast<WPARAM>(font()), FALSE);
 }
 
@@ -30,7 +31,7 @@ HFONT LabelView::font() const {
 int LabelView::wanted_width() const { return text_width(font(), widen(label_.caption()).c_str()); }
 
 void LabelView::show_reading(const std::wstring& folder) {
-  if (place().kind == ControlKind::kPathLabel) SetWindowTextW(window(), folder.c_str());
+  if (names_a_folder()) SetWindowTextW(window(), folder.c_str());
 }
 
 void LabelView::restyle() {

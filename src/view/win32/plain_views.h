@@ -14,16 +14,17 @@ namespace quillvane {
 class LabelView final : public ControlView {
  public:
   LabelView(ViewHost& host, Label& label, const ControlPlace& place);
-  void show_reading(const std::wstring& folder) override;
   void restyle() override;
   [[nodiscard]] int wanted_width() const override;
   HBRUSH prepare(HDC dc) override;
+  void show_reading(const std::wstring& folder) override;
 
  protected:
   void show_changes(const Changes& changes) override;
 
  private:
   [[nodiscard]] HFONT font() const;
+  [[nodiscard]] bool names_a_folder() const { return place().kind == ControlKind::kPathLabel; }
 
   Label& label_;
   BrushOwner page_;

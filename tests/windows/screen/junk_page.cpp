@@ -1,9 +1,5 @@
 #include "tests/windows/screen/junk_page.h"
 
-#include <commctrl.h>
-
-#include "tests/windows/screen/remote_memory.h"
-
 namespace quillvane {
 
 void JunkPage::SetUpTestSuite() {
@@ -42,14 +38,7 @@ void JunkPage::await_end_of_scan() const {
 void JunkPage::choose_all_files() const { choose_tab(1, whole_list()); }
 
 void JunkPage::choose_tab(int number, HWND list) const {
-  const HWND tabs = program_.control("Results");
-  FileHandle process(OpenProcess(PROCESS_ALL_ACCESS, FALSE, program_.id()));
-  const RemoteMemory memory(process.get(), sizeof(RECT));
-  memory.write(RECT{});
-  ASSERT_NE(SendMessageW(tabs, TCM_GETITEMRECT, static_cast<WPARAM>(number), memory.address()), 0);
-  auto area = memory.read<RECT>();
-  MapWindowPoints(tabs, nullptr, reinterpret_cast<POINT*>(&area), 2);
-  click_at(middle(area));
+  program_.click_tab(program_.control("Results"), number);
   ASSERT_TRUE(eventually("the list", [list] { return IsWindowVisible(list) != 0; }));
 }
 

@@ -163,6 +163,15 @@ std::vector<std::string> ProgramOnScreen::row_texts(HWND list, int column) const
   return texts;
 }
 
+void ProgramOnScreen::click_tab(HWND strip, int number) const {
+  const RemoteMemory memory(process_.get(), sizeof(RECT));
+  memory.write(RECT{});
+  ASSERT_NE(SendMessageW(strip, TCM_GETITEMRECT, static_cast<WPARAM>(number), memory.address()), 0);
+  auto area = memory.read<RECT>();
+  MapWindowPoints(strip, nullptr, reinterpret_cast<POINT*>(&area), 2);
+  click_at(middle(area));
+}
+
 // --- The tool bar.
 
 bool ProgramOnScreen::tool_enabled(int button) const {

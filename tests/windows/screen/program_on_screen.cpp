@@ -88,10 +88,13 @@ std::vector<HWND> controls_in(HWND window) {
 }
 
 HWND control_in(HWND window, std::string_view text) {
+  HWND hidden = nullptr;
   for (const HWND child : controls_in(window)) {
-    if (GetParent(child) == window && text_of(child) == text) return child;
+    if (GetParent(child) != window || text_of(child) != text) continue;
+    if (IsWindowVisible(child) != 0) return child;
+    if (hidden == nullptr) hidden = child;
   }
-  return nullptr;
+  return hidden;
 }
 
 HWND control_of_class(HWND window, const wchar_t* window_class) {

@@ -35,8 +35,8 @@ struct ScreenNode {
 [[nodiscard]] std::string text_of(HWND window);
 [[nodiscard]] RECT area_of(HWND window);
 
-// Controls of a window. One is known by its text, which is its accessible name; null when there is
-// none of it.
+// Controls of a window. One is known by its text, which is its accessible name, the one that shows
+// first; null when there is none of it.
 [[nodiscard]] std::vector<HWND> controls_in(HWND window);
 [[nodiscard]] HWND control_in(HWND window, std::string_view text);
 [[nodiscard]] HWND control_of_class(HWND window, const wchar_t* window_class);
@@ -90,6 +90,9 @@ class ProgramOnScreen {
   [[nodiscard]] bool row_selected(HWND list, int row) const;
   [[nodiscard]] RECT row_area(HWND list, int row) const;  // on the screen
   [[nodiscard]] std::vector<std::string> row_texts(HWND list, int column) const;
+
+  // Tabs, from 0.
+  void click_tab(HWND strip, int number) const;
 
   // The tool bar's buttons, from 1.
   [[nodiscard]] bool tool_enabled(int button) const;

@@ -40,11 +40,11 @@ std::vector<Span> lay_tracks(std::span<const Track> tracks, Span room, int gap, 
 // What the packed controls of each cell have left of it.
 class Cells {
  public:
-  Cells(const WindowLayout& layout, int width, int height, int dpi)
+  Cells(const WindowLayout& layout, const PageGrid& grid, int width, int height, int dpi)
       : gap_(scaled(layout.gap, dpi)), width_(width), margin_(scaled(layout.margin, dpi)) {
     // The title bar reaches to the edges and has its gap below it like any row.
-    rows_ = lay_tracks(layout.rows, {0, height - margin_}, gap_, dpi);
-    columns_ = lay_tracks(layout.columns, {margin_, width - margin_}, gap_, dpi);
+    rows_ = lay_tracks(grid.rows, {0, height - margin_}, gap_, dpi);
+    columns_ = lay_tracks(grid.columns, {margin_, width - margin_}, gap_, dpi);
   }
 
   [[nodiscard]] Box cell(const ControlPlace& place) const {
@@ -69,43 +69,67 @@ bool same_cell(const WindowLayout& layout, const ControlPlace& one, const Contro
          !layout.take_turns(one, other);
 }
 
+// A packed control takes its part of what its cell has left.
+Box take_from(Box& room, const ControlPlace& place, int length, int gap) {
+  Box box = room;
+  if (place.pack == Pack::kFromTop) {
+    box.height = std::min(length, std::max(room.height, 0));
+    room.top += box.height;
+    room.height -= box.height;
+    return box;
+  }
+  box.width = std::min(length, std::max(room.width, 0));
+  if (place.pack == Pack::kFromRight) box.left = room.right() - box.width;
+  const int used = std::min(box.width + gap, room.width);
+  if (place.pack == Pack::kFromLeft) room.left += used;
+  room.width -= used;
+  return box;
+}
+
 }  // namespace
+
+Box row_box(const WindowLayout& layout, int row, int width, int height, int dpi) {
+  const PageGrid own = {{}, layout.rows, layout.columns, {}};
+  const int columns = static_cast<int>(layout.columns.size());
+  return Cells(layout, own, width, height, dpi)
+      .cell(filling({}, ControlKind::kLabel, row, 0, columns));
+}
 
 Arrangement arrange(const WindowLayout& layout, int width, int height, int dpi,
                     std::span<const int> wanted) {
-  const Cells cells(layout, width, height, dpi);
-  const std::size_t count = layout.controls.size();
+  return arrange(layout, {{}, layout.rows, layout.columns, layout.controls}, width, height, dpi,
+                 wanted);
+}
+
+Arrangement arrange(const WindowLayout& layout, const PageGrid& page, int width, int height,
+                    int dpi, std::span<const int> wanted) {
+  const Cells cells(layout, page, width, height, dpi);
+  const std::size_t count = page.controls.size();
   Arrangement result;
   result.controls.resize(count);
   result.tab_strips.resize(count);
-  result.title = {0, 0, width, scaled(layout.rows.front().length, dpi)};
+  result.title = {0, 0, width, scaled(page.rows.front().length, dpi)};
   std::vector<Box> rest(count);  // of the cell of each control, kept at the cell's first control
   const auto rest_of = [&](std::size_t control) -> Box& {
     std::size_t first = 0;
-    while (!same_cell(layout, layout.controls[first], layout.controls[control])) ++first;
-    if (first == control) rest[first] = cells.cell(layout.controls[first]);
+    while (!same_cell(layout, page.controls[first], page.controls[control])) ++first;
+    if (first == control) rest[first] = cells.cell(page.controls[first]);
     return rest[first];
   };
   // The order of the table is the order of packing; what fills a cell comes after.
   for (std::size_t i = 0; i < count; ++i) {
-    const ControlPlace& place = layout.controls[i];
+    const ControlPlace& place = page.controls[i];
     Box& room = rest_of(i);
     if (place.pack == Pack::kFill) continue;
-    const int needs = std::max(scaled(place.width, dpi), wanted.empty() ? 0 : wanted[i]);
-    const int taken = std::min(needs, std::max(room.width, 0));
-    Box box = room;
-    box.width = taken;
-    if (place.pack == Pack::kFromRight) box.left = room.right() - taken;
-    result.controls[i] = box;
-    const int used = std::min(taken + cells.gap(place), room.width);
-    if (place.pack == Pack::kFromLeft) room.left += used;
-    room.width -= used;
+    const bool grows = place.pack != Pack::kFromTop && !wanted.empty();
+    const int length = std::max(scaled(place.width, dpi), grows ? wanted[i] : 0);
+    result.controls[i] = take_from(room, place, length, cells.gap(place));
   }
   for (std::size_t i = 0; i < count; ++i) {
-    const ControlPlace& place = layout.controls[i];
+    const ControlPlace& place = page.controls[i];
     if (place.pack != Pack::kFill) continue;
     std::size_t first = 0;
-    while (!same_cell(layout, layout.controls[first], place)) ++first;
+    while (!same_cell(layout, page.controls[first], place)) ++first;
     Box box = rest[first];
     if (!place.tab.empty()) {
       const int strip = std::min(scaled(layout.tab_height, dpi), box.height);

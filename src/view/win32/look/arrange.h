@@ -39,4 +39,11 @@ struct Arrangement {
 [[nodiscard]] Arrangement arrange(const WindowLayout& layout, int width, int height, int dpi,
                                   std::span<const int> wanted);
 
+// The same for one of the window's pages.
+[[nodiscard]] Arrangement arrange(const WindowLayout& layout, const PageGrid& page, int width,
+                                  int height, int dpi, std::span<const int> wanted);
+
+// A row of the window's own grid, from its left margin to its right one.
+[[nodiscard]] Box row_box(const WindowLayout& layout, int row, int width, int height, int dpi);
+
 }  // namespace quillvane

@@ -107,5 +107,33 @@ TEST(Arrange, AWindowThatIsTooSmallGivesNoNegativeLengths) {
   }
 }
 
+TEST(Arrange, AControlPackedAtTheTopTakesAHeightWithoutAGap) {
+  constexpr ControlPlace kStacked[] = {at(Pack::kFromTop, 1, 0, 2, 12),
+                                       at(Pack::kFill, 1, 0, 2, 0)};
+  const WindowLayout layout = layout_of(kStacked);
+
+  const Arrangement places = arrange(layout, 200, 200, kPlainDpi, {});
+
+  // The row begins below the title bar and a gap, and ends above the commands and theirs.
+  expect_box(places.controls[0], 10, 35, 180, 12);
+  expect_box(places.controls[1], 10, 47, 180, 118);
+}
+
+TEST(Arrange, ARowReachesFromMarginToMargin) {
+  expect_box(row_box(layout_of(kControls), 2, 200, 200, kPlainDpi), 10, 170, 180, 20);
+}
+
+TEST(Arrange, APageHasAGridOfItsOwn) {
+  constexpr Track kOneColumn[] = {{0, 1}};
+  constexpr Track kTwoRows[] = {{30, 0}, {0, 1}};
+  constexpr ControlPlace kOnly[] = {at(Pack::kFill, 1, 0, 1, 0)};
+  const PageGrid page = {{}, kTwoRows, kOneColumn, kOnly};
+
+  const Arrangement places = arrange(layout_of(kControls), page, 200, 200, kPlainDpi, {});
+
+  ASSERT_EQ(places.controls.size(), 1U);
+  expect_box(places.controls[0], 10, 35, 180, 155);
+}
+
 }  // namespace
 }  // namespace quillvane

@@ -59,7 +59,11 @@ constexpr ControlPlace kControls[] = {
     right("Label3", kLabel, kBelow, 190).on(kProgressPanel),
     left("Label6(2)", kHeading, kTop, 180).on(kResultPanel),
     left("Label4", kHeading, kTop, 60).on(kResultPanel),
-    whole("view1", kList, kMain).on(kResultPanel).says("Broken links").with("row-ss"),
+    whole("view1", kList, kMain)
+        .on(kResultPanel)
+        .says("Broken links")
+        .with("row-ss")
+        .columns_as("wtt"),
     whole("Label8(1)", kLabel, kDetail).on(kResultPanel),
     left("cmd_all", kButton, kBelow, 104).on(kResultPanel),
     left("cmd_non", kButton, kBelow, 104).on(kResultPanel),

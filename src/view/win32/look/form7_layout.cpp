@@ -1,13 +1,16 @@
 #include "view/win32/look/form7_layout.h"
 
+#include "view/win32/look/drive_search_pages.h"
+
 namespace quillvane {
 
 namespace {
 
-enum Row { kTitle, kTools, kMain, kSelect, kSummary, kBar, kCommands };
+enum Row { kTitle, kTasks, kTools, kMain, kSelect, kSummary, kBar, kCommands };
 
 constexpr Track kRows[] = {
     {36, 0},   // title bar
+    {28, 0},   // tabs of the two jobs
     {40, 0},   // tool bar
     {160, 1},  // tree and lists
     {28, 0},   // selection, and the file being looked at
@@ -79,21 +82,23 @@ constexpr ControlPlace kControls[] = {
 };
 
 constexpr ToolbarHint kHints[] = {
-    {1, "Drives"},         {2, "Results"},          {3, "Exclude and include lists"},
+    {1, "Drives"},         {2, "File types"},       {3, "Exclude and include lists"},
     {5, "Start the scan"}, {6, "Start cleaning"},   {7, "Cancel the scan"},
     {9, "Select all"},     {10, "Select none"},     {12, "Custom search"},
     {13, "Ignore list"},   {14, "Create a report"}, {16, "Eraser"},
 };
 
 constexpr KeyClick kKeys[] = {
-    {0x70, "Image44(0)"},  // F1
-    {0x74, "cmd_start"},   // F5
-    {0x1B, "cmd_cancel"},  // Escape
+    {0x70, "Image44(0)"},                                                            // F1
+    {0x74, "cmd_start"},                                                             // F5
+    {0x74, "chameleonButton10"}, {0x74, "chameleonButton10"}, {0x1B, "cmd_cancel"},  // Escape
+    {0x1B, "orvbutton10"},
 };
 
 constexpr ReadingClick kReadingClicks[] = {
     {"cmd_cancel", 0, WhileReading::kEndsIt},
     {"Toolbar1", 7, WhileReading::kEndsIt},  // Cancel the scan
+    {"orvbutton10", 0, WhileReading::kEndsIt},
     {"chameleonButton9", 0, WhileReading::kEndsIt},
     {"chameleonButton12", 0, WhileReading::kActsNow},
 };
@@ -116,20 +121,9 @@ constexpr std::string_view kUndrawn[] = {
     "Drive1",
     "Shape2",
     // Buttons that only hold a run.
-    "orvbutton2",
-    "orvbutton3",
     "Command9",
     "Command14",
     // Ways to the pages of the drive search, and the commands of its file types.
-    "chameleonButton6",
-    "orvbutton8",
-    "chameleonButton1",
-    "TabStrip1",
-    "Label8",
-    "command331",
-    "chameleonButton5",
-    "command338",
-    "command339",
     "chameleonButton331",
     "chameleonButton332",
     "command335",
@@ -140,25 +134,12 @@ constexpr std::string_view kUndrawn[] = {
     "Text55",
     "List5",
     "List6",
-    "command111",
-    "command811",
-    "command911",
-    "orvbutton611",
-    "orvbutton711",
     "command511",
     "Command1",
     "Command8",
     "Text11",
     "Text12",
     // The drive search: its commands, its progress and its variables.
-    "chameleonButton10",
-    "chameleonButton8",
-    "orvbutton5",
-    "orvbutton10",
-    "Label5",
-    "Label7",
-    "Label10",
-    "Bar1",
     "orvbutton6",
     "Command2",
     "chameleonButton3",
@@ -177,22 +158,12 @@ constexpr std::string_view kUndrawn[] = {
     "Label12(0)",
     "Label12(1)",
     // Pages and panels: their controls are drawn, or come later.
-    "Frame2",
-    "Frame4",
-    "Frame6",
-    "Frame8",
-    "Frame80",
     // The list of the languages draws them.
     "pictrlang",
     "lbllanguage(0)",
     "imglangselect",
-    "View2",
     "View10",
     "View4",
-    "View1000",
-    "View201",
-    "View202",
-    "View101",
     // Not in the window: the help key, the tray, the timer and the pop-up menus.
     "Image44(0)",
     "TrayArea1",
@@ -242,6 +213,14 @@ constexpr WindowLayout kLayout = {
 
 }  // namespace
 
-const WindowLayout& form7_layout() { return kLayout; }
+const WindowLayout& form7_layout() {
+  static const WindowLayout layout = [] {
+    WindowLayout whole = kLayout;
+    whole.page_set = drive_search_pages();
+    whole.asked_clicks = drive_search_questions();
+    return whole;
+  }();
+  return layout;
+}
 
 }  // namespace quillvane

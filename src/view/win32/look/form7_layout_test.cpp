@@ -27,6 +27,7 @@ TEST(Form7Layout, OnlyCancelAndCloseEndTheReadingOfATree) {
   const WindowLayout& layout = form7_layout();
   EXPECT_EQ(layout.while_reading("cmd_cancel"), WhileReading::kEndsIt);
   EXPECT_EQ(layout.while_reading("Toolbar1", 7), WhileReading::kEndsIt);
+  EXPECT_EQ(layout.while_reading("orvbutton10"), WhileReading::kEndsIt);
   EXPECT_EQ(layout.while_reading("chameleonButton9"), WhileReading::kEndsIt);
   EXPECT_EQ(layout.while_reading("chameleonButton12"), WhileReading::kActsNow);
   for (const ControlPlace& place : layout.controls) {

@@ -15,13 +15,17 @@ enum class ControlKind {
   kToolbar,
   kTree,
   kList,         // with boxes to tick and pictures
+  kPictureList,  // with pictures alone
   kPlainList,    // without
+  kTabs,         // tabs of the program's own, which change what its lists hold
   kButton,       // a command with its caption
   kMainButton,   // the command of the page
   kTitleButton,  // a picture in the title bar
   kLink,         // a text that is clicked
   kLabel,
   kHeading,  // a label in bold
+  kCaption,  // the view's own words before a control, whose showing they share
+  kNote,     // the view's own words on a page: a heading, and below it what follows a line end
   kEdit,     // a line of text to be typed
   kCheckBox,
   kOption,     // one of a group of choices
@@ -38,6 +42,7 @@ enum class Pack {
   kFill,       // what the packed ones leave
   kFromLeft,   // behind those that were packed before it
   kFromRight,  // before those that were packed before it
+  kFromTop,    // above all others of the cell, without a gap; its width is a height
 };
 
 struct ControlPlace {
@@ -55,7 +60,15 @@ struct ControlPlace {
   std::string_view page;
   // Controls of one cell that have a tab share the cell and are shown in turn.
   std::string_view tab;
-  std::string_view picture;  // its own, or the set that a list, tree or tool bar takes from
+  // Its own, or the set that a list, tree or tool bar takes from. "row-NAME": the pictures of rows
+  // by their keys, that one where a row has no other.
+  std::string_view picture;
+  // Of a list, a letter a column: w takes what the others leave, n a number, t a text, s a short
+  // one, b the space that is left of the number in the column before, with a bar of what is taken.
+  // Empty: as the kind has it.
+  std::string_view column_looks = {};
+  // Drawn though the model has it hidden: there no window shows what the button holds.
+  bool though_hidden = false;
 
   // The same place with one thing more, so that a table holds a control a line.
   [[nodiscard]] constexpr ControlPlace says(std::string_view text) const {
@@ -78,6 +91,16 @@ struct ControlPlace {
     place.picture = its_picture;
     return place;
   }
+  [[nodiscard]] constexpr ControlPlace columns_as(std::string_view looks) const {
+    ControlPlace place = *this;
+    place.column_looks = looks;
+    return place;
+  }
+  [[nodiscard]] constexpr ControlPlace drawn_though_hidden() const {
+    ControlPlace place = *this;
+    place.though_hidden = true;
+    return place;
+  }
 };
 
 // A control that fills what others leave of its cell.
@@ -98,13 +121,46 @@ struct Track {
   int share;   // 0: fixed
 };
 
+// Controls with a grid of their own that take turns with the window's others.
+struct PageGrid {
+  std::string_view
+      frame;  // the frame whose page it is; empty: it shows on all pages, while none is at work
+  std::span<const Track> rows;
+  std::span<const Track> columns;
+  std::span<const ControlPlace> controls;
+};
+
+// A window may do two jobs. Tabs below the title bar change between the window's own controls and
+// pages, of which the one shows whose frame is foremost.
+struct PageSet {
+  std::string_view own_tab;  // caption of the tab of the window's own controls
+  std::string_view pages_tab;
+  int tab_row = 0;                   // of the window's own grid; they stand at its left end
+  std::string_view first_page;       // the button that brings the first page to the front
+  std::string_view shared_page;      // the frame that shows results of either job
+  std::string_view run_page = {};    // the frame that shows while the pages' job runs
+  std::string_view own_work;         // the control that is enabled while the window's own job runs
+  std::string_view pages_work = {};  // the text box that holds "1" while the pages' job runs
+  std::span<const PageGrid> pages = {};  // the foremost first
+
+  [[nodiscard]] constexpr bool empty() const { return pages.empty(); }
+};
+
+// A click before which the user is asked, since nothing else asks: it takes all rows of a list.
+struct AskedClick {
+  std::string_view control;
+  std::string_view list;
+  std::string_view question;  // stands behind the number of rows
+};
+
 // What a screen reader and a pointing user are told of a tool bar's button, which has no text.
 struct ToolbarHint {
   int button;
   std::string_view text;
 };
 
-// A key that clicks a control wherever the focus is. `key` is Windows' number of it.
+// A key that clicks a control wherever the focus is, unless it is drawn on a page that isn't shown.
+// `key` is Windows' number of it.
 struct KeyClick {
   int key;
   std::string_view control;
@@ -158,6 +214,8 @@ struct WindowLayout {
   int least_width;  // to which it can be made smaller; with both as at the start, it keeps its size
   int least_height;
   ChoicePanel choices = {};
+  PageSet page_set = {};
+  std::span<const AskedClick> asked_clicks = {};
 
   [[nodiscard]] constexpr WhileReading while_reading(std::string_view control,
                                                      int button = 0) const {

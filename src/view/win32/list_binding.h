@@ -32,6 +32,7 @@ class ListBinding final : public ControlView {
   void make_images();
   void make_columns();
   void show_captions();
+  [[nodiscard]] int caption_width(int column) const;  // pixels
   void set_widths();
   void fit_columns();
   void show_order();

@@ -112,13 +112,20 @@ void ListBinding::make_images() {
   send(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(images_.get()));
 }
 
+// What the header needs for the caption of a column.
+int ListBinding::caption_width(int column) const {
+  const auto header = reinterpret_cast<HWND>(send(LVM_GETHEADER));
+  const auto font = reinterpret_cast<HFONT>(SendMessageW(header, WM_GETFONT, 0, 0));
+  const std::wstring caption = widen(list_.columns()[static_cast<std::size_t>(column)]);
+  return text_width(font, caption.c_str()) + 2 * scaled(kHeaderBeside, host().dpi());
+}
+
 void ListBinding::set_widths() {
   const int count = static_cast<int>(list_.columns().size());
   for (int column = 0; column < count; ++column) {
-    const int width = width_of(look_of(column));
     const int told = list_.column_width(column + 1) / kTwipsOfUnit;
-    send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column),
-         scaled(told != 0 ? told : width, host().dpi()));
+    const int usual = scaled(told != 0 ? told : width_of(look_of(column)), host().dpi());
+    send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), std::max(usual, caption_width(column)));
   }
   fit_columns();
 }
@@ -143,6 +150,7 @@ void ListBinding::show_captions() {
     column.pszText = text.data();
     send(LVM_SETCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
   }
+  set_widths();
 }
 
 // One column takes what the others leave.
@@ -155,7 +163,9 @@ void ListBinding::fit_columns() {
     if (i != wide) others += static_cast<int>(send(LVM_GETCOLUMNWIDTH, i));
   }
   const int room = client_area().right - others;
-  const int width = std::max(room, scaled(kLeastColumn, host().dpi()));
+  const int least =
+      std::max(scaled(kLeastColumn, host().dpi()), caption_width(static_cast<int>(wide)));
+  const int width = std::max(room, least);
   if (send(LVM_GETCOLUMNWIDTH, wide) != width) send(LVM_SETCOLUMNWIDTH, wide, width);
 }
 

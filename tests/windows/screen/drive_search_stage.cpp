@@ -50,13 +50,12 @@ void DriveSearchStage::go(const char* way, const char* shown) const {
   ASSERT_TRUE(eventually(shown, [&] { return shows(shown); }));
 }
 
-void DriveSearchStage::tick(HWND list, int row) const {
-  const RECT text = program().row_area(list, row);
-  const bool before = program().row_ticked(list, row);
+void DriveSearchStage::tick(HWND list, int row, bool on) const {
+  if (program().row_ticked(list, row) == on) return;
   RECT edge{};
   GetWindowRect(list, &edge);
-  click_at({edge.left + 12, middle(text).y});
-  ASSERT_TRUE(eventually("a tick", [&] { return program().row_ticked(list, row) != before; }));
+  click_at({edge.left + 12, middle(program().row_area(list, row)).y});
+  ASSERT_TRUE(eventually("a tick", [&] { return program().row_ticked(list, row) == on; }));
 }
 
 }  // namespace quillvane

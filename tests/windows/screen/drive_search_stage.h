@@ -32,8 +32,8 @@ class DriveSearchStage : public testing::Test {
   [[nodiscard]] bool shows(const char* control) const {
     return IsWindowVisible(program().control(control)) != 0;
   }
-  // Clicks the box before a row, which stands before the picture.
-  void tick(HWND list, int row) const;
+  // Clicks the box before a row, unless it stands so. Drives keep their ticks from run to run.
+  void tick(HWND list, int row, bool on) const;
 
   [[nodiscard]] const ProgramOnScreen& program() const { return *program_; }
   [[nodiscard]] const CopiedProgram& copy() const { return copy_; }

@@ -33,6 +33,7 @@ class PlantedLinks {
  public:
   explicit PlantedLinks(int count) {
     CoInitialize(nullptr);
+    fs::remove_all(folder_);  // a test that was ended may have left its own
     fs::create_directories(folder_);
     const fs::path targets = "C:\\qv-gone";
     fs::create_directories(targets);

@@ -32,13 +32,16 @@ class DriveSearchStage : public testing::Test {
   [[nodiscard]] bool shows(const char* control) const {
     return IsWindowVisible(program().control(control)) != 0;
   }
-  // Clicks the box before a row, unless it stands so. Drives keep their ticks from run to run.
+  // Clicks the box before a row until it stands so, at least once. Drives keep their ticks from run
+  // to run.
   void tick(HWND list, int row, bool on) const;
 
   [[nodiscard]] const ProgramOnScreen& program() const { return *program_; }
   [[nodiscard]] const CopiedProgram& copy() const { return copy_; }
 
  private:
+  void flip(HWND list, int row) const;
+
   std::filesystem::path folder_ = "C:\\qv-drive";
   const CopiedProgram copy_;
   std::unique_ptr<ProgramOnScreen> program_;

@@ -1,4 +1,4 @@
-// Whether a name is there, asked by a pattern lookup as Visual Basic's `Dir` does.
+// Whether a name is there, asked by a lookup that knows patterns and attributes.
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,4 @@
-// Names looked up as Visual Basic's `Dir` does.
+// Names looked up by patterns and attributes.
 #include <string>
 
 #include "platform/name_lookup.h"

@@ -179,8 +179,8 @@ void SearchRun::search_included_folders() {
   for (int i = 0; i < folders.count() && !session.ended(); ++i) {
     session.do_events();
     search.searchinsubfolders = true;
-    const std::string_view folder = Trim(folders.item(i));
-    if (!folder.empty()) search_place(std::string(folder) + "\\", kEveryFile);
+    const std::string folder(Trim(folders.item(i)));
+    if (!folder.empty()) search_place(folder + "\\", kEveryFile);
   }
   search_place(GetTempDir(platform().environment), kEveryFile);
 }

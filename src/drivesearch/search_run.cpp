@@ -28,7 +28,7 @@ constexpr int kStatusColumn = 3;  // of View2
 // A setting of the system that stands in one of two places.
 std::string setting(const Registry& registry, Hive hive, const char* key, const char* key_of_nt,
                     const char* name) {
-  const std::string text = ReadRegistryString(registry, hive, key, name).text;
+  std::string text = ReadRegistryString(registry, hive, key, name).text;
   if (!Trim(text).empty()) return text;
   return ReadRegistryString(registry, hive, key_of_nt, name).text;
 }
